@@ -1,0 +1,98 @@
+#include "MainWindow.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+namespace {
+
+constexpr int sidebarWidth = 200;
+constexpr int rowHeight = 32;
+
+} // namespace
+
+MainWindow::MainWindow(Appearance appearance, QWidget* parent)
+    : QWidget(parent)
+{
+    setWindowTitle(QStringLiteral("Vexel"));
+    setPalette(Look::palette(appearance));
+    setAutoFillBackground(true);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(buildSidebar(appearance));
+    m_pages = new QStackedWidget(this);
+    m_pages->addWidget(buildPlaceholder(appearance));
+    layout->addWidget(m_pages, 1);
+    resize(960, 620);
+}
+
+QWidget* MainWindow::buildSidebar(Appearance appearance)
+{
+    m_sidebar = new QListWidget(this);
+    m_sidebar->setFixedWidth(sidebarWidth);
+    m_sidebar->setFrameShape(QFrame::NoFrame);
+    m_sidebar->setFocusPolicy(Qt::NoFocus);
+    QPalette palette = Look::palette(appearance);
+    palette.setColor(QPalette::Base, Look::sidebar(appearance));
+    m_sidebar->setPalette(palette);
+    m_sidebar->setFont(Look::font(10.5));
+    m_sidebar->setSpacing(1);
+    m_sidebar->setContentsMargins(8, 12, 8, 12);
+    for (const auto route : allRoutes) {
+        auto* item = new QListWidgetItem(QString::fromStdString(title(route)), m_sidebar);
+        item->setSizeHint(QSize(sidebarWidth - 16, rowHeight));
+        item->setToolTip(QString::fromStdString(shortcut(route)));
+        item->setData(Qt::UserRole, QString::fromStdString(identifier(route)));
+    }
+    m_sidebar->setCurrentRow(0);
+    connect(m_sidebar, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && row < static_cast<int>(allRoutes.size()))
+            emit routeChanged(allRoutes[static_cast<size_t>(row)]);
+    });
+    return m_sidebar;
+}
+
+QWidget* MainWindow::buildPlaceholder(Appearance appearance)
+{
+    auto* page = new QWidget(this);
+    auto* layout = new QVBoxLayout(page);
+    m_placeholder = new QLabel(QStringLiteral("Taking the first reading…"), page);
+    m_placeholder->setAlignment(Qt::AlignCenter);
+    m_placeholder->setFont(Look::font(13));
+    QPalette palette = m_placeholder->palette();
+    palette.setColor(QPalette::WindowText, Look::secondaryText(appearance));
+    m_placeholder->setPalette(palette);
+    layout->addWidget(m_placeholder);
+    return page;
+}
+
+Route MainWindow::currentRoute() const
+{
+    const int row = m_sidebar->currentRow();
+    return row >= 0 ? allRoutes[static_cast<size_t>(row)] : Route::overview;
+}
+
+void MainWindow::showRoute(Route route)
+{
+    m_sidebar->setCurrentRow(static_cast<int>(route));
+}
+
+QStringList MainWindow::sidebarTitles() const
+{
+    QStringList titles;
+    for (int i = 0; i < m_sidebar->count(); ++i)
+        titles << m_sidebar->item(i)->text();
+    return titles;
+}
+
+QString MainWindow::pageText() const
+{
+    return m_placeholder->text();
+}
+
+} // namespace vexel

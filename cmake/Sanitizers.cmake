@@ -1,0 +1,5 @@
+# ASan + UBSan for the whole tree; any report aborts the test that caused it.
+if(VEXEL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,111 @@
+#include "io/Files.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vexel::Files {
+
+namespace {
+
+struct CloseFd {
+    int fd;
+    ~CloseFd()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+};
+
+struct CloseDir {
+    void operator()(DIR* dir) const { ::closedir(dir); }
+};
+
+} // namespace
+
+bool readInto(const std::string& path, std::string& buffer, size_t maxBytes)
+{
+    buffer.clear();
+    CloseFd file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+    if (file.fd < 0)
+        return false;
+    size_t used = 0;
+    size_t chunk = 4096;
+    while (used < maxBytes) {
+        buffer.resize(std::min(used + chunk, maxBytes));
+        const ssize_t got = ::read(file.fd, buffer.data() + used, buffer.size() - used);
+        if (got < 0) {
+            if (errno == EINTR)
+                continue;
+            buffer.clear();
+            return false;
+        }
+        if (got == 0)
+            break;
+        used += static_cast<size_t>(got);
+        chunk *= 2;
+    }
+    buffer.resize(used);
+    return true;
+}
+
+std::optional<std::string> read(const std::string& path, size_t maxBytes)
+{
+    std::string buffer;
+    if (!readInto(path, buffer, maxBytes))
+        return std::nullopt;
+    return buffer;
+}
+
+std::vector<std::string> list(const std::string& folder)
+{
+    std::vector<std::string> names;
+    std::unique_ptr<DIR, CloseDir> dir(::opendir(folder.c_str()));
+    if (!dir)
+        return names;
+    while (const dirent* entry = ::readdir(dir.get())) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..")
+            names.push_back(name);
+    }
+    return names;
+}
+
+bool exists(const std::string& path)
+{
+    struct stat info { };
+    return ::stat(path.c_str(), &info) == 0;
+}
+
+std::optional<std::string> readLink(const std::string& path)
+{
+    char target[PATH_MAX];
+    const ssize_t length = ::readlink(path.c_str(), target, sizeof target);
+    if (length <= 0 || static_cast<size_t>(length) >= sizeof target)
+        return std::nullopt;
+    return std::string(target, static_cast<size_t>(length));
+}
+
+std::optional<std::string> realPath(const std::string& path)
+{
+    std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
+    if (!resolved)
+        return std::nullopt;
+    return std::string(resolved.get());
+}
+
+std::string baseName(const std::string& path)
+{
+    auto end = path.size();
+    while (end > 1 && path[end - 1] == '/')
+        --end;
+    const auto slash = path.rfind('/', end - 1);
+    return slash == std::string::npos ? path.substr(0, end) : path.substr(slash + 1, end - slash - 1);
+}
+
+} // namespace vexel::Files

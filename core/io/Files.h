@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vexel::Files {
+
+// The first `maxBytes` of a file, read with as few system calls as possible;
+// nothing when it cannot be opened or read. /proc and sysfs files report a
+// size of 0, so the size is never trusted.
+[[nodiscard]] std::optional<std::string> read(const std::string& path, size_t maxBytes = 256 * 1024);
+
+// Reads into `buffer` (reusing its capacity); false when the file cannot be read.
+[[nodiscard]] bool readInto(const std::string& path, std::string& buffer, size_t maxBytes = 256 * 1024);
+
+// The names in a folder, without "." and ".."; empty when it cannot be listed.
+[[nodiscard]] std::vector<std::string> list(const std::string& folder);
+
+// Whether anything (a file, folder or a link to one) exists at `path`.
+[[nodiscard]] bool exists(const std::string& path);
+
+// The target of a symbolic link; nothing when `path` is not a readable link.
+[[nodiscard]] std::optional<std::string> readLink(const std::string& path);
+
+// The canonical absolute path; nothing when it cannot be resolved.
+[[nodiscard]] std::optional<std::string> realPath(const std::string& path);
+
+// The last component of a path ("/a/b" → "b").
+[[nodiscard]] std::string baseName(const std::string& path);
+
+} // namespace vexel::Files

@@ -1,0 +1,154 @@
+#include "system/linux/ThermalReader.h"
+
+#include "io/Files.h"
+#include "text/TextScan.h"
+
+#include <algorithm>
+#include <set>
+
+namespace vexel {
+
+namespace {
+
+constexpr double rediscoverSeconds = 60;
+
+std::optional<double> numberAt(const std::string& path)
+{
+    const auto text = Files::read(path, 256);
+    return text ? TextScan::toDouble(*text) : std::nullopt;
+}
+
+std::string wordAt(const std::string& path)
+{
+    const auto text = Files::read(path, 256);
+    return text ? std::string(TextScan::trim(*text)) : std::string();
+}
+
+std::vector<std::string> entriesWithPrefix(const std::string& folder, std::string_view prefix)
+{
+    std::vector<std::string> paths;
+    for (const auto& name : Files::list(folder)) {
+        if (name.starts_with(prefix))
+            paths.push_back(folder + "/" + name);
+    }
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
+bool isCpuSensorChip(std::string_view name)
+{
+    return name == "coretemp" || name == "k10temp" || name == "zenpower";
+}
+
+std::optional<double> celsius(const std::string& path)
+{
+    const auto milli = numberAt(path);
+    if (!milli)
+        return std::nullopt;
+    return *milli / 1000.0;
+}
+
+ThermalRule::Zone readZone(const std::string& path)
+{
+    ThermalRule::Zone zone;
+    zone.celsius = celsius(path + "/temp").value_or(0);
+    for (int i = 0; i < 32; ++i) {
+        const std::string trip = path + "/trip_point_" + std::to_string(i);
+        const auto type = wordAt(trip + "_type");
+        if (type.empty())
+            break;
+        if (const auto temperature = celsius(trip + "_temp"); temperature && *temperature > 0)
+            zone.trips.push_back({type, *temperature});
+    }
+    return zone;
+}
+
+} // namespace
+
+void ThermalReader::discover(double now)
+{
+    m_discoveredAt = now;
+    const std::string thermal = m_roots.sys + "/class/thermal";
+    m_zones = entriesWithPrefix(thermal, "thermal_zone");
+    m_coolingDevices = entriesWithPrefix(thermal, "cooling_device");
+    m_sensors.clear();
+    for (const auto& hwmon : entriesWithPrefix(m_roots.sys + "/class/hwmon", "hwmon")) {
+        // Some drivers put their files one level down, under device/.
+        std::string base = hwmon;
+        auto chip = wordAt(base + "/name");
+        if (chip.empty()) {
+            base = hwmon + "/device";
+            chip = wordAt(base + "/name");
+        }
+        if (!isCpuSensorChip(chip))
+            continue;
+        for (const auto& name : Files::list(base)) {
+            if (!name.starts_with("temp") || !name.ends_with("_input"))
+                continue;
+            const std::string stem = base + "/" + name.substr(0, name.size() - 6);
+            const auto label = wordAt(stem + "_label");
+            const bool package = label.starts_with("Package") || label == "Tctl" || label == "Tdie";
+            m_sensors.push_back({stem + "_input", stem + "_max", stem + "_crit", package});
+        }
+    }
+    m_throttleFolders.clear();
+    std::set<std::string> packages;
+    for (const auto& cpu : entriesWithPrefix(m_roots.sys + "/devices/system/cpu", "cpu")) {
+        const std::string folder = cpu + "/thermal_throttle";
+        if (!Files::exists(folder + "/package_throttle_count"))
+            continue;
+        // package_* repeats on every CPU of a package: count each package once.
+        if (packages.insert(wordAt(cpu + "/topology/physical_package_id")).second)
+            m_throttleFolders.push_back(folder);
+    }
+}
+
+ThermalRule::Throttling ThermalReader::throttling(double now)
+{
+    if (m_throttleFolders.empty())
+        return {};
+    double count = 0;
+    double milliseconds = 0;
+    for (const auto& folder : m_throttleFolders) {
+        count += numberAt(folder + "/package_throttle_count").value_or(0);
+        milliseconds += numberAt(folder + "/package_throttle_total_time_ms").value_or(0);
+    }
+    ThermalRule::Throttling result;
+    if (m_lastThrottleCount && m_lastThrottleMs && now > m_lastThrottleTime) {
+        result.advanced = count > *m_lastThrottleCount || milliseconds > *m_lastThrottleMs;
+        const double interval = (now - m_lastThrottleTime) * 1000.0 * static_cast<double>(m_throttleFolders.size());
+        result.fractionOfInterval = std::max(0.0, milliseconds - *m_lastThrottleMs) / interval;
+    }
+    m_lastThrottleCount = count;
+    m_lastThrottleMs = milliseconds;
+    m_lastThrottleTime = now;
+    return result;
+}
+
+ThermalRule::Inputs ThermalReader::inputs(double now)
+{
+    if (!m_discoveredAt || now < *m_discoveredAt || now - *m_discoveredAt > rediscoverSeconds)
+        discover(now);
+    ThermalRule::Inputs inputs;
+    for (const auto& zone : m_zones) {
+        if (wordAt(zone + "/mode") != "disabled")
+            inputs.zones.push_back(readZone(zone));
+    }
+    for (const auto& device : m_coolingDevices) {
+        const auto state = numberAt(device + "/cur_state");
+        inputs.coolingDevices.push_back({wordAt(device + "/type"), static_cast<long long>(state.value_or(0))});
+    }
+    for (const auto& sensor : m_sensors) {
+        if (const auto value = celsius(sensor.input))
+            inputs.cpuSensors.push_back({*value, celsius(sensor.max), celsius(sensor.crit), sensor.package});
+    }
+    inputs.throttling = throttling(now);
+    return inputs;
+}
+
+ThermalLevel ThermalReader::read(double now)
+{
+    return m_stepper.next(ThermalRule::judge(inputs(now)));
+}
+
+} // namespace vexel

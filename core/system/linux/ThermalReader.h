@@ -1,0 +1,51 @@
+#pragma once
+
+#include "system/ThermalLevel.h"
+#include "system/linux/LinuxRoots.h"
+#include "system/linux/ThermalRule.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vexel {
+
+// Gathers thermal zones, processor cooling devices, CPU temperature sensors
+// and Intel throttle counters from sysfs and judges the thermal level.
+class ThermalReader {
+public:
+    explicit ThermalReader(const LinuxRoots& roots)
+        : m_roots(roots)
+    {
+    }
+
+    // The smoothed level at `now`; nominal when nothing can be read.
+    [[nodiscard]] ThermalLevel read(double now);
+
+    // The raw inputs of one reading, for tests and for showing temperatures.
+    [[nodiscard]] ThermalRule::Inputs inputs(double now);
+
+private:
+    struct Sensor {
+        std::string input;
+        std::string max;
+        std::string crit;
+        bool package = false;
+    };
+
+    void discover(double now);
+    [[nodiscard]] ThermalRule::Throttling throttling(double now);
+
+    const LinuxRoots& m_roots;
+    std::optional<double> m_discoveredAt;
+    std::vector<std::string> m_zones;
+    std::vector<std::string> m_coolingDevices;
+    std::vector<Sensor> m_sensors;
+    std::vector<std::string> m_throttleFolders; // one per physical package
+    std::optional<double> m_lastThrottleCount;
+    std::optional<double> m_lastThrottleMs;
+    double m_lastThrottleTime = 0;
+    ThermalRule::Stepper m_stepper;
+};
+
+} // namespace vexel
