@@ -40,3 +40,4 @@ private:
 };
 
 } // namespace vexel
+Q_DECLARE_METATYPE(vexel::Route)

@@ -2,11 +2,44 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <locale.h>
 
 namespace vexel {
 
+namespace {
+
+// The "C" locale for numbers, so that a host program that switched
+// LC_NUMERIC (the desktop app's toolkit may) still gets "." as the decimal point.
+locale_t numericC()
+{
+    static const locale_t locale = ::newlocale(LC_NUMERIC_MASK, "C", static_cast<locale_t>(nullptr));
+    return locale;
+}
+
+// Switches the calling thread to the "C" number locale for its lifetime.
+class CNumbers {
+public:
+    CNumbers()
+        : m_previous(numericC() != nullptr ? ::uselocale(numericC()) : nullptr)
+    {
+    }
+    ~CNumbers()
+    {
+        if (m_previous != nullptr)
+            ::uselocale(m_previous);
+    }
+    CNumbers(const CNumbers&) = delete;
+    CNumbers& operator=(const CNumbers&) = delete;
+
+private:
+    locale_t m_previous;
+};
+
+} // namespace
+
 std::string cformat(const char* format, ...)
 {
+    const CNumbers numbers;
     char small[128];
     va_list args;
     va_start(args, format);

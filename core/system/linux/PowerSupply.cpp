@@ -127,12 +127,17 @@ std::optional<double> hoursFor(const std::vector<const Attributes*>& batteries, 
     return ratio("charge_now", "charge_full", "current_now");
 }
 
+// The kernel's own estimate, when every battery gives one; a negative or zero estimate is no estimate.
 std::optional<int> minutesFromKernel(const std::vector<const Attributes*>& batteries, const char* key)
 {
-    const auto seconds = sum(batteries, key);
-    if (!seconds)
-        return std::nullopt;
-    return positiveMinutes(*seconds / 60.0);
+    double seconds = 0;
+    for (const auto* battery : batteries) {
+        const auto value = number(*battery, key);
+        if (!value || *value <= 0)
+            return std::nullopt;
+        seconds += *value;
+    }
+    return positiveMinutes(seconds / 60.0);
 }
 
 void fillCapacities(BatteryStats& stats, const Attributes& first)

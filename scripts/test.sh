@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Sets up what is missing, builds everything with warnings as errors and runs
+# every test: the CTest suites, then each fuzz target over its seeds and a
+# short run of new inputs.
+#   --sanitize   build and test in build-asan with ASan + UBSan instead
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+build=build
+options=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXEL_WERROR=ON)
+fuzz=1
+if [[ "${1:-}" == "--sanitize" ]]; then
+  build=build-asan
+  options=(-DCMAKE_BUILD_TYPE=Debug -DVEXEL_WERROR=ON -DVEXEL_SANITIZE=ON -DVEXEL_BUILD_BENCH=OFF)
+  fuzz=0
+fi
+
+scripts/install-deps.sh
+cmake -S . -B "$build" -G Ninja "${options[@]}" >/dev/null
+cmake --build "$build"
+export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
+export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+(cd "$build" && ctest --output-on-failure -j2)
+
+if ((fuzz)); then
+  scripts/fuzz.sh
+fi

@@ -1,0 +1,23 @@
+// Widget tests render offscreen with the app's own font, so that pictures do
+// not depend on the machine. CTest's discovery runs this binary without the
+// test environment, so the platform is chosen here.
+
+#include "Appearance.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    if (!vexel::Look::installFont()) {
+        std::fprintf(stderr, "the Inter font is missing: install fonts-inter\n");
+        return 1;
+    }
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

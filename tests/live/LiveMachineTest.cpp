@@ -1,0 +1,138 @@
+// The live reader on this machine, checked against the system's own tools.
+
+#include "io/Files.h"
+#include "support/RunTool.h"
+#include "system/linux/Diskstats.h"
+#include "system/linux/LiveSystemReader.h"
+#include "system/linux/NetDev.h"
+#include "system/linux/ProcStat.h"
+#include "text/TextScan.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
+
+using namespace vexel;
+using vexel::testing::runTool;
+
+namespace {
+
+std::vector<std::string_view> lineStartingWith(const std::string& text, std::string_view start)
+{
+    std::vector<std::string_view> found;
+    TextScan::forEachLine(text, [&](std::string_view line) {
+        const auto trimmed = TextScan::trim(line);
+        if (found.empty() && trimmed.starts_with(start))
+            found = TextScan::words(trimmed);
+    });
+    return found;
+}
+
+// Bytes written to whole disks and bytes received on counted interfaces, read straight from /proc.
+struct RawCounters {
+    uint64_t written = 0;
+    uint64_t received = 0;
+};
+
+RawCounters rawCounters()
+{
+    RawCounters raw;
+    for (const auto& device : Diskstats::parse(Files::read("/proc/diskstats").value_or(""))) {
+        const std::string name(device.name);
+        if (Files::exists("/sys/block/" + name + "/device"))
+            raw.written += device.bytesWritten;
+    }
+    for (const auto& interface : NetDev::parse(Files::read("/proc/net/dev").value_or(""))) {
+        const std::string name(interface.name);
+        if (name != "lo" && Files::exists("/sys/class/net/" + name + "/device"))
+            raw.received += interface.received;
+    }
+    return raw;
+}
+
+void writeToDisk()
+{
+    const auto file = std::filesystem::temp_directory_path() / ("vexel-io-" + std::to_string(::getpid()));
+    const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    ASSERT_GE(fd, 0);
+    const std::string block(1 << 20, 'x');
+    for (int i = 0; i < 8; ++i)
+        ASSERT_EQ(::write(fd, block.data(), block.size()), static_cast<ssize_t>(block.size()));
+    ::fsync(fd);
+    ::close(fd);
+    std::filesystem::remove(file);
+}
+
+} // namespace
+
+TEST(LiveMachine, CoresMemoryAndRootVolumeMatchTheSystemTools)
+{
+    LiveSystemReader reader;
+    const auto snapshot = reader.read(1000);
+
+    const auto nproc = runTool({"nproc", "--all"});
+    ASSERT_EQ(nproc.status, 0);
+    EXPECT_EQ(static_cast<uint64_t>(snapshot.cpu.cores.size()), TextScan::toU64(nproc.out));
+
+    const auto free = lineStartingWith(runTool({"free", "-b"}).out, "Mem:");
+    ASSERT_GE(free.size(), 2u);
+    EXPECT_EQ(snapshot.memory.total, TextScan::toU64(free[1]));
+
+    const auto df = runTool({"df", "-B1", "--output=size,avail", "/"});
+    ASSERT_EQ(df.status, 0);
+    const std::string dfValues = df.out.substr(df.out.find('\n') + 1);
+    const auto dfWords = TextScan::words(dfValues);
+    ASSERT_EQ(dfWords.size(), 2u);
+    ASSERT_FALSE(snapshot.disk.volumes.empty());
+    const auto& root = snapshot.disk.volumes.front();
+    EXPECT_EQ(root.path, "/");
+    EXPECT_EQ(root.total, TextScan::toU64(dfWords[0]));
+    // Free space moves as other programs write; a megabyte of slack covers that.
+    EXPECT_NEAR(static_cast<double>(root.available), static_cast<double>(*TextScan::toU64(dfWords[1])), 1 << 20);
+
+    const auto load = ProcStat::parseLoadAverage(Files::read("/proc/loadavg").value_or(""));
+    ASSERT_TRUE(load);
+    EXPECT_NEAR(snapshot.cpu.load1, (*load)[0], 0.5);
+    EXPECT_NEAR(snapshot.cpu.load15, (*load)[2], 0.5);
+    EXPECT_GT(snapshot.memory.used(), 0u);
+    EXPECT_LE(snapshot.memory.used(), snapshot.memory.total);
+}
+
+TEST(LiveMachine, DiskAndNetworkRatesAreBracketedByProcCounters)
+{
+    LiveSystemReader reader;
+    const auto before = rawCounters();
+    (void)reader.read(100);
+    const auto afterFirst = rawCounters();
+    writeToDisk();
+    const auto beforeSecond = rawCounters();
+    const auto snapshot = reader.read(101); // one second apart by the clock we pass in
+    const auto after = rawCounters();
+
+    const auto written = static_cast<uint64_t>(snapshot.disk.writeRate);
+    EXPECT_GE(written, beforeSecond.written - afterFirst.written);
+    EXPECT_LE(written, after.written - before.written);
+    EXPECT_GE(after.written - before.written, 8u << 20) << "the test's own 8 MiB reached the disk";
+    const auto received = static_cast<uint64_t>(snapshot.net.inRate);
+    EXPECT_GE(received, beforeSecond.received - afterFirst.received);
+    EXPECT_LE(received, after.received - before.received);
+}
+
+TEST(LiveMachine, ABusyCoreShowsAsBusy)
+{
+    LiveSystemReader reader;
+    (void)reader.read(1);
+    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(600);
+    volatile unsigned long spin = 0;
+    while (std::chrono::steady_clock::now() < until)
+        spin = spin + 1;
+    const auto snapshot = reader.read(2);
+    double busiest = 0;
+    for (const double core : snapshot.cpu.cores)
+        busiest = std::max(busiest, core);
+    EXPECT_GT(busiest, 0.5);
+    EXPECT_GT(snapshot.cpu.user, 0.5 / static_cast<double>(snapshot.coreCount()));
+    EXPECT_LE(snapshot.cpu.user + snapshot.cpu.system, 1.0);
+}

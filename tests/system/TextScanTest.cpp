@@ -1,0 +1,25 @@
+#include "text/TextScan.h"
+
+#include <gtest/gtest.h>
+
+using namespace vexel;
+
+TEST(TextScan, NumbersAreWholeOrNothing)
+{
+    EXPECT_EQ(TextScan::toU64(" 42\n"), 42u);
+    EXPECT_EQ(TextScan::toU64("+7"), 7u);
+    EXPECT_EQ(TextScan::toI64("-12"), -12);
+    EXPECT_EQ(TextScan::toDouble("0.25"), 0.25);
+    for (const char* bad : {"", " ", "4x", "x4", "-3", "1 2", "18446744073709551616"})
+        EXPECT_FALSE(TextScan::toU64(bad)) << bad;
+    EXPECT_FALSE(TextScan::toDouble("1.5.2"));
+}
+
+TEST(TextScan, WordsAndLines)
+{
+    EXPECT_EQ(TextScan::words("  a\tbb   c \n"), (std::vector<std::string_view>{"a", "bb", "c"}));
+    EXPECT_TRUE(TextScan::words(" \t ").empty());
+    std::vector<std::string_view> lines;
+    TextScan::forEachLine("one\n\nthree", [&](std::string_view line) { lines.push_back(line); });
+    EXPECT_EQ(lines, (std::vector<std::string_view>{"one", "", "three"}));
+}
