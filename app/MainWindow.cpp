@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "SidebarDelegate.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -10,8 +12,7 @@ namespace vexel {
 
 namespace {
 
-constexpr int sidebarWidth = 200;
-constexpr int rowHeight = 32;
+constexpr int sidebarWidth = 210;
 
 } // namespace
 
@@ -33,19 +34,32 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
 
 QWidget* MainWindow::buildSidebar(Appearance appearance)
 {
-    m_sidebar = new QListWidget(this);
-    m_sidebar->setFixedWidth(sidebarWidth);
+    auto* panel = new QWidget(this);
+    panel->setFixedWidth(sidebarWidth);
+    panel->setAutoFillBackground(true);
+    QPalette panelPalette = Look::palette(appearance);
+    panelPalette.setColor(QPalette::Window, Look::sidebar(appearance));
+    panel->setPalette(panelPalette);
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(0, 18, 0, 12);
+    layout->setSpacing(10);
+
+    auto* name = new QLabel(QStringLiteral("Vexel"), panel);
+    name->setFont(Look::font(15, QFont::DemiBold));
+    name->setContentsMargins(22, 0, 0, 4);
+    layout->addWidget(name);
+
+    m_sidebar = new QListWidget(panel);
+    m_sidebar->setItemDelegate(new SidebarDelegate(appearance, m_sidebar));
     m_sidebar->setFrameShape(QFrame::NoFrame);
     m_sidebar->setFocusPolicy(Qt::NoFocus);
     QPalette palette = Look::palette(appearance);
     palette.setColor(QPalette::Base, Look::sidebar(appearance));
     m_sidebar->setPalette(palette);
-    m_sidebar->setFont(Look::font(10.5));
-    m_sidebar->setSpacing(1);
-    m_sidebar->setContentsMargins(8, 12, 8, 12);
+    m_sidebar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const auto route : allRoutes) {
         auto* item = new QListWidgetItem(QString::fromStdString(title(route)), m_sidebar);
-        item->setSizeHint(QSize(sidebarWidth - 16, rowHeight));
         item->setToolTip(QString::fromStdString(shortcut(route)));
         item->setData(Qt::UserRole, QString::fromStdString(identifier(route)));
     }
@@ -54,7 +68,8 @@ QWidget* MainWindow::buildSidebar(Appearance appearance)
         if (row >= 0 && row < static_cast<int>(allRoutes.size()))
             emit routeChanged(allRoutes[static_cast<size_t>(row)]);
     });
-    return m_sidebar;
+    layout->addWidget(m_sidebar, 1);
+    return panel;
 }
 
 QWidget* MainWindow::buildPlaceholder(Appearance appearance)

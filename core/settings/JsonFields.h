@@ -24,7 +24,8 @@ template <typename T> void read(const nlohmann::ordered_json& json, const char* 
         if (it->is_boolean())
             into = it->get<bool>();
     } else if constexpr (std::is_floating_point_v<T>) {
-        if (it->is_number())
+        // JSON has no infinities: a number too large to hold is as wrong as a string.
+        if (it->is_number() && std::isfinite(it->get<double>()))
             into = it->get<T>();
     } else if constexpr (std::is_integral_v<T>) {
         if (!it->is_number())

@@ -154,9 +154,11 @@ DiskStats LiveSystemReader::readDisk(double now)
             m_disk.add(device.name, device.bytesRead, device.bytesWritten);
     }
     std::tie(disk.readRate, disk.writeRate) = m_disk.finish(now);
-    if (!m_cachedVolumes || !isFresh(m_cachedVolumes->at, now, volumeSeconds))
-        m_cachedVolumes = Cached<std::vector<VolumeInfo>>{m_volumeReader.volumes(), now};
-    disk.volumes = m_cachedVolumes->value;
+    if (!m_volumesAt || !isFresh(*m_volumesAt, now, volumeSeconds)) {
+        m_volumes = m_volumeReader.volumes();
+        m_volumesAt = now;
+    }
+    disk.volumes = m_volumes;
     return disk;
 }
 
@@ -186,9 +188,12 @@ SystemSnapshot LiveSystemReader::read(double now)
     snapshot.disk = readDisk(now);
     snapshot.net = readNet(now);
     snapshot.gpu = m_gpuReader.read(now);
-    if (!m_cachedBattery || !isFresh(m_cachedBattery->at, now, batterySeconds))
-        m_cachedBattery = Cached<std::optional<BatteryStats>>{m_batteryReader.read(), now};
-    snapshot.battery = m_cachedBattery->value;
+    // The cached value may itself be "no battery".
+    if (!m_batteryAt || !isFresh(*m_batteryAt, now, batterySeconds)) {
+        m_battery = m_batteryReader.read();
+        m_batteryAt = now;
+    }
+    snapshot.battery = m_battery;
     snapshot.thermal = m_thermalReader.read(now);
     return snapshot;
 }

@@ -57,8 +57,10 @@ private:
     int m_performanceCores = 0;
     int m_efficiencyCores = 0;
     MemoryPressure m_pressure = MemoryPressure::normal;
-    std::optional<Cached<std::vector<VolumeInfo>>> m_cachedVolumes;
-    std::optional<Cached<std::optional<BatteryStats>>> m_cachedBattery;
+    std::vector<VolumeInfo> m_volumes;
+    std::optional<double> m_volumesAt; // when m_volumes was read; absent before the first time
+    std::optional<BatteryStats> m_battery;
+    std::optional<double> m_batteryAt;
 
     // Device lists, re-enumerated every 60 seconds.
     std::optional<double> m_devicesAt;

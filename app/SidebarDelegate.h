@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <QStyledItemDelegate>
+
+namespace vexel {
+
+// Draws one route of the sidebar: its title with room around it, and a
+// rounded highlight behind the route in view.
+class SidebarDelegate final : public QStyledItemDelegate {
+public:
+    SidebarDelegate(Appearance appearance, QObject* parent);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    Appearance m_appearance;
+};
+
+} // namespace vexel
