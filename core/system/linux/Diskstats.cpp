@@ -16,7 +16,7 @@ std::vector<Device> parse(std::string_view text)
         const auto written = TextScan::toU64(fields[9]);
         if (!read || !written || *read > UINT64_MAX / 512 || *written > UINT64_MAX / 512)
             return;
-        devices.push_back(Device{fields[2], *read * 512, *written * 512});
+        devices.push_back(Device{std::string(fields[2]), *read * 512, *written * 512});
     });
     return devices;
 }

@@ -20,7 +20,7 @@ std::vector<Interface> parse(std::string_view text)
         const auto sent = TextScan::toU64(fields[8]);
         if (!received || !sent)
             return;
-        interfaces.push_back(Interface{name, *received, *sent});
+        interfaces.push_back(Interface{std::string(name), *received, *sent});
     });
     return interfaces;
 }

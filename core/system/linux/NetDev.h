@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -8,7 +9,7 @@ namespace vexel::NetDev {
 
 // One interface's cumulative byte counters from /proc/net/dev.
 struct Interface {
-    std::string_view name;
+    std::string name;
     uint64_t received = 0;
     uint64_t sent = 0;
 
@@ -16,7 +17,6 @@ struct Interface {
 };
 
 // Every interface line; the two header lines and malformed lines are skipped.
-// The names point into `text`.
 [[nodiscard]] std::vector<Interface> parse(std::string_view text);
 
 } // namespace vexel::NetDev
