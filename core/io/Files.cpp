@@ -104,6 +104,8 @@ std::string baseName(const std::string& path)
     auto end = path.size();
     while (end > 1 && path[end - 1] == '/')
         --end;
+    if (end == 1 && path[0] == '/')
+        return "/";
     const auto slash = path.rfind('/', end - 1);
     return slash == std::string::npos ? path.substr(0, end) : path.substr(slash + 1, end - slash - 1);
 }
