@@ -1,8 +1,8 @@
 #include "format/CFormat.h"
 
+#include <clocale>
 #include <cstdarg>
 #include <cstdio>
-#include <locale.h>
 
 namespace vexel {
 

@@ -52,9 +52,25 @@ RawCounters rawCounters()
     return raw;
 }
 
+// The size and available bytes of the root file system, as df reports them.
+std::optional<std::pair<uint64_t, uint64_t>> rootSpace()
+{
+    const auto df = runTool({"df", "-B1", "--output=size,avail", "/"});
+    const std::string values = df.out.substr(df.out.find('\n') + 1);
+    const auto words = TextScan::words(values);
+    if (df.status != 0 || words.size() != 2)
+        return std::nullopt;
+    const auto size = TextScan::toU64(words[0]);
+    const auto available = TextScan::toU64(words[1]);
+    if (!size || !available)
+        return std::nullopt;
+    return std::pair{*size, *available};
+}
+
 void writeToDisk()
 {
-    const auto file = std::filesystem::temp_directory_path() / ("vexel-io-" + std::to_string(::getpid()));
+    // The build folder rather than /tmp, which may be a RAM disk.
+    const auto file = std::filesystem::path(VEXEL_BINARY_DIR) / ("vexel-io-" + std::to_string(::getpid()));
     const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     ASSERT_GE(fd, 0);
     const std::string block(1 << 20, 'x');
@@ -86,17 +102,17 @@ TEST(LiveMachine, CoresMemoryAndRootVolumeMatchTheSystemTools)
     ASSERT_GE(free.size(), 2u);
     EXPECT_EQ(snapshot.memory.total, TextScan::toU64(free[1]));
 
-    const auto df = runTool({"df", "-B1", "--output=size,avail", "/"});
-    ASSERT_EQ(df.status, 0);
-    const std::string dfValues = df.out.substr(df.out.find('\n') + 1);
-    const auto dfWords = TextScan::words(dfValues);
-    ASSERT_EQ(dfWords.size(), 2u);
-    ASSERT_FALSE(snapshot.disk.volumes.empty());
-    const auto& root = snapshot.disk.volumes.front();
-    EXPECT_EQ(root.path, "/");
-    EXPECT_EQ(root.total, TextScan::toU64(dfWords[0]));
-    // Free space moves as other programs write; a megabyte of slack covers that.
-    EXPECT_NEAR(static_cast<double>(root.available), static_cast<double>(*TextScan::toU64(dfWords[1])), 1 << 20);
+    // Free space moves while other programs write, so df asks before and after
+    // a fresh reading, and the reading must lie between the two answers.
+    const auto before = rootSpace();
+    const auto root = LiveSystemReader().read(2000).disk.main();
+    const auto after = rootSpace();
+    ASSERT_TRUE(root && before && after);
+    EXPECT_EQ(root->path, "/");
+    EXPECT_EQ(root->total, before->first);
+    constexpr uint64_t slack = 1 << 20;
+    EXPECT_GE(root->available + slack, std::min(before->second, after->second));
+    EXPECT_LE(root->available, std::max(before->second, after->second) + slack);
 
     const auto load = ProcStat::parseLoadAverage(Files::read("/proc/loadavg").value_or(""));
     ASSERT_TRUE(load);
