@@ -1,5 +1,7 @@
 #include "Entry.h"
 
+#include "ProcessListing.h"
+
 #include "io/Files.h"
 #include "system/SnapshotJson.h"
 #include "system/linux/LiveSystemReader.h"
@@ -50,7 +52,8 @@ int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
     case Role::mcp: std::fputs("vexel: the MCP server is not available in this build yet\n", stderr); return 1;
     case Role::cli: break;
     }
-    return printSnapshot();
+    const bool apps = args.size() > 1 && std::find(args.begin() + 1, args.end(), "apps") != args.end();
+    return apps ? printApps() : printSnapshot();
 }
 
 } // namespace vexel

@@ -1,0 +1,103 @@
+#include "grouping/linux/CgroupLeaf.h"
+
+#include <cctype>
+
+namespace vexel::CgroupLeaf {
+
+namespace {
+
+bool isRandomTail(std::string_view tail)
+{
+    if (tail.empty())
+        return false;
+    for (const char c : tail) {
+        if (!std::isxdigit(static_cast<unsigned char>(c)) && c != '-')
+            return false;
+    }
+    return true;
+}
+
+// "name-1234" or "name-<uuid>" → "name".
+std::string_view withoutRandomTail(std::string_view text)
+{
+    auto dash = text.rfind('-');
+    while (dash != std::string_view::npos && dash > 0 && isRandomTail(text.substr(dash + 1))) {
+        const auto earlier = text.rfind('-', dash - 1);
+        if (earlier == std::string_view::npos || !isRandomTail(text.substr(earlier + 1)))
+            return text.substr(0, dash);
+        dash = earlier;
+    }
+    return text;
+}
+
+std::string_view withoutSuffix(std::string_view text, std::string_view suffix)
+{
+    return text.ends_with(suffix) ? text.substr(0, text.size() - suffix.size()) : text;
+}
+
+} // namespace
+
+std::string leaf(std::string_view cgroup)
+{
+    const auto slash = cgroup.rfind('/');
+    const auto last = slash == std::string_view::npos ? cgroup : cgroup.substr(slash + 1);
+    std::string out;
+    for (size_t i = 0; i < last.size(); ++i) {
+        if (last[i] == '\\' && i + 3 < last.size() && last[i + 1] == 'x'
+            && std::isxdigit(static_cast<unsigned char>(last[i + 2]))
+            && std::isxdigit(static_cast<unsigned char>(last[i + 3]))) {
+            out.push_back(static_cast<char>(std::stoi(std::string(last.substr(i + 2, 2)), nullptr, 16)));
+            i += 3;
+        } else {
+            out.push_back(last[i]);
+        }
+    }
+    return out;
+}
+
+std::optional<AppUnit> appUnit(std::string_view leafName)
+{
+    std::string_view unit = leafName;
+    if (unit.ends_with(".scope"))
+        unit = withoutSuffix(unit, ".scope");
+    else if (unit.ends_with(".service"))
+        unit = withoutSuffix(unit, ".service");
+    else
+        return std::nullopt;
+    if (const auto at = unit.find('@'); at != std::string_view::npos)
+        unit = unit.substr(0, at);
+
+    if (unit.starts_with("app-flatpak-")) {
+        const auto id = withoutRandomTail(unit.substr(12));
+        if (id.empty())
+            return std::nullopt;
+        return AppUnit{AppUnit::Kind::flatpak, std::string(id), std::string(id)};
+    }
+    if (unit.starts_with("snap.")) {
+        const auto rest = unit.substr(5);
+        const auto dot = rest.find('.');
+        if (dot == 0 || rest.empty())
+            return std::nullopt;
+        const auto name = rest.substr(0, dot);
+        return AppUnit{AppUnit::Kind::snap, std::string(name), std::string(name)};
+    }
+    std::string_view id;
+    if (unit.starts_with("app-"))
+        id = withoutRandomTail(unit.substr(4));
+    else if (unit.starts_with("dbus-:")) {
+        // dbus-:1.2-org.gnome.Terminal: the bus name, then the id.
+        const auto dash = unit.find('-', 6);
+        if (dash == std::string_view::npos)
+            return std::nullopt;
+        id = unit.substr(dash + 1);
+    } else {
+        return std::nullopt;
+    }
+    if (id.empty())
+        return std::nullopt;
+    const auto dash = id.find('-');
+    const auto launcherless = dash == std::string_view::npos ? id : id.substr(dash + 1);
+    return AppUnit{AppUnit::Kind::launcher, std::string(id), std::string(launcherless)};
+}
+
+} // namespace vexel::CgroupLeaf

@@ -1,0 +1,212 @@
+#include "grouping/linux/LinuxIdentityRules.h"
+
+#include "grouping/linux/CgroupLeaf.h"
+#include "io/Files.h"
+
+#include <array>
+
+namespace vexel {
+
+namespace {
+
+struct Family {
+    std::string_view title;
+    std::initializer_list<std::string_view> names;
+};
+
+// Names as the kernel's comm shows them, cut to 15 characters.
+const std::array<Family, 4> families{{
+    {"Display server",
+        {"Xorg", "Xwayland", "gnome-shell", "kwin_wayland", "kwin_x11", "sway", "Hyprland", "weston", "cosmic-comp"}},
+    {"Audio", {"pipewire", "pipewire-pulse", "wireplumber", "pulseaudio"}},
+    {"File indexing",
+        {"tracker-miner-fs-3", "tracker-miner-f", "tracker-extract-3", "tracker-extract", "localsearch-3", "baloo_file",
+            "baloo_file_extractor", "baloo_file_extr", "updatedb"}},
+    {"Software updates",
+        {"packagekitd", "apt", "apt-get", "dpkg", "unattended-upgrade", "unattended-upgr", "dnf", "rpm", "snapd",
+            "fwupd", "flatpak-system-helper", "flatpak-system-"}},
+}};
+
+constexpr std::array<std::string_view, 6> systemFolders{
+    "/usr/lib/", "/usr/lib64/", "/usr/libexec/", "/lib/", "/usr/sbin/", "/sbin/"};
+
+Identity system(const std::string& title)
+{
+    return Identity{"sys:" + title, title, AppKind::system, std::nullopt};
+}
+
+Identity tool(const ProcRecord& record)
+{
+    return Identity{"tool:" + record.name, record.name, AppKind::tool, record.path};
+}
+
+bool inSystemSlice(const ProcRecord& record)
+{
+    return record.cgroup && (record.cgroup->starts_with("/system.slice/") || *record.cgroup == "/init.scope");
+}
+
+bool inSessionSlice(const ProcRecord& record)
+{
+    return record.cgroup && record.cgroup->find("/user@") != std::string::npos
+        && record.cgroup->find("/session.slice/") != std::string::npos;
+}
+
+// "/tmp/.mount_Obsidi3xYzQ/obsidian" → the AppImage's mount folder.
+std::optional<std::string> appImageMount(const std::string& path)
+{
+    constexpr std::string_view prefix = "/tmp/.mount_";
+    if (!path.starts_with(prefix))
+        return std::nullopt;
+    const auto slash = path.find('/', prefix.size());
+    return path.substr(0, slash);
+}
+
+std::optional<std::string> snapName(const std::string& path)
+{
+    if (!path.starts_with("/snap/"))
+        return std::nullopt;
+    const auto slash = path.find('/', 6);
+    if (slash == std::string::npos || slash == 6)
+        return std::nullopt;
+    return path.substr(6, slash - 6);
+}
+
+} // namespace
+
+LinuxIdentityRules::LinuxIdentityRules(
+    std::shared_ptr<const DesktopIndex> index, BundleNameFunction desktopName, uint32_t uidMin)
+    : m_index(index ? std::move(index) : std::make_shared<DesktopIndex>())
+    , m_desktopName(std::move(desktopName))
+    , m_uidMin(uidMin)
+{
+}
+
+std::optional<std::string> LinuxIdentityRules::familyByName(std::string_view name)
+{
+    for (const auto& family : families) {
+        for (const auto member : family.names) {
+            if (member == name)
+                return std::string(family.title);
+        }
+    }
+    return std::nullopt;
+}
+
+Identity LinuxIdentityRules::desktopApp(const DesktopIndex::App& app) const
+{
+    const auto name = m_desktopName ? m_desktopName(app.file) : std::nullopt;
+    return Identity{
+        "app:" + app.id, name.value_or(app.entry.name.empty() ? app.id : app.entry.name), AppKind::app, app.file};
+}
+
+std::optional<Identity> LinuxIdentityRules::fromUnit(const ProcRecord& record) const
+{
+    if (!record.cgroup)
+        return std::nullopt;
+    const auto unit = CgroupLeaf::appUnit(CgroupLeaf::leaf(*record.cgroup));
+    if (!unit)
+        return std::nullopt;
+    using Kind = CgroupLeaf::AppUnit::Kind;
+    if (unit->kind == Kind::flatpak) {
+        const auto* app = m_index->byId(unit->id);
+        Identity identity = app != nullptr ? desktopApp(*app) : Identity{"", unit->id, AppKind::app, std::nullopt};
+        identity.key = "app:flatpak:" + unit->id;
+        return identity;
+    }
+    if (unit->kind == Kind::snap)
+        return std::nullopt; // named below, from the snap's desktop file
+    for (const auto& id : {unit->id, unit->launcherlessId}) {
+        const auto* app = m_index->byId(id);
+        // A terminal-based app's processes belong to the terminal that shows them.
+        if (app != nullptr && !app->entry.terminal)
+            return desktopApp(*app);
+    }
+    return std::nullopt;
+}
+
+std::optional<Identity> LinuxIdentityRules::fromInstall(const std::string& executable) const
+{
+    if (const auto* app = m_index->byExecutable(executable))
+        return desktopApp(*app);
+    return std::nullopt;
+}
+
+bool LinuxIdentityRules::isSystemOwned(const ProcRecord& record) const
+{
+    return record.uid < m_uidMin || inSystemSlice(record);
+}
+
+Identity LinuxIdentityRules::base(const ProcRecord& record) const
+{
+    if (record.kernelThread)
+        return system("Kernel");
+    if (auto family = familyByName(record.name))
+        return system(*family);
+    if (record.path)
+        if (auto family = familyByName(Files::baseName(*record.path)))
+            return system(*family);
+    if (auto unit = fromUnit(record))
+        return *unit;
+    const auto leafName = record.cgroup ? CgroupLeaf::leaf(*record.cgroup) : std::string();
+    const auto unit = CgroupLeaf::appUnit(leafName);
+    const auto snap = unit && unit->kind == CgroupLeaf::AppUnit::Kind::snap
+        ? std::optional(unit->id)
+        : (record.path ? snapName(*record.path) : std::nullopt);
+    if (snap) {
+        Identity identity{"app:snap:" + *snap, *snap, AppKind::app, std::nullopt};
+        if (const auto* app = m_index->byId(*snap + "_" + *snap)) {
+            identity.name = desktopApp(*app).name;
+            identity.path = app->file;
+        }
+        return identity;
+    }
+    if (!record.path)
+        return isSystemOwned(record) ? AppIdentity::services(Platform::linux) : tool(record);
+    const std::string& path = *record.path;
+    if (const auto mount = appImageMount(path)) {
+        std::string name = Files::baseName(path);
+        return Identity{"app:" + *mount, name, AppKind::app, *mount};
+    }
+    if (auto installed = fromInstall(path))
+        return *installed;
+    for (const auto folder : systemFolders) {
+        if (path.starts_with(folder))
+            return AppIdentity::services(Platform::linux);
+    }
+    if ((path.starts_with("/usr/bin/") || path.starts_with("/bin/")) && isSystemOwned(record))
+        return AppIdentity::services(Platform::linux);
+    if (inSessionSlice(record))
+        return system("Desktop session");
+    return tool(record);
+}
+
+std::string LinuxIdentityRules::cacheKey(const ProcRecord& record) const
+{
+    std::string key = record.name;
+    key += '\x1f';
+    key += record.path.value_or("");
+    key += '\x1f';
+    key += record.cgroup.value_or("");
+    key += '\x1f';
+    key += record.kernelThread ? 'k' : (record.uid < m_uidMin ? 's' : 'u');
+    return key;
+}
+
+bool LinuxIdentityRules::isLauncher(const ProcRecord& parent) const
+{
+    // kthreadd, and the user's service manager, which adopts orphans of the session.
+    if (parent.pid == 2)
+        return true;
+    return parent.cgroup && parent.cgroup->find("/user@") != std::string::npos
+        && parent.cgroup->ends_with(".service/init.scope");
+}
+
+bool LinuxIdentityRules::isMainExecutable(const ProcRecord& record, const Identity& identity) const
+{
+    if (!record.path || !identity.key.starts_with("app:"))
+        return false;
+    const auto* app = m_index->byId(identity.key.substr(4));
+    return app != nullptr && app->program && *app->program == *record.path;
+}
+
+} // namespace vexel

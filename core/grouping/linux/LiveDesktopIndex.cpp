@@ -1,0 +1,25 @@
+#include "grouping/linux/LiveDesktopIndex.h"
+
+#include "io/Files.h"
+#include "processes/Shell.h"
+#include "settings/VexelPaths.h"
+
+#include <cstdlib>
+
+namespace vexel {
+
+std::shared_ptr<const DesktopIndex> liveDesktopIndex()
+{
+    const auto resolve = [](const std::string& program) -> std::optional<std::string> {
+        const auto path = program.starts_with('/') ? std::optional(program) : Shell::find(program);
+        return path ? Files::realPath(*path) : std::nullopt;
+    };
+    const auto home = homeFolder([](const char* name) -> std::optional<std::string> {
+        const char* value = std::getenv(name);
+        return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+    });
+    return std::make_shared<DesktopIndex>(
+        DesktopIndex::standardFolders(), resolve, DesktopIndex::standardSharedFolders(home));
+}
+
+} // namespace vexel

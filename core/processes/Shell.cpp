@@ -1,0 +1,220 @@
+#include "processes/Shell.h"
+
+#include "settings/VexelPaths.h"
+
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <condition_variable>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <mutex>
+#include <poll.h>
+#include <pthread.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace vexel::Shell {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+bool isExecutableFile(const std::string& path)
+{
+    struct stat info { };
+    return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) && ::access(path.c_str(), X_OK) == 0;
+}
+
+std::vector<std::string> environment(const std::map<std::string, std::string>& extra)
+{
+    std::map<std::string, std::string> merged;
+    for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
+        const std::string text = *entry;
+        const auto equals = text.find('=');
+        if (equals != std::string::npos)
+            merged[text.substr(0, equals)] = text.substr(equals + 1);
+    }
+    for (const auto& [key, value] : extra)
+        merged[key] = value;
+    merged.try_emplace("LC_ALL", "C");
+    std::vector<std::string> result;
+    for (const auto& [key, value] : merged)
+        result.push_back(key + "=" + value);
+    return result;
+}
+
+std::vector<char*> pointers(std::vector<std::string>& strings)
+{
+    std::vector<char*> result;
+    for (auto& text : strings)
+        result.push_back(text.data());
+    result.push_back(nullptr);
+    return result;
+}
+
+// Collects a pipe's bytes until its end, or until told to stop.
+class PipeReader {
+public:
+    explicit PipeReader(int fd)
+        : m_fd(fd)
+        , m_thread([this] { drain(); })
+    {
+    }
+    ~PipeReader()
+    {
+        m_stop = true;
+        m_thread.join();
+        ::close(m_fd);
+    }
+    PipeReader(const PipeReader&) = delete;
+    PipeReader& operator=(const PipeReader&) = delete;
+
+    // Waits until the pipe has ended or `deadline` passes; true when it ended.
+    bool waitUntil(Clock::time_point deadline)
+    {
+        std::unique_lock lock(m_mutex);
+        return m_ended.wait_until(lock, deadline, [this] { return m_done; });
+    }
+
+    std::string takeOutput()
+    {
+        std::lock_guard lock(m_mutex);
+        return std::move(m_output);
+    }
+
+private:
+    void drain()
+    {
+        ::pthread_setname_np(::pthread_self(), "vexel.shell.read");
+        char buffer[16384];
+        while (!m_stop) {
+            pollfd ready{m_fd, POLLIN, 0};
+            const int polled = ::poll(&ready, 1, 50);
+            if (polled < 0 && errno != EINTR)
+                break;
+            if (polled <= 0)
+                continue;
+            const ssize_t got = ::read(m_fd, buffer, sizeof buffer);
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got <= 0)
+                break;
+            std::lock_guard lock(m_mutex);
+            m_output.append(buffer, static_cast<size_t>(got));
+        }
+        std::lock_guard lock(m_mutex);
+        m_done = true;
+        m_ended.notify_all();
+    }
+
+    int m_fd;
+    std::atomic<bool> m_stop{false};
+    std::mutex m_mutex;
+    std::condition_variable m_ended;
+    std::string m_output;
+    bool m_done = false;
+    std::thread m_thread;
+};
+
+// Waits for the child; after `grace` it is killed outright, so that a program
+// ignoring the termination signal cannot hold the caller.
+void reap(pid_t pid, std::chrono::milliseconds grace)
+{
+    const auto deadline = Clock::now() + grace;
+    int status = 0;
+    while (Clock::now() < deadline) {
+        const pid_t done = ::waitpid(pid, &status, WNOHANG);
+        if (done == pid || (done < 0 && errno != EINTR))
+            return;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    ::kill(-pid, SIGKILL);
+    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) { }
+}
+
+pid_t spawn(const std::string& path, const std::vector<std::string>& args,
+    const std::map<std::string, std::string>& env, int outputFd, int pipeReadFd)
+{
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, outputFd, 1);
+    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addclose(&actions, pipeReadFd);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    // A process group of its own, so that a time-out ends the tool's children too.
+    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    std::vector<std::string> argv{path};
+    argv.insert(argv.end(), args.begin(), args.end());
+    auto envp = environment(env);
+    auto argvPointers = pointers(argv);
+    auto envPointers = pointers(envp);
+    pid_t pid = 0;
+    const int failed = posix_spawn(&pid, path.c_str(), &actions, &attributes, argvPointers.data(), envPointers.data());
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
+    return failed == 0 ? pid : -1;
+}
+
+} // namespace
+
+std::optional<std::string> run(const std::string& path, const std::vector<std::string>& args, double timeoutSeconds,
+    const std::map<std::string, std::string>& env)
+{
+    if (!isExecutableFile(path))
+        return std::nullopt;
+    int fds[2];
+    if (::pipe2(fds, O_CLOEXEC) != 0)
+        return std::nullopt;
+    const pid_t pid = spawn(path, args, env, fds[1], fds[0]);
+    ::close(fds[1]);
+    if (pid < 0) {
+        ::close(fds[0]);
+        return std::nullopt;
+    }
+    PipeReader reader(fds[0]);
+    const auto timeout = std::chrono::duration<double>(std::max(timeoutSeconds, 0.0));
+    const bool finished = reader.waitUntil(Clock::now() + std::chrono::duration_cast<Clock::duration>(timeout));
+    if (!finished) {
+        ::kill(-pid, SIGTERM);
+        (void)reader.waitUntil(Clock::now() + std::chrono::seconds(1));
+        reap(pid, std::chrono::milliseconds(1000));
+        return std::nullopt;
+    }
+    // The output has ended; a well-behaved tool exits right after.
+    reap(pid, std::chrono::milliseconds(1000));
+    return reader.takeOutput();
+}
+
+std::optional<std::string> find(const std::string& name, const std::vector<std::string>& extra)
+{
+    if (name.empty() || name.find('/') != std::string::npos)
+        return std::nullopt;
+    std::vector<std::string> folders = extra;
+    for (const char* folder : {"/opt/homebrew/bin", "/usr/local/bin", "/usr/bin", "/bin", "/usr/sbin", "/sbin"})
+        folders.emplace_back(folder);
+    const auto home = homeFolder([](const char* key) -> std::optional<std::string> {
+        const char* value = std::getenv(key);
+        return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+    });
+    folders.push_back(home + "/.local/bin");
+    folders.emplace_back("/snap/bin");
+    folders.emplace_back("/home/linuxbrew/.linuxbrew/bin");
+    for (const auto& folder : folders) {
+        const std::string candidate = folder + "/" + name;
+        if (isExecutableFile(candidate))
+            return candidate;
+    }
+    return std::nullopt;
+}
+
+} // namespace vexel::Shell

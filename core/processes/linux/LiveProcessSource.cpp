@@ -1,0 +1,194 @@
+#include "processes/linux/LiveProcessSource.h"
+
+#include "io/Files.h"
+#include "processes/linux/ProcPidFiles.h"
+#include "system/linux/Meminfo.h"
+#include "text/TextScan.h"
+
+#include <cmath>
+#include <ctime>
+#include <dirent.h>
+#include <memory>
+#include <unistd.h>
+
+namespace vexel {
+
+namespace {
+
+constexpr uint64_t refreshEvery = 8; // readings between forced memory and disk reads
+constexpr uint64_t slowRefreshEvery = 64; // readings between forced user and cgroup reads
+
+double secondsOf(clockid_t clock)
+{
+    timespec now{};
+    ::clock_gettime(clock, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+// Read once: btime is whole seconds and would move start times by up to a second.
+double liveBootEpoch()
+{
+    return secondsOf(CLOCK_REALTIME) - secondsOf(CLOCK_BOOTTIME);
+}
+
+std::string withoutDeleted(std::string path)
+{
+    constexpr std::string_view suffix = " (deleted)";
+    if (path.ends_with(suffix))
+        path.resize(path.size() - suffix.size());
+    return path;
+}
+
+struct CloseDir {
+    void operator()(DIR* dir) const { ::closedir(dir); }
+};
+
+std::optional<int32_t> pidOf(const char* name)
+{
+    int64_t value = 0;
+    for (const char* c = name; *c != '\0'; ++c) {
+        if (*c < '0' || *c > '9' || value > 100'000'000)
+            return std::nullopt;
+        value = value * 10 + (*c - '0');
+    }
+    return name[0] == '\0' ? std::nullopt : std::optional(static_cast<int32_t>(value));
+}
+
+} // namespace
+
+LiveProcessSource::LiveProcessSource()
+    : LiveProcessSource("/proc", ::geteuid(), liveBootEpoch(), ::sysconf(_SC_CLK_TCK), ::sysconf(_SC_PAGESIZE))
+{
+}
+
+LiveProcessSource::LiveProcessSource(
+    std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize)
+    : m_proc(std::move(procRoot))
+    , m_myUID(myUID)
+    , m_bootEpoch(bootEpoch)
+    , m_ticksPerSecond(ticksPerSecond > 0 ? static_cast<double>(ticksPerSecond) : 100.0)
+    , m_pageSize(pageSize > 0 ? static_cast<uint64_t>(pageSize) : 4096)
+{
+}
+
+bool LiveProcessSource::machineSwaps()
+{
+    if (!Files::readInto(m_proc + "/meminfo", m_buffer, 64 * 1024))
+        return false;
+    const auto fields = Meminfo::parse(m_buffer);
+    return fields.swapTotal.value_or(0) > fields.swapFree.value_or(0);
+}
+
+void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, const std::string& comm)
+{
+    known.comm = comm;
+    if (Files::readInto(folder + "/status", m_buffer, 64 * 1024)) {
+        const auto status = ProcPidFiles::parseStatus(m_buffer);
+        known.uid = status.uid.value_or(known.uid);
+        known.kernelThread = known.kernelThread || status.kernelThread;
+        known.swapBytes = status.vmSwap.value_or(0);
+    }
+    if (Files::readInto(folder + "/cgroup", m_buffer, 64 * 1024))
+        known.cgroup = ProcPidFiles::parseCgroup(m_buffer);
+    // Only the user's own processes (or every one, for root) reveal their executable.
+    const auto exe = known.kernelThread ? std::nullopt : Files::readLink(folder + "/exe");
+    known.path = exe ? std::optional(withoutDeleted(*exe)) : std::nullopt;
+}
+
+void LiveProcessSource::measure(const std::string& folder, Known& known, bool own, bool swapping)
+{
+    known.measured = true;
+    if (Files::readInto(folder + "/statm", m_buffer, 4096))
+        known.anonBytes = ProcPidFiles::parseStatmAnonPages(m_buffer).value_or(0) * m_pageSize;
+    if (swapping && Files::readInto(folder + "/status", m_buffer, 64 * 1024))
+        known.swapBytes = ProcPidFiles::parseStatus(m_buffer).vmSwap.value_or(0);
+    else if (!swapping)
+        known.swapBytes = 0;
+    if (!own)
+        return;
+    if (Files::readInto(folder + "/io", m_buffer, 4096)) {
+        if (const auto io = ProcPidFiles::parseIo(m_buffer)) {
+            known.diskRead = io->readBytes;
+            known.diskWrite = io->writeBytes;
+            return;
+        }
+    }
+    known.diskRead.reset();
+    known.diskWrite.reset();
+}
+
+std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
+{
+    std::vector<ProcRecord> records;
+    std::unique_ptr<DIR, CloseDir> dir(::opendir(m_proc.c_str()));
+    if (!dir)
+        return records;
+    ++m_readings;
+    const bool swapping = machineSwaps();
+    std::unordered_map<ProcKey, Known, ProcKeyHash> live;
+    live.reserve(m_known.size() + 16);
+    std::string folder;
+    while (const dirent* entry = ::readdir(dir.get())) {
+        const auto pid = pidOf(entry->d_name);
+        if (!pid)
+            continue;
+        folder.assign(m_proc).append("/").append(entry->d_name);
+        if (!Files::readInto(folder + "/stat", m_buffer, 4096))
+            continue; // it exited since the folder was listed
+        auto stat = ProcPidFiles::parseStat(m_buffer);
+        if (!stat)
+            continue;
+
+        ProcRecord record;
+        record.pid = *pid;
+        record.ppid = stat->ppid;
+        record.name = stat->comm;
+        record.start = m_bootEpoch + static_cast<double>(stat->startTime) / m_ticksPerSecond;
+        record.zombie = stat->isZombie();
+        const auto key = ProcKey::of(record);
+
+        auto found = m_known.find(key);
+        const bool isNew = found == m_known.end();
+        Known known = isNew ? Known{} : std::move(found->second);
+        known.kernelThread = known.kernelThread || stat->isKernelThread();
+        const bool slowDue = (m_readings + static_cast<uint64_t>(*pid)) % slowRefreshEvery == 0;
+        // A new program (a changed name) may bring a new user and executable.
+        if (isNew || known.comm != stat->comm || slowDue)
+            learnSlowFacts(folder, known, stat->comm);
+
+        record.uid = known.uid;
+        record.kernelThread = known.kernelThread;
+        record.cgroup = known.cgroup;
+        if (!record.zombie)
+            record.path = known.path;
+        const bool own = known.uid == m_myUID;
+        if (!record.zombie && (own || everyone)) {
+            const uint64_t ticks = stat->utime + stat->stime;
+            const bool due = (m_readings + static_cast<uint64_t>(*pid)) % refreshEvery == 0;
+            if (!known.measured || ticks != known.ticks || due)
+                measure(folder, known, own, swapping);
+            known.ticks = ticks;
+            record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
+            record.memory = known.anonBytes + known.swapBytes;
+            record.memoryIsFootprint = true;
+            if (own) {
+                record.diskRead = known.diskRead;
+                record.diskWrite = known.diskWrite;
+            }
+        }
+        live.emplace(key, std::move(known));
+        records.push_back(std::move(record));
+    }
+    m_known.swap(live);
+    return records;
+}
+
+std::optional<std::string> LiveProcessSource::cwd(int32_t pid)
+{
+    const auto target = Files::readLink(m_proc + "/" + std::to_string(pid) + "/cwd");
+    if (!target)
+        return std::nullopt;
+    return withoutDeleted(*target);
+}
+
+} // namespace vexel

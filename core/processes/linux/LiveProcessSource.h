@@ -1,0 +1,62 @@
+#pragma once
+
+#include "processes/ProcessSource.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace vexel {
+
+// The process table of a Linux machine, read from /proc.
+//
+// Each reading opens /proc/<pid>/stat for every process. What changes rarely
+// (user, executable, cgroup) is kept per process and looked up again only
+// when the process runs a new program. Memory (statm, plus swap from status
+// when the machine swaps) and disk bytes (io, own processes) are re-read for
+// a process that used processor time since the last reading, and every
+// eighth reading otherwise: a process that did not run cannot have touched
+// its memory or the disk.
+class LiveProcessSource final : public ProcessSource {
+public:
+    // This machine's /proc, as the calling user.
+    LiveProcessSource();
+    // A /proc tree elsewhere (tests), the user to count as "own", when the
+    // machine booted (seconds since the epoch), clock ticks per second and page size.
+    LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize);
+
+    [[nodiscard]] std::vector<ProcRecord> snapshot(bool everyone) override;
+    [[nodiscard]] std::optional<std::string> cwd(int32_t pid) override;
+
+    // Processes known from earlier readings (for tests and the benchmark's memory figure).
+    [[nodiscard]] size_t knownCount() const { return m_known.size(); }
+
+private:
+    struct Known {
+        std::string comm; // the name when the slow facts were read
+        uint32_t uid = 0;
+        bool kernelThread = false;
+        std::optional<std::string> path;
+        std::optional<std::string> cgroup;
+        uint64_t ticks = 0; // utime + stime at the last full reading
+        uint64_t anonBytes = 0; // resident anonymous memory
+        uint64_t swapBytes = 0;
+        std::optional<uint64_t> diskRead;
+        std::optional<uint64_t> diskWrite;
+        bool measured = false; // memory and disk have been read at least once
+    };
+
+    void learnSlowFacts(const std::string& folder, Known& known, const std::string& comm);
+    void measure(const std::string& folder, Known& known, bool own, bool swapping);
+    [[nodiscard]] bool machineSwaps();
+
+    std::string m_proc;
+    uint32_t m_myUID;
+    double m_bootEpoch;
+    double m_ticksPerSecond;
+    uint64_t m_pageSize;
+    uint64_t m_readings = 0;
+    std::unordered_map<ProcKey, Known, ProcKeyHash> m_known;
+    std::string m_buffer;
+};
+
+} // namespace vexel

@@ -1,0 +1,123 @@
+#include "processes/linux/ProcPidFiles.h"
+
+#include "text/TextScan.h"
+
+#include <limits>
+
+namespace vexel::ProcPidFiles {
+
+namespace {
+
+// "Name:\t  1234 kB" → bytes (or the plain number without a unit).
+std::optional<uint64_t> statusBytes(std::string_view rest)
+{
+    const auto fields = TextScan::words(rest);
+    if (fields.empty())
+        return std::nullopt;
+    const auto value = TextScan::toU64(fields[0]);
+    const uint64_t scale = fields.size() > 1 && fields[1] == "kB" ? 1024 : 1;
+    if (!value || *value > std::numeric_limits<uint64_t>::max() / scale)
+        return std::nullopt;
+    return *value * scale;
+}
+
+} // namespace
+
+std::optional<Stat> parseStat(std::string_view text)
+{
+    const auto open = text.find('(');
+    const auto close = text.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return std::nullopt;
+    // After the name: 3 state, 4 ppid, … 9 flags, … 14 utime, 15 stime, … 22 starttime.
+    const auto fields = TextScan::words(text.substr(close + 1));
+    if (fields.size() < 20 || fields[0].size() != 1)
+        return std::nullopt;
+    Stat stat;
+    stat.comm = std::string(text.substr(open + 1, close - open - 1));
+    stat.state = fields[0][0];
+    const auto ppid = TextScan::toI64(fields[1]);
+    const auto flags = TextScan::toU64(fields[6]);
+    const auto utime = TextScan::toU64(fields[11]);
+    const auto stime = TextScan::toU64(fields[12]);
+    const auto start = TextScan::toU64(fields[19]);
+    if (!ppid || *ppid < 0 || *ppid > std::numeric_limits<int32_t>::max() || !flags || !utime || !stime || !start)
+        return std::nullopt;
+    stat.ppid = static_cast<int32_t>(*ppid);
+    stat.flags = *flags;
+    stat.utime = *utime;
+    stat.stime = *stime;
+    stat.startTime = *start;
+    return stat;
+}
+
+std::optional<uint64_t> parseStatmAnonPages(std::string_view text)
+{
+    const auto fields = TextScan::words(text);
+    if (fields.size() < 3)
+        return std::nullopt;
+    const auto resident = TextScan::toU64(fields[1]);
+    const auto shared = TextScan::toU64(fields[2]);
+    if (!resident || !shared)
+        return std::nullopt;
+    return *resident > *shared ? *resident - *shared : 0;
+}
+
+Status parseStatus(std::string_view text)
+{
+    Status status;
+    TextScan::forEachLine(text, [&](std::string_view line) {
+        const auto colon = line.find(':');
+        if (colon == std::string_view::npos)
+            return;
+        const auto key = line.substr(0, colon);
+        const auto rest = line.substr(colon + 1);
+        if (key == "Uid") {
+            // real, effective, saved, filesystem
+            const auto ids = TextScan::words(rest);
+            const auto effective = ids.size() > 1 ? TextScan::toU64(ids[1]) : std::nullopt;
+            if (effective && *effective <= std::numeric_limits<uint32_t>::max())
+                status.uid = static_cast<uint32_t>(*effective);
+        } else if (key == "RssAnon") {
+            status.rssAnon = statusBytes(rest);
+        } else if (key == "VmSwap") {
+            status.vmSwap = statusBytes(rest);
+        } else if (key == "Kthread") {
+            status.kernelThread = TextScan::trim(rest) == "1";
+        }
+    });
+    return status;
+}
+
+std::optional<Io> parseIo(std::string_view text)
+{
+    std::optional<uint64_t> read;
+    std::optional<uint64_t> write;
+    TextScan::forEachLine(text, [&](std::string_view line) {
+        if (line.starts_with("read_bytes:"))
+            read = TextScan::toU64(line.substr(11));
+        else if (line.starts_with("write_bytes:"))
+            write = TextScan::toU64(line.substr(12));
+    });
+    if (!read || !write)
+        return std::nullopt;
+    return Io{*read, *write};
+}
+
+std::optional<std::string> parseCgroup(std::string_view text)
+{
+    std::optional<std::string> unified;
+    std::optional<std::string> systemd;
+    TextScan::forEachLine(text, [&](std::string_view line) {
+        if (line.starts_with("0::"))
+            unified = std::string(line.substr(3));
+        else if (const auto at = line.find(":name=systemd:"); at != std::string_view::npos)
+            systemd = std::string(line.substr(at + 14));
+    });
+    // A hybrid system puts every process at "/" of the unified tree; systemd's own tree knows better.
+    if (unified && (*unified != "/" || !systemd))
+        return unified;
+    return systemd;
+}
+
+} // namespace vexel::ProcPidFiles

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vexel::ProcPidFiles {
+
+// The fields of /proc/<pid>/stat that a process record needs. Times are in
+// clock ticks; `comm` is the kernel's name, which may hold blanks and ")".
+struct Stat {
+    std::string comm;
+    char state = '?';
+    int32_t ppid = 0;
+    uint64_t flags = 0;
+    uint64_t utime = 0;
+    uint64_t stime = 0;
+    uint64_t startTime = 0; // ticks after boot
+
+    [[nodiscard]] bool isKernelThread() const { return (flags & 0x00200000) != 0; } // PF_KTHREAD
+    [[nodiscard]] bool isZombie() const { return state == 'Z' || state == 'X'; }
+
+    bool operator==(const Stat&) const = default;
+};
+
+// The name is the text between the first "(" and the last ")"; the fields
+// after it are split on blanks. Nothing when the line is cut short.
+[[nodiscard]] std::optional<Stat> parseStat(std::string_view text);
+
+// /proc/<pid>/statm: resident pages minus shared (file-backed and shmem)
+// pages, which is the anonymous resident memory, in pages.
+[[nodiscard]] std::optional<uint64_t> parseStatmAnonPages(std::string_view text);
+
+// The fields of /proc/<pid>/status that statm and stat do not give.
+struct Status {
+    std::optional<uint32_t> uid; // effective user id
+    std::optional<uint64_t> rssAnon; // bytes
+    std::optional<uint64_t> vmSwap; // bytes
+    bool kernelThread = false;
+
+    bool operator==(const Status&) const = default;
+};
+
+[[nodiscard]] Status parseStatus(std::string_view text);
+
+// Block-layer bytes of /proc/<pid>/io (read_bytes, write_bytes).
+struct Io {
+    uint64_t readBytes = 0;
+    uint64_t writeBytes = 0;
+
+    bool operator==(const Io&) const = default;
+};
+
+[[nodiscard]] std::optional<Io> parseIo(std::string_view text);
+
+// The unified hierarchy's path from /proc/<pid>/cgroup (the "0::" line), or on
+// a pure v1 system the "name=systemd" line's. Nothing when neither is there.
+[[nodiscard]] std::optional<std::string> parseCgroup(std::string_view text);
+
+} // namespace vexel::ProcPidFiles
