@@ -1,0 +1,119 @@
+#include "processes/linux/LiveProcessSource.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace vexel;
+namespace fs = std::filesystem;
+
+namespace {
+
+const ProcRecord* byPid(const std::vector<ProcRecord>& records, int32_t pid)
+{
+    for (const auto& record : records) {
+        if (record.pid == pid)
+            return &record;
+    }
+    return nullptr;
+}
+
+LiveProcessSource fixtureSource(uint32_t myUID)
+{
+    return LiveProcessSource(std::string(VEXEL_FIXTURES) + "/linux/proc-tree/proc", myUID, 1000.0, 100, 4096);
+}
+
+} // namespace
+
+TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
+{
+    auto source = fixtureSource(0);
+    const auto records = source.snapshot(false);
+    ASSERT_EQ(records.size(), 4u); // "self" and "sys" are not processes
+
+    const auto* weird = byPid(records, 13233);
+    ASSERT_NE(weird, nullptr);
+    EXPECT_EQ(weird->name, "we ird) (x");
+    EXPECT_EQ(weird->ppid, 1);
+    EXPECT_EQ(weird->uid, 0u);
+    EXPECT_EQ(weird->path, "/usr/bin/python3.11");
+    EXPECT_DOUBLE_EQ(weird->start, 1000.0 + 2344.11);
+    EXPECT_DOUBLE_EQ(*weird->cpuTime, 1.58);
+    EXPECT_EQ(weird->memory, 55904u * 1024); // RssAnon, no swap in use
+    EXPECT_TRUE(weird->memoryIsFootprint);
+    EXPECT_EQ(weird->diskRead, 2514944u);
+    EXPECT_EQ(weird->diskWrite, 4014080u);
+    EXPECT_EQ(weird->cgroup, "/");
+    EXPECT_EQ(source.cwd(13233), "/tmp/cap"); // " (deleted)" is stripped
+    EXPECT_FALSE(source.cwd(2));
+
+    const auto* zombie = byPid(records, 13275);
+    ASSERT_NE(zombie, nullptr);
+    EXPECT_TRUE(zombie->zombie);
+    EXPECT_FALSE(zombie->cpuTime);
+    EXPECT_FALSE(zombie->path);
+
+    const auto* kthreadd = byPid(records, 2);
+    ASSERT_NE(kthreadd, nullptr);
+    EXPECT_TRUE(kthreadd->kernelThread);
+    EXPECT_EQ(kthreadd->memory, 0u); // kernel threads have CPU time but no memory
+    EXPECT_FALSE(kthreadd->path);
+
+    const auto* init = byPid(records, 1);
+    ASSERT_NE(init, nullptr);
+    EXPECT_FALSE(init->diskRead); // its io file could not be read
+    EXPECT_FALSE(init->path);
+}
+
+TEST(LiveProcessSourceOnFixtures, OtherUsersFiguresOnlyForEveryone)
+{
+    auto source = fixtureSource(1000); // every fixture process belongs to root
+    auto records = source.snapshot(false);
+    EXPECT_FALSE(byPid(records, 13233)->cpuTime);
+    EXPECT_FALSE(byPid(records, 13233)->memory);
+    records = source.snapshot(true);
+    EXPECT_DOUBLE_EQ(*byPid(records, 13233)->cpuTime, 1.58);
+    EXPECT_EQ(byPid(records, 13233)->memory, 55904u * 1024);
+    EXPECT_FALSE(byPid(records, 13233)->diskRead); // disk bytes are the owner's only
+    EXPECT_EQ(source.knownCount(), 4u);
+}
+
+TEST(LiveProcessSourceOnFixtures, AMissingProcFolderGivesAnEmptyList)
+{
+    LiveProcessSource source("/nonexistent/proc", 0, 0, 100, 4096);
+    EXPECT_TRUE(source.snapshot(true).empty());
+    EXPECT_FALSE(source.cwd(1));
+}
+
+TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
+{
+    LiveProcessSource source;
+    const pid_t zombie = ::fork();
+    if (zombie == 0)
+        ::_exit(0);
+    ::usleep(50'000); // let it exit; it stays a zombie until we wait
+    const auto records = source.snapshot(false);
+    const auto* self = byPid(records, ::getpid());
+    ASSERT_NE(self, nullptr);
+    EXPECT_EQ(self->uid, ::geteuid());
+    ASSERT_TRUE(self->path);
+    EXPECT_EQ(*self->path, fs::read_symlink("/proc/self/exe").string());
+    EXPECT_GT(*self->memory, 0u);
+    EXPECT_TRUE(self->diskRead);
+    EXPECT_NEAR(self->start, static_cast<double>(::time(nullptr)), 3600.0);
+    const auto* child = byPid(records, zombie);
+    ASSERT_NE(child, nullptr);
+    EXPECT_TRUE(child->zombie);
+    EXPECT_EQ(child->ppid, ::getpid());
+    EXPECT_EQ(source.cwd(::getpid()), fs::current_path().string());
+    const auto kernel = std::count_if(records.begin(), records.end(), [](const auto& r) { return r.kernelThread; });
+    EXPECT_GT(kernel, 0) << "kernel threads are listed";
+    ::waitpid(zombie, nullptr, 0);
+
+    // The start time is stable from reading to reading: the key must not drift.
+    const auto again = source.snapshot(false);
+    EXPECT_EQ(ProcKey::of(*byPid(again, ::getpid())), ProcKey::of(*self));
+}
