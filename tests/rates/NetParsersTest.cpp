@@ -66,6 +66,8 @@ TEST(SsParser, OwnersCountersAndAddresses)
     EXPECT_TRUE(
         SsParser::parse("ESTAB 0 0 10.0.0.2:5 10.0.0.9:80 users:((\"a\",pid=7,fd=3)) bytes_received:1\n").empty());
     EXPECT_TRUE(SsParser::parse("ESTAB 0 0 users:((\"a\",pid=x,fd=3)) ino:4\n").empty());
+    // Found by fuzzing: a name whose escape is the last character of the line.
+    EXPECT_TRUE(SsParser::parse("ESTAB 0 0 a:1 b:2 ino:4 users:((\"ab\\").empty());
     EXPECT_TRUE(SsParser::isLoopback("[::1]:22"));
     EXPECT_TRUE(SsParser::isLoopback("[::ffff:127.0.0.1]:80"));
     EXPECT_TRUE(SsParser::isLoopback("127.0.0.53%lo:53"));

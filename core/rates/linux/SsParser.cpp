@@ -32,7 +32,8 @@ std::optional<int32_t> firstPid(std::string_view line)
             ++i;
     }
     constexpr std::string_view pidKey = "\",pid=";
-    if (line.substr(i, pidKey.size()) != pidKey)
+    // An escape at the very end leaves i past the line.
+    if (i >= line.size() || line.substr(i, pidKey.size()) != pidKey)
         return std::nullopt;
     i += pidKey.size();
     const auto end = line.find_first_not_of("0123456789", i);

@@ -1,0 +1,20 @@
+// /proc/<pid> files: stat's name never holds the text after its last ")",
+// and the other parsers stay within their inputs.
+
+#include "FuzzInput.h"
+#include "processes/linux/ProcPidFiles.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const auto text = fuzzText(data, size);
+    if (const auto stat = vexel::ProcPidFiles::parseStat(text)) {
+        require(stat->comm.size() < size);
+        require(stat->ppid >= 0);
+    }
+    (void)vexel::ProcPidFiles::parseStatmAnonPages(text);
+    (void)vexel::ProcPidFiles::parseStatus(text);
+    (void)vexel::ProcPidFiles::parseIo(text);
+    if (const auto cgroup = vexel::ProcPidFiles::parseCgroup(text))
+        require(cgroup->size() < size);
+    return 0;
+}
