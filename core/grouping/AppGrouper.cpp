@@ -78,31 +78,30 @@ double sortValue(const AppGroup& group, AppSort sort)
 std::vector<AppGroup> group(const std::vector<ProcRecord>& records, const RateTracker::Rates& rates,
     const IdentityRules& rules, IdentityCache* cache, AppSort sort)
 {
-    const auto identities = AppIdentity::resolve(records, rules, cache);
-    std::vector<Building> buildings;
-    std::unordered_map<std::string, size_t> indexByKey;
-    for (const auto& record : records) {
-        const auto identity = identities.find(record.pid);
-        if (identity == identities.end())
-            continue;
-        const Identity& id = identity->second;
-        auto [slot, added] = indexByKey.try_emplace(id.key, buildings.size());
-        if (added) {
-            Building building;
-            building.group.id = id.key;
-            building.group.name = id.name;
-            building.group.kind = id.kind;
-            building.group.path = id.path;
-            buildings.push_back(std::move(building));
-        }
+    const auto resolution = AppIdentity::resolveAll(records, rules, cache);
+    // Identities are numbered in order of discovery, so a group's number is its identity's.
+    std::vector<Building> buildings(resolution.identities.size());
+    for (size_t i = 0; i < buildings.size(); ++i) {
+        const Identity& id = resolution.identities[i];
+        buildings[i].group.id = id.key;
+        buildings[i].group.name = id.name;
+        buildings[i].group.kind = id.kind;
+        buildings[i].group.path = id.path;
+    }
+    const ProcRates none;
+    for (size_t i = 0; i < records.size(); ++i) {
+        const ProcRecord& record = records[i];
+        const uint32_t index = resolution.indexOfRecord[i];
+        const Identity& id = resolution.identities[index];
         const auto rate = rates.find(ProcKey::of(record));
-        const ProcRates none;
-        add(buildings[slot->second], record, rate == rates.end() ? none : rate->second,
+        add(buildings[index], record, rate == rates.end() ? none : rate->second,
             id.kind == AppKind::app && rules.isMainExecutable(record, id));
     }
     std::vector<AppGroup> groups;
     groups.reserve(buildings.size());
     for (auto& building : buildings) {
+        if (building.group.processes.empty())
+            continue; // a base identity that every member traded for its parent's
         finish(building);
         groups.push_back(std::move(building.group));
     }

@@ -52,21 +52,26 @@ std::string lastComponent(std::string_view path)
 }
 
 // Walks parents from one process, remembering every decision of this call.
+// Identities are interned: each distinct one is stored once and processes
+// refer to it by index, so a frame of thousands of processes copies only the
+// few dozen identities it holds.
 class Resolver {
 public:
     Resolver(const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache)
         : m_rules(rules)
         , m_cache(cache)
     {
-        for (const auto& record : records)
-            m_byPid.try_emplace(record.pid, &record);
+        m_byPid.reserve(records.size());
+        m_final.reserve(records.size());
+        for (size_t i = 0; i < records.size(); ++i)
+            m_byPid.try_emplace(records[i].pid, &records[i]);
     }
 
-    const Identity& identity(const ProcRecord& record, int depth)
+    uint32_t identity(const ProcRecord& record, int depth)
     {
         if (const auto done = m_final.find(record.pid); done != m_final.end())
             return done->second;
-        const Identity own = base(record);
+        const uint32_t own = base(record);
         const auto parentEntry = m_byPid.find(record.ppid);
         const ProcRecord* parent = parentEntry == m_byPid.end() ? nullptr : parentEntry->second;
         if (record.ppid < 2 || record.ppid == record.pid || (parent != nullptr && m_rules.isLauncher(*parent)))
@@ -75,45 +80,60 @@ public:
             return decide(record, own);
         if (record.zombie && parent != nullptr)
             return decide(record, follow(record, *parent, depth));
-        if (own.kind == AppKind::app && m_rules.isMainExecutable(record, own))
+        const Identity& ownIdentity = m_identities[own];
+        if (ownIdentity.kind == AppKind::app && m_rules.isMainExecutable(record, ownIdentity))
             return decide(record, own);
         // A parent that started after the child is a reused pid: not its parent at all.
         if (parent != nullptr && parent->start <= record.start) {
-            const Identity inherited = follow(record, *parent, depth);
-            return decide(record, inherited.kind == AppKind::system ? own : inherited);
+            const uint32_t inherited = follow(record, *parent, depth);
+            return decide(record, m_identities[inherited].kind == AppKind::system ? own : inherited);
         }
         return decide(record, own);
     }
 
+    [[nodiscard]] std::vector<Identity> takeIdentities() { return std::move(m_identities); }
+
 private:
-    Identity follow(const ProcRecord& record, const ProcRecord& parent, int depth)
+    uint32_t follow(const ProcRecord& record, const ProcRecord& parent, int depth)
     {
         m_walk.insert(record.pid);
-        Identity result = identity(parent, depth + 1);
+        const uint32_t result = identity(parent, depth + 1);
         m_walk.erase(record.pid);
         return result;
     }
 
-    const Identity& decide(const ProcRecord& record, Identity identity)
+    uint32_t decide(const ProcRecord& record, uint32_t identity)
     {
-        return m_final.insert_or_assign(record.pid, std::move(identity)).first->second;
+        m_final.insert_or_assign(record.pid, identity);
+        return identity;
     }
 
-    Identity base(const ProcRecord& record)
+    uint32_t intern(const Identity& identity)
+    {
+        const auto [slot, added] = m_indexByKey.try_emplace(identity.key, static_cast<uint32_t>(m_identities.size()));
+        if (added)
+            m_identities.push_back(identity);
+        return slot->second;
+    }
+
+    uint32_t base(const ProcRecord& record)
     {
         if (m_cache == nullptr)
-            return m_rules.base(record);
-        const std::string key = m_rules.cacheKey(record);
-        if (const Identity* known = m_cache->find(key))
-            return *known;
-        return m_cache->store(key, m_rules.base(record));
+            return intern(m_rules.base(record));
+        m_rules.cacheKey(record, m_key);
+        if (const Identity* known = m_cache->find(m_key))
+            return intern(*known);
+        return intern(m_cache->store(m_key, m_rules.base(record)));
     }
 
     const IdentityRules& m_rules;
     IdentityCache* m_cache;
     std::unordered_map<int32_t, const ProcRecord*> m_byPid;
-    std::unordered_map<int32_t, Identity> m_final;
+    std::unordered_map<int32_t, uint32_t> m_final;
+    std::unordered_map<std::string, uint32_t> m_indexByKey;
+    std::vector<Identity> m_identities;
     std::set<int32_t> m_walk;
+    std::string m_key; // reused for every cache key
 };
 
 } // namespace
@@ -193,14 +213,25 @@ Identity base(const ProcRecord& record, const BundleNameFunction& bundleName)
     return Identity{"tool:" + record.name, record.name, AppKind::tool, path};
 }
 
+Resolution resolveAll(const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache)
+{
+    Resolver resolver(records, rules, cache);
+    Resolution resolution;
+    resolution.indexOfRecord.reserve(records.size());
+    for (const auto& record : records)
+        resolution.indexOfRecord.push_back(resolver.identity(record, 0));
+    resolution.identities = resolver.takeIdentities();
+    return resolution;
+}
+
 std::unordered_map<int32_t, Identity> resolve(
     const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache)
 {
-    Resolver resolver(records, rules, cache);
+    const auto resolution = resolveAll(records, rules, cache);
     std::unordered_map<int32_t, Identity> identities;
     identities.reserve(records.size());
-    for (const auto& record : records)
-        identities.try_emplace(record.pid, resolver.identity(record, 0));
+    for (size_t i = 0; i < records.size(); ++i)
+        identities.try_emplace(records[i].pid, resolution.identities[resolution.indexOfRecord[i]]);
     return identities;
 }
 
@@ -211,16 +242,15 @@ Identity MacIdentityRules::base(const ProcRecord& record) const
     return AppIdentity::base(record, m_bundleName);
 }
 
-std::string MacIdentityRules::cacheKey(const ProcRecord& record) const
+void MacIdentityRules::cacheKey(const ProcRecord& record, std::string& key) const
 {
-    std::string key = record.name;
+    key.assign(record.name);
     if (record.path) {
         key += '\x1f';
         key += *record.path;
     } else if (record.uid == 0 || record.pid == 0) {
         key += "\x1f\x1e"; // no path and a system owner: a different identity than a user's tool
     }
-    return key;
 }
 
 bool MacIdentityRules::isLauncher(const ProcRecord&) const

@@ -24,7 +24,8 @@ public:
 
     // The identity of a process taken alone, and the cache key that decides it.
     [[nodiscard]] virtual Identity base(const ProcRecord& record) const = 0;
-    [[nodiscard]] virtual std::string cacheKey(const ProcRecord& record) const = 0;
+    // Writes into `key` (reused from call to call) what decides the base identity.
+    virtual void cacheKey(const ProcRecord& record, std::string& key) const = 0;
     // Whether a parent stands for "no parent": the system's launcher, which
     // starts (and adopts) processes of every app.
     [[nodiscard]] virtual bool isLauncher(const ProcRecord& parent) const = 0;
@@ -52,8 +53,19 @@ namespace AppIdentity {
 // The macOS identity of one process taken alone.
 [[nodiscard]] Identity base(const ProcRecord& record, const BundleNameFunction& bundleName);
 
-// Every record's final identity, by pid: helpers follow their parents to the
-// app or tool that started them (Part of the grouping rules).
+// The distinct identities of a frame and, for each record in order, the index of its own.
+struct Resolution {
+    std::vector<Identity> identities;
+    std::vector<uint32_t> indexOfRecord;
+};
+
+// Every record's final identity: helpers follow their parents to the app or
+// tool that started them, zombies join their parent, and the launcher's
+// children keep their own.
+[[nodiscard]] Resolution resolveAll(
+    const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache);
+
+// The same as a map by pid.
 [[nodiscard]] std::unordered_map<int32_t, Identity> resolve(
     const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache);
 
@@ -68,7 +80,7 @@ public:
     }
 
     [[nodiscard]] Identity base(const ProcRecord& record) const override;
-    [[nodiscard]] std::string cacheKey(const ProcRecord& record) const override;
+    void cacheKey(const ProcRecord& record, std::string& key) const override;
     [[nodiscard]] bool isLauncher(const ProcRecord& parent) const override;
     [[nodiscard]] bool isMainExecutable(const ProcRecord& record, const Identity& identity) const override;
 

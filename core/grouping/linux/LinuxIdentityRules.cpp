@@ -180,16 +180,15 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
     return tool(record);
 }
 
-std::string LinuxIdentityRules::cacheKey(const ProcRecord& record) const
+void LinuxIdentityRules::cacheKey(const ProcRecord& record, std::string& key) const
 {
-    std::string key = record.name;
+    key.assign(record.name);
     key += '\x1f';
     key += record.path.value_or("");
     key += '\x1f';
     key += record.cgroup.value_or("");
     key += '\x1f';
     key += record.kernelThread ? 'k' : (record.uid < m_uidMin ? 's' : 'u');
-    return key;
 }
 
 bool LinuxIdentityRules::isLauncher(const ProcRecord& parent) const

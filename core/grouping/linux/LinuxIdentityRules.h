@@ -18,7 +18,7 @@ public:
         std::shared_ptr<const DesktopIndex> index, BundleNameFunction desktopName, uint32_t uidMin = 1000);
 
     [[nodiscard]] Identity base(const ProcRecord& record) const override;
-    [[nodiscard]] std::string cacheKey(const ProcRecord& record) const override;
+    void cacheKey(const ProcRecord& record, std::string& key) const override;
     [[nodiscard]] bool isLauncher(const ProcRecord& parent) const override;
     [[nodiscard]] bool isMainExecutable(const ProcRecord& record, const Identity& identity) const override;
 

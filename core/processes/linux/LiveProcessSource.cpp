@@ -15,8 +15,11 @@ namespace vexel {
 
 namespace {
 
-constexpr uint64_t refreshEvery = 8; // readings between forced memory and disk reads
-constexpr uint64_t slowRefreshEvery = 64; // readings between forced user and cgroup reads
+// An idle process's footprint (anonymous plus swapped memory) and disk
+// counters do not change while it does not run, so they are re-read only
+// rarely as a safety net: every file read costs microseconds per process.
+constexpr uint64_t refreshEvery = 64; // readings between forced memory and disk reads
+constexpr uint64_t slowRefreshEvery = 256; // readings between forced user, cgroup and executable reads
 
 double secondsOf(clockid_t clock)
 {
@@ -82,31 +85,31 @@ bool LiveProcessSource::machineSwaps()
 void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, const std::string& comm)
 {
     known.comm = comm;
-    if (Files::readInto(folder + "/status", m_buffer, 64 * 1024)) {
+    if (Files::readInto(fileOf(folder, "status"), m_buffer, 64 * 1024)) {
         const auto status = ProcPidFiles::parseStatus(m_buffer);
         known.uid = status.uid.value_or(known.uid);
         known.kernelThread = known.kernelThread || status.kernelThread;
         known.swapBytes = status.vmSwap.value_or(0);
     }
-    if (Files::readInto(folder + "/cgroup", m_buffer, 64 * 1024))
+    if (Files::readInto(fileOf(folder, "cgroup"), m_buffer, 64 * 1024))
         known.cgroup = ProcPidFiles::parseCgroup(m_buffer);
     // Only the user's own processes (or every one, for root) reveal their executable.
-    const auto exe = known.kernelThread ? std::nullopt : Files::readLink(folder + "/exe");
+    const auto exe = known.kernelThread ? std::nullopt : Files::readLink(fileOf(folder, "exe"));
     known.path = exe ? std::optional(withoutDeleted(*exe)) : std::nullopt;
 }
 
 void LiveProcessSource::measure(const std::string& folder, Known& known, bool own, bool swapping)
 {
     known.measured = true;
-    if (Files::readInto(folder + "/statm", m_buffer, 4096))
+    if (Files::readInto(fileOf(folder, "statm"), m_buffer, 4096))
         known.anonBytes = ProcPidFiles::parseStatmAnonPages(m_buffer).value_or(0) * m_pageSize;
-    if (swapping && Files::readInto(folder + "/status", m_buffer, 64 * 1024))
+    if (swapping && Files::readInto(fileOf(folder, "status"), m_buffer, 64 * 1024))
         known.swapBytes = ProcPidFiles::parseStatus(m_buffer).vmSwap.value_or(0);
     else if (!swapping)
         known.swapBytes = 0;
     if (!own)
         return;
-    if (Files::readInto(folder + "/io", m_buffer, 4096)) {
+    if (Files::readInto(fileOf(folder, "io"), m_buffer, 4096)) {
         if (const auto io = ProcPidFiles::parseIo(m_buffer)) {
             known.diskRead = io->readBytes;
             known.diskWrite = io->writeBytes;
@@ -117,6 +120,12 @@ void LiveProcessSource::measure(const std::string& folder, Known& known, bool ow
     known.diskWrite.reset();
 }
 
+const std::string& LiveProcessSource::fileOf(const std::string& folder, const char* name)
+{
+    m_file.assign(folder).append("/").append(name);
+    return m_file;
+}
+
 std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
 {
     std::vector<ProcRecord> records;
@@ -125,15 +134,14 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
         return records;
     ++m_readings;
     const bool swapping = machineSwaps();
-    std::unordered_map<ProcKey, Known, ProcKeyHash> live;
-    live.reserve(m_known.size() + 16);
+    records.reserve(m_known.size() + 16);
     std::string folder;
     while (const dirent* entry = ::readdir(dir.get())) {
         const auto pid = pidOf(entry->d_name);
         if (!pid)
             continue;
         folder.assign(m_proc).append("/").append(entry->d_name);
-        if (!Files::readInto(folder + "/stat", m_buffer, 4096))
+        if (!Files::readInto(fileOf(folder, "stat"), m_buffer, 4096))
             continue; // it exited since the folder was listed
         auto stat = ProcPidFiles::parseStat(m_buffer);
         if (!stat)
@@ -142,20 +150,22 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
         ProcRecord record;
         record.pid = *pid;
         record.ppid = stat->ppid;
-        record.name = stat->comm;
         record.start = m_bootEpoch + static_cast<double>(stat->startTime) / m_ticksPerSecond;
         record.zombie = stat->isZombie();
         const auto key = ProcKey::of(record);
 
-        auto found = m_known.find(key);
-        const bool isNew = found == m_known.end();
-        Known known = isNew ? Known{} : std::move(found->second);
+        auto [slot, isNew] = m_known.try_emplace(key);
+        Known& known = slot->second;
+        known.seen = m_readings;
         known.kernelThread = known.kernelThread || stat->isKernelThread();
         const bool slowDue = (m_readings + static_cast<uint64_t>(*pid)) % slowRefreshEvery == 0;
         // A new program (a changed name) may bring a new user and executable.
-        if (isNew || known.comm != stat->comm || slowDue)
+        // Kernel threads never run a new program, but workers rename themselves for each job.
+        const bool renamed = known.comm != stat->comm && !known.kernelThread;
+        if (isNew || renamed || slowDue)
             learnSlowFacts(folder, known, stat->comm);
 
+        record.name = std::move(stat->comm);
         record.uid = known.uid;
         record.kernelThread = known.kernelThread;
         record.cgroup = known.cgroup;
@@ -176,10 +186,10 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
                 record.diskWrite = known.diskWrite;
             }
         }
-        live.emplace(key, std::move(known));
         records.push_back(std::move(record));
     }
-    m_known.swap(live);
+    // Forget the processes that are gone.
+    std::erase_if(m_known, [this](const auto& entry) { return entry.second.seen != m_readings; });
     return records;
 }
 

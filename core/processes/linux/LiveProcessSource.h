@@ -13,9 +13,9 @@ namespace vexel {
 // (user, executable, cgroup) is kept per process and looked up again only
 // when the process runs a new program. Memory (statm, plus swap from status
 // when the machine swaps) and disk bytes (io, own processes) are re-read for
-// a process that used processor time since the last reading, and every
-// eighth reading otherwise: a process that did not run cannot have touched
-// its memory or the disk.
+// a process that used processor time since the last reading, and every 64th
+// reading otherwise: a process that did not run cannot have touched its
+// memory or the disk.
 class LiveProcessSource final : public ProcessSource {
 public:
     // This machine's /proc, as the calling user.
@@ -43,11 +43,14 @@ private:
         std::optional<uint64_t> diskRead;
         std::optional<uint64_t> diskWrite;
         bool measured = false; // memory and disk have been read at least once
+        uint64_t seen = 0; // the reading that last listed it
     };
 
     void learnSlowFacts(const std::string& folder, Known& known, const std::string& comm);
     void measure(const std::string& folder, Known& known, bool own, bool swapping);
     [[nodiscard]] bool machineSwaps();
+    // "<folder>/<name>" in a buffer reused for every file of every process.
+    [[nodiscard]] const std::string& fileOf(const std::string& folder, const char* name);
 
     std::string m_proc;
     uint32_t m_myUID;
@@ -57,6 +60,7 @@ private:
     uint64_t m_readings = 0;
     std::unordered_map<ProcKey, Known, ProcKeyHash> m_known;
     std::string m_buffer;
+    std::string m_file;
 };
 
 } // namespace vexel

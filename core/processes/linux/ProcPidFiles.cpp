@@ -2,6 +2,7 @@
 
 #include "text/TextScan.h"
 
+#include <array>
 #include <limits>
 
 namespace vexel::ProcPidFiles {
@@ -29,9 +30,21 @@ std::optional<Stat> parseStat(std::string_view text)
     const auto close = text.rfind(')');
     if (open == std::string_view::npos || close == std::string_view::npos || close < open)
         return std::nullopt;
-    // After the name: 3 state, 4 ppid, … 9 flags, … 14 utime, 15 stime, … 22 starttime.
-    const auto fields = TextScan::words(text.substr(close + 1));
-    if (fields.size() < 20 || fields[0].size() != 1)
+    // After the name, counting from 0: 0 state, 1 ppid, 6 flags, 11 utime, 12 stime, 19 starttime.
+    // Read once per process per tick, so the fields are picked out without building a list.
+    std::array<std::string_view, 20> fields;
+    size_t count = 0;
+    size_t i = close + 1;
+    while (count < fields.size() && i < text.size()) {
+        while (i < text.size() && (text[i] == ' ' || text[i] == '\n'))
+            ++i;
+        const size_t start = i;
+        while (i < text.size() && text[i] != ' ' && text[i] != '\n')
+            ++i;
+        if (i > start)
+            fields[count++] = text.substr(start, i - start);
+    }
+    if (count < fields.size() || fields[0].size() != 1)
         return std::nullopt;
     Stat stat;
     stat.comm = std::string(text.substr(open + 1, close - open - 1));
