@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstdlib>
 
 namespace vexel {
@@ -32,6 +33,13 @@ bool isWrapper(const std::string& program)
         || (base.starts_with("python") && base.find_first_not_of("python0123456789.") == std::string::npos);
 }
 
+std::string lowerCase(std::string text)
+{
+    for (auto& c : text)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
+}
+
 std::string folderOf(const std::string& path)
 {
     const auto slash = path.rfind('/');
@@ -50,6 +58,13 @@ DesktopIndex::DesktopIndex(
         if (app.entry.hidden || !app.program || isWrapper(*app.program))
             continue;
         m_idByProgram.try_emplace(*app.program, id);
+        // Distributions often start an app through a script in /usr/bin that runs
+        // the real program elsewhere; the entry's id or window class still names it.
+        if (!app.entry.terminal) {
+            m_idByName.try_emplace(lowerCase(id), id);
+            if (!app.entry.wmClass.empty())
+                m_idByName.try_emplace(lowerCase(app.entry.wmClass), id);
+        }
         const std::string root = folderOf(*app.program);
         if (std::find(m_shared.begin(), m_shared.end(), root) == m_shared.end())
             m_roots.emplace_back(root, id);
@@ -128,6 +143,8 @@ const DesktopIndex::App* DesktopIndex::byExecutable(const std::string& executabl
         if (executable.size() > root.size() && executable.starts_with(root) && executable[root.size()] == '/')
             return byId(id);
     }
+    if (const auto named = m_idByName.find(lowerCase(Files::baseName(executable))); named != m_idByName.end())
+        return byId(named->second);
     return nullptr;
 }
 

@@ -39,7 +39,8 @@ public:
     [[nodiscard]] static std::vector<std::string> standardSharedFolders(const std::string& home);
 
     [[nodiscard]] const App* byId(const std::string& id) const;
-    // The app whose program is exactly `executable`, else the one whose install folder holds it.
+    // The app whose program is exactly `executable`, else the one whose install
+    // folder holds it, else the one whose id or window class is the executable's name.
     [[nodiscard]] const App* byExecutable(const std::string& executable) const;
     [[nodiscard]] size_t size() const { return m_apps.size(); }
 
@@ -48,6 +49,7 @@ private:
 
     std::map<std::string, App> m_apps;
     std::map<std::string, std::string> m_idByProgram;
+    std::map<std::string, std::string> m_idByName; // lower-case id or window class
     std::vector<std::pair<std::string, std::string>> m_roots; // install folder, id; longest first
     std::vector<std::string> m_shared;
 };
