@@ -10,6 +10,8 @@ packages=(
   nlohmann-json3-dev libsqlite3-dev qt6-base-dev
   # the app's font and the GPU name database
   fonts-inter pci.ids
+  # the tools Vexel runs: ss (iproute2) and lsof for listening ports, ps for tests
+  iproute2 lsof procps
   # tests, benchmarks, fuzzing and formatting
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
 )

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vexel {
+
+// One TCP socket in the listening state and the process that holds it.
+struct ListenSocket {
+    enum class Family { v4, v6 };
+
+    int32_t pid = 0;
+    std::string command; // the process's command name as the tool prints it
+    Family family = Family::v4;
+    std::string address; // bound address without brackets: "127.0.0.1", "::1", "*"
+    uint16_t port = 0;
+
+    bool operator==(const ListenSocket&) const = default;
+    auto operator<=>(const ListenSocket&) const = default;
+};
+
+// "IPv4" or "IPv6".
+[[nodiscard]] std::string rawValue(ListenSocket::Family family);
+[[nodiscard]] std::optional<ListenSocket::Family> listenFamilyFromRaw(std::string_view raw);
+
+// The socket under its field names: pid, command, family, address, port.
+[[nodiscard]] nlohmann::ordered_json toJson(const ListenSocket& socket);
+[[nodiscard]] std::optional<ListenSocket> listenSocketFromJson(const nlohmann::ordered_json& json);
+
+} // namespace vexel
