@@ -1,13 +1,8 @@
 #include "settings/VexelSettings.h"
 
+#include "io/AtomicFile.h"
 #include "io/Files.h"
 #include "settings/JsonFields.h"
-
-#include <cerrno>
-#include <cstdio>
-#include <fcntl.h>
-#include <system_error>
-#include <unistd.h>
 
 namespace vexel {
 
@@ -52,24 +47,6 @@ std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json& json)
         items.push_back(*item);
     }
     return items;
-}
-
-void throwErrno(const std::string& what, const std::filesystem::path& file)
-{
-    throw std::filesystem::filesystem_error(what, file, std::error_code(errno, std::generic_category()));
-}
-
-void writeAll(int fd, const std::string& bytes, const std::filesystem::path& file)
-{
-    size_t written = 0;
-    while (written < bytes.size()) {
-        const ssize_t n = ::write(fd, bytes.data() + written, bytes.size() - written);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            throwErrno("Couldn't write the settings", file);
-        written += static_cast<size_t>(n);
-    }
 }
 
 } // namespace
@@ -137,29 +114,7 @@ VexelSettings VexelSettings::load(const std::filesystem::path& file)
 
 void VexelSettings::save(const std::filesystem::path& file) const
 {
-    if (file.has_parent_path())
-        std::filesystem::create_directories(file.parent_path());
-    const std::string bytes = toJson(*this).dump(2) + "\n";
-    std::string temporary = file.string() + ".XXXXXX";
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0)
-        throwErrno("Couldn't create the settings file", file);
-    try {
-        writeAll(fd, bytes, file);
-        if (::fsync(fd) != 0)
-            throwErrno("Couldn't write the settings", file);
-    } catch (...) {
-        ::close(fd);
-        ::unlink(temporary.c_str());
-        throw;
-    }
-    ::close(fd);
-    if (::rename(temporary.c_str(), file.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(temporary.c_str());
-        errno = error;
-        throwErrno("Couldn't replace the settings file", file);
-    }
+    AtomicFile::write(file, toJson(*this).dump(2) + "\n");
 }
 
 } // namespace vexel
