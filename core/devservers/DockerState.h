@@ -1,0 +1,59 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace vexel {
+
+// One container as the engine lists it, with its load when it runs.
+struct Container {
+    std::string id;
+    std::string name;
+    std::string image;
+    std::string state; // "running", "exited"…
+    std::string status; // the engine's own words: "Up 3 hours"
+    std::string ports; // the engine's port text
+    std::optional<std::string> project; // the compose project
+    std::optional<double> cpu; // percent
+    std::optional<uint64_t> memory; // bytes in use
+    std::optional<uint64_t> memoryLimit;
+
+    bool operator==(const Container&) const = default;
+};
+
+// What the docker command said.
+struct DockerState {
+    enum class Kind { notInstalled, notRunning, containers };
+
+    Kind kind = Kind::notInstalled;
+    std::string message; // for notRunning
+    std::vector<Container> containers;
+
+    [[nodiscard]] static DockerState notInstalled() { return {}; }
+    [[nodiscard]] static DockerState notRunning()
+    {
+        return {Kind::notRunning, "Docker is installed but its engine isn't running.", {}};
+    }
+    [[nodiscard]] static DockerState running(std::vector<Container> list)
+    {
+        return {Kind::containers, {}, std::move(list)};
+    }
+
+    bool operator==(const DockerState&) const = default;
+};
+
+// Where the container list comes from.
+class DockerSource {
+public:
+    virtual ~DockerSource() = default;
+    [[nodiscard]] virtual DockerState read() = 0;
+};
+
+[[nodiscard]] nlohmann::ordered_json toJson(const Container& container);
+
+} // namespace vexel
