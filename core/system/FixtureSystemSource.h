@@ -19,6 +19,9 @@ public:
         return copy;
     }
 
+    // Replaces the snapshot served from now on (the demo world updates it as time advances).
+    void set(SystemSnapshot snapshot) { m_snapshot = std::move(snapshot); }
+
 private:
     SystemSnapshot m_snapshot;
 };

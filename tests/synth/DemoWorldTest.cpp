@@ -1,0 +1,214 @@
+#include "synth/DemoWorld.h"
+#include "actions/FakeActions.h"
+
+#include <gtest/gtest.h>
+
+using namespace vexel;
+
+namespace {
+
+const AppGroup* group(const Frame& frame, const std::string& id)
+{
+    for (const auto& app : frame.apps) {
+        if (app.id == id)
+            return &app;
+    }
+    return nullptr;
+}
+
+bool holds(const AppGroup& app, int32_t pid)
+{
+    return std::any_of(app.processes.begin(), app.processes.end(), [&](const ProcRow& row) { return row.pid == pid; });
+}
+
+int32_t pidOf(const DemoWorld& world, const std::string& name, const std::string& pathPart = "")
+{
+    for (const auto& proc : world.procs()) {
+        if (proc.rec.name == name && proc.rec.path.value_or("").find(pathPart) != std::string::npos)
+            return proc.rec.pid;
+    }
+    return -1;
+}
+
+Frame settled(DemoWorld& world, Monitor& monitor)
+{
+    (void)monitor.sample(world.now(), true, true);
+    world.advance(2);
+    return monitor.sample(world.now(), true, true);
+}
+
+} // namespace
+
+TEST(DemoWorld, AppGroupsAreThoseOfTheSimulatedMac)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    const Frame frame = settled(world, *monitor);
+
+    const auto* chrome = group(frame, "app:/Applications/Google Chrome.app");
+    ASSERT_NE(chrome, nullptr);
+    EXPECT_EQ(chrome->name, "Google Chrome");
+    EXPECT_EQ(chrome->processes.size(), 33u); // the main process and its 32 helpers
+    EXPECT_EQ(chrome->mainPID, pidOf(world, "Google Chrome"));
+
+    const auto* code = group(frame, "app:/Applications/Visual Studio Code.app");
+    ASSERT_NE(code, nullptr);
+    EXPECT_EQ(code->name, "Visual Studio Code");
+    EXPECT_TRUE(holds(*code, pidOf(world, "node", "Cellar"))); // the atlas-api server in its terminal
+
+    const auto* iterm = group(frame, "app:/Applications/iTerm.app");
+    ASSERT_NE(iterm, nullptr);
+    EXPECT_TRUE(holds(*iterm, pidOf(world, "python3")));
+    EXPECT_TRUE(holds(*iterm, pidOf(world, "git"))); // the zombie child
+    EXPECT_EQ(iterm->zombies, 1);
+    const auto nodes
+        = std::count_if(iterm->processes.begin(), iterm->processes.end(), [](auto& r) { return r.name == "node"; });
+    EXPECT_EQ(nodes, 2); // the marketing site and the design system's storybook
+
+    const auto* postgres = group(frame, "tool:postgres");
+    ASSERT_NE(postgres, nullptr);
+    EXPECT_EQ(postgres->kind, AppKind::tool);
+    EXPECT_EQ(postgres->processes.size(), 6u);
+
+    const auto* xcode = group(frame, "app:/Applications/Xcode.app");
+    ASSERT_NE(xcode, nullptr);
+    EXPECT_TRUE(holds(*xcode, pidOf(world, "SourceKitService")));
+    EXPECT_TRUE(holds(*xcode, pidOf(world, "xcodebuild")));
+
+    const auto* webkit = group(frame, "sys:Web content (WebKit)");
+    ASSERT_NE(webkit, nullptr);
+    EXPECT_EQ(webkit->processes.size(), 4u);
+    EXPECT_NE(group(frame, "sys:Spotlight"), nullptr);
+    EXPECT_NE(group(frame, "app:/System/Library/CoreServices/Finder.app"), nullptr);
+    EXPECT_NE(group(frame, "app:/System/Volumes/Preboot/Cryptexes/App/System/Applications/Safari.app"), nullptr);
+    EXPECT_EQ(frame.apps.front().id, "app:/Applications/Google Chrome.app"); // the browser leads CPU
+}
+
+TEST(DemoWorld, TwoWorldsAdvancedAlikeAreIdentical)
+{
+    DemoWorld a;
+    DemoWorld b;
+    for (int i = 0; i < 25; ++i) {
+        a.advance(2);
+        b.advance(2);
+    }
+    ASSERT_EQ(a.procs().size(), b.procs().size());
+    for (size_t i = 0; i < a.procs().size(); ++i)
+        EXPECT_EQ(a.procs()[i].rec, b.procs()[i].rec) << a.procs()[i].rec.name;
+    EXPECT_EQ(a.net(), b.net());
+    EXPECT_EQ(a.systemSource->read(1), b.systemSource->read(1));
+    DemoWorld c;
+    for (int i = 0; i < 24; ++i)
+        c.advance(2);
+    EXPECT_NE(c.procs()[40].rec.cpuTime, a.procs()[40].rec.cpuTime);
+}
+
+TEST(DemoWorld, LoadWobblesWithinBoundsAndStrainMultipliesTheHeavyOnes)
+{
+    DemoWorld world;
+    std::vector<double> before;
+    for (const auto& proc : world.procs())
+        before.push_back(proc.rec.cpuTime.value_or(0));
+    world.advance(10);
+    for (size_t i = 0; i < world.procs().size(); ++i) {
+        const auto& proc = world.procs()[i];
+        const double used = proc.rec.cpuTime.value_or(0) - before[i];
+        EXPECT_LE(used, proc.cpu * 10 * 1.35 + 1e-9) << proc.rec.name;
+        EXPECT_GE(used, proc.cpu * 10 * 0.65 - 1e-9) << proc.rec.name;
+    }
+    world.strained = true;
+    const double sourceKit = world.find("SourceKitService")->rec.cpuTime.value_or(0);
+    const double zombie = world.find("git")->rec.cpuTime.value_or(0);
+    world.advance(10);
+    const auto* kit = world.find("SourceKitService");
+    const double used = kit->rec.cpuTime.value_or(0) - sourceKit;
+    EXPECT_GE(used, kit->cpu * 10 * 0.65 * 30 - 1e-9);
+    EXPECT_LE(used, kit->cpu * 10 * 1.35 * 30 + 1e-9);
+    EXPECT_EQ(world.find("git")->rec.cpuTime.value_or(0), zombie); // zombies never run
+    const auto snapshot = world.systemSource->read(0);
+    EXPECT_EQ(snapshot.memory.pressure, MemoryPressure::warning);
+    EXPECT_EQ(snapshot.thermal, ThermalLevel::serious);
+}
+
+TEST(DemoWorld, TheMarketingSiteIsTheOnlyIdleServer)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    const Frame frame = settled(world, *monitor);
+    const auto listeners = monitor->listeners();
+    ASSERT_TRUE(listeners);
+    ActivityLog log;
+    const auto groups = monitor->devServers(frame, *listeners, log, 2 * 86400);
+    std::vector<std::string> projects;
+    std::vector<std::string> idle;
+    for (const auto& project : groups) {
+        projects.push_back(project.project.name);
+        for (const auto& server : project.servers) {
+            if (server.isIdle)
+                idle.push_back(project.project.name + ":" + std::to_string(server.ports.front()));
+        }
+    }
+    EXPECT_EQ(projects, (std::vector<std::string>{"atlas-api", "design-system", "marketing-site", "postgresql@16"}));
+    EXPECT_EQ(idle, std::vector<std::string>{"marketing-site:4321"});
+    const auto docker = monitor->dockerState();
+    ASSERT_EQ(docker.kind, DockerState::Kind::containers);
+    EXPECT_EQ(docker.containers.size(), 3u);
+}
+
+TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    const Frame first = monitor->sample(world.now(), false, true);
+    EXPECT_EQ(first.interval, 0);
+    EXPECT_EQ(monitor->lastNetRun(), world.now());
+    EXPECT_FALSE(monitor->lastEveryoneRun());
+    world.advance(2);
+    const Frame second = monitor->sample(world.now(), true, true);
+    EXPECT_EQ(second.interval, 2);
+    EXPECT_EQ(monitor->lastEveryoneRun(), world.now());
+    const auto downloader = std::find_if(second.records.begin(), second.records.end(),
+        [](const ProcRecord& r) { return r.name == "Google Chrome Helper" && r.path; });
+    const double netIn = second.rates.at(ProcKey::of(*downloader)).netIn;
+    EXPECT_GT(netIn, 380'000 * 0.6);
+    const double lastNet = *monitor->lastNetRun();
+    world.advance(2);
+    const Frame third = monitor->sample(world.now(), false, false);
+    EXPECT_EQ(monitor->lastNetRun(), lastNet); // no network reading this time…
+    EXPECT_EQ(third.rates.at(ProcKey::of(*downloader)).netIn, netIn); // …so the previous rates carry over
+    EXPECT_EQ(world.processSource->served, 3);
+}
+
+TEST(Frame, AppsByNameEqualBeforeContaining)
+{
+    Frame frame;
+    AppGroup helper;
+    helper.id = "app:a";
+    helper.name = "Notes Helper";
+    AppGroup notes;
+    notes.id = "app:b";
+    notes.name = "Notes";
+    frame.apps = {helper, notes};
+    EXPECT_EQ(frame.app("notes")->id, "app:b");
+    EXPECT_EQ(frame.app("HELP")->id, "app:a");
+    EXPECT_EQ(frame.app("mail"), nullptr);
+}
+
+TEST(FakeActions, RecordsInsteadOfActing)
+{
+    FakeActions actions;
+    actions.alive = {42};
+    AppGroup safari;
+    safari.name = "Safari";
+    EXPECT_TRUE(actions.quit(safari, false));
+    EXPECT_TRUE(actions.quit(safari, true));
+    actions.reveal("/Users/alex/code");
+    actions.copy("http://localhost:3000");
+    EXPECT_EQ(actions.log,
+        (std::vector<std::string>{
+            "quit Safari", "forceQuit Safari", "reveal /Users/alex/code", "copy http://localhost:3000"}));
+    EXPECT_TRUE(actions.isAlive(42));
+    EXPECT_TRUE(actions.signal(42, 15));
+    EXPECT_FALSE(actions.isAlive(42));
+    EXPECT_FALSE(actions.signal(42, 9)); // already gone
+}
