@@ -33,7 +33,7 @@ private:
 
 // The Linux port source: lsof when it is installed, else ss. ss would become
 // the default only if it were more than twice as fast; with 2,000 processes
-// it measured 1.7 times as fast (BENCHMARKS.md).
+// it measured 1.8 times as fast (BENCHMARKS.md).
 [[nodiscard]] std::unique_ptr<PortSource> liveLinuxPortSource();
 
 } // namespace vexel
