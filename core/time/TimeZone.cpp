@@ -1,5 +1,6 @@
 #include "time/TimeZone.h"
 
+#include <cmath>
 #include <ctime>
 
 namespace vexel {
@@ -25,6 +26,20 @@ std::optional<double> TimeZone::toEpoch(const CivilTime& civil) const
     if (fields.tm_mday != civil.day)
         return std::nullopt;
     return static_cast<double>(seconds) - (local ? 0.0 : static_cast<double>(offsetSeconds));
+}
+
+CivilTime TimeZone::civil(double epoch, int* weekday) const
+{
+    std::tm fields{};
+    const auto seconds = static_cast<std::time_t>(std::floor(epoch + (local ? 0.0 : offsetSeconds)));
+    if (local)
+        ::localtime_r(&seconds, &fields);
+    else
+        ::gmtime_r(&seconds, &fields);
+    if (weekday != nullptr)
+        *weekday = fields.tm_wday;
+    return CivilTime{
+        fields.tm_year + 1900, fields.tm_mon + 1, fields.tm_mday, fields.tm_hour, fields.tm_min, fields.tm_sec};
 }
 
 } // namespace vexel

@@ -26,6 +26,9 @@ struct TimeZone {
     // Seconds since the Unix epoch of a civil time in this zone; nothing for
     // an impossible date.
     [[nodiscard]] std::optional<double> toEpoch(const CivilTime& civil) const;
+
+    // The civil time of an instant in this zone, and its weekday (0 = Sunday).
+    [[nodiscard]] CivilTime civil(double epoch, int* weekday = nullptr) const;
 };
 
 } // namespace vexel
