@@ -1,6 +1,7 @@
 // The live reader on this machine, checked against the system's own tools.
 
 #include "io/Files.h"
+#include "monitor/Monitor.h"
 #include "support/RunTool.h"
 #include "system/linux/Diskstats.h"
 #include "system/linux/LiveSystemReader.h"
@@ -158,4 +159,26 @@ TEST(LiveMachine, ABusyCoreShowsAsBusy)
     EXPECT_GT(busyCores, 0.5);
     EXPECT_GT(snapshot.cpu.user, 0.5 / static_cast<double>(snapshot.coreCount()));
     EXPECT_LE(snapshot.cpu.user + snapshot.cpu.system, 1.0);
+}
+
+TEST(LiveMachine, TheLiveMonitorGroupsThisMachine)
+{
+    auto monitor = Monitor::live();
+    const Frame frame = monitor->settledSample(0.2);
+    EXPECT_FALSE(frame.system.cpu.cores.empty());
+    EXPECT_GT(frame.records.size(), 10u);
+    const auto self = std::find_if(frame.apps.begin(), frame.apps.end(), [](const AppGroup& group) {
+        return std::any_of(
+            group.processes.begin(), group.processes.end(), [](const ProcRow& row) { return row.pid == ::getpid(); });
+    });
+    ASSERT_NE(self, frame.apps.end());
+    const auto kernel
+        = std::find_if(frame.apps.begin(), frame.apps.end(), [](auto& g) { return g.id == "sys:Kernel"; });
+    ASSERT_NE(kernel, frame.apps.end());
+    EXPECT_GT(kernel->processes.size(), 1u);
+    size_t grouped = 0;
+    for (const auto& group : frame.apps)
+        grouped += group.processes.size();
+    EXPECT_EQ(grouped, frame.records.size()); // every process is in exactly one group
+    EXPECT_TRUE(monitor->listeners());
 }

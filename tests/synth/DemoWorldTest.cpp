@@ -212,3 +212,15 @@ TEST(FakeActions, RecordsInsteadOfActing)
     EXPECT_FALSE(actions.isAlive(42));
     EXPECT_FALSE(actions.signal(42, 9)); // already gone
 }
+
+TEST(Monitor, SettledSampleGivesRealDifferences)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    const Frame frame = monitor->settledSample(0.05);
+    EXPECT_GT(frame.interval, 0.04);
+    EXPECT_LT(frame.interval, 5.0);
+    EXPECT_EQ(world.processSource->served, 2);
+    EXPECT_TRUE(monitor->lastNetRun());
+    EXPECT_TRUE(monitor->lastEveryoneRun());
+}
