@@ -11,7 +11,7 @@ packages=(
   # the app's font and the GPU name database
   fonts-inter pci.ids
   # the tools Vexel runs: ss (iproute2) and lsof for listening ports, ps for tests
-  iproute2 lsof procps
+  iproute2 lsof procps python3
   # tests, benchmarks, fuzzing and formatting
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
 )

@@ -1,0 +1,313 @@
+#include "history/HistoryStore.h"
+
+#include "format/CFormat.h"
+#include "history/Downsample.h"
+#include "text/TextScan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sys/stat.h>
+
+namespace vexel {
+
+namespace {
+
+constexpr const char* schema
+    = "CREATE TABLE IF NOT EXISTS sys(tier INTEGER NOT NULL, t REAL NOT NULL, dur REAL NOT NULL,\n"
+      "  cpu REAL, cpu_max REAL, mem REAL, mem_max REAL, pressure INTEGER, swap REAL,\n"
+      "  disk_r REAL, disk_w REAL, net_in REAL, net_out REAL, gpu REAL, gpu_max REAL,\n"
+      "  power REAL, battery REAL, thermal INTEGER, PRIMARY KEY(tier, t)) WITHOUT ROWID;\n"
+      "CREATE TABLE IF NOT EXISTS apps(tier INTEGER NOT NULL, t REAL NOT NULL, app TEXT NOT NULL, name TEXT NOT NULL,\n"
+      "  dur REAL, cpu REAL, cpu_max REAL, mem REAL, energy REAL, disk REAL, net REAL,\n"
+      "  PRIMARY KEY(tier, t, app)) WITHOUT ROWID;\n"
+      "CREATE TABLE IF NOT EXISTS meta(key TEXT PRIMARY KEY, value TEXT);\n"
+      "INSERT OR IGNORE INTO meta(key, value) VALUES('schema', '1');";
+
+constexpr int readOnlyFlags = SQLITE_OPEN_READONLY | SQLITE_OPEN_FULLMUTEX;
+constexpr int writableFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
+constexpr int busyMilliseconds = 2000;
+constexpr int capDaysPerCompaction = 400;
+
+long long tierValue(HistoryTier tier)
+{
+    return static_cast<long long>(tier);
+}
+
+int64_t sizeOf(const std::string& path)
+{
+    struct stat info { };
+    return ::stat(path.c_str(), &info) == 0 ? static_cast<int64_t>(info.st_size) : 0;
+}
+
+} // namespace
+
+HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
+    : m_file(std::move(file))
+    , m_readOnly(readOnly)
+{
+    if (!readOnly && m_file.has_parent_path())
+        std::filesystem::create_directories(m_file.parent_path());
+    sqlite3* handle = nullptr;
+    const int result = ::sqlite3_open_v2(m_file.c_str(), &handle, readOnly ? readOnlyFlags : writableFlags, nullptr);
+    if (result != SQLITE_OK) {
+        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : "unknown";
+        ::sqlite3_close(handle);
+        throw HistoryError(HistoryError::Kind::open, message);
+    }
+    m_db = Sqlite::Database(handle);
+    ::sqlite3_busy_timeout(handle, busyMilliseconds);
+    if (readOnly)
+        return;
+    m_db.exec("PRAGMA auto_vacuum=INCREMENTAL");
+    m_db.exec("PRAGMA journal_mode=WAL");
+    m_db.exec("PRAGMA synchronous=NORMAL");
+    m_db.exec(schema);
+}
+
+void HistoryStore::append(const SysPoint& sys, std::vector<AppPoint> apps)
+{
+    std::stable_sort(apps.begin(), apps.end(), [](const AppPoint& a, const AppPoint& b) { return a.cpu > b.cpu; });
+    insert(HistoryTier::raw, sys, Downsample::select(apps, appsPerSample));
+}
+
+void HistoryStore::insert(HistoryTier tier, const SysPoint& sys, const std::vector<AppPoint>& apps)
+{
+    if (!m_insertSys) {
+        m_insertSys
+            = Sqlite::Statement(m_db.get(), "INSERT OR REPLACE INTO sys VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)");
+        m_insertApp = Sqlite::Statement(m_db.get(), "INSERT OR REPLACE INTO apps VALUES(?,?,?,?,?,?,?,?,?,?,?)");
+    }
+    const auto& s = m_insertSys;
+    s.reset();
+    s.bind(1, tierValue(tier));
+    s.bind(2, sys.t);
+    s.bind(3, sys.dur);
+    s.bind(4, sys.cpu);
+    s.bind(5, sys.cpuMax);
+    s.bind(6, sys.mem);
+    s.bind(7, sys.memMax);
+    s.bind(8, static_cast<long long>(sys.pressure));
+    s.bind(9, sys.swap);
+    s.bind(10, sys.diskR);
+    s.bind(11, sys.diskW);
+    s.bind(12, sys.netIn);
+    s.bind(13, sys.netOut);
+    s.bind(14, sys.gpu);
+    s.bind(15, sys.gpuMax);
+    s.bind(16, sys.power);
+    s.bind(17, sys.battery);
+    s.bind(18, static_cast<long long>(sys.thermal));
+    s.run();
+    const auto& a = m_insertApp;
+    for (const auto& app : apps) {
+        a.reset();
+        a.bind(1, tierValue(tier));
+        a.bind(2, app.t);
+        a.bind(3, app.app);
+        a.bind(4, app.name);
+        a.bind(5, app.dur);
+        a.bind(6, app.cpu);
+        a.bind(7, app.cpuMax);
+        a.bind(8, app.mem);
+        a.bind(9, app.energy);
+        a.bind(10, app.disk);
+        a.bind(11, app.net);
+        a.run();
+    }
+}
+
+std::vector<SysPoint> HistoryStore::points(HistoryTier tier, double from, double to) const
+{
+    const Sqlite::Statement query(m_db.get(),
+        "SELECT t,dur,cpu,cpu_max,mem,mem_max,pressure,swap,disk_r,disk_w,net_in,net_out,gpu,gpu_max,power,battery,"
+        "thermal FROM sys WHERE tier = ? AND t >= ? AND t < ? ORDER BY t");
+    query.bind(1, tierValue(tier));
+    query.bind(2, from);
+    query.bind(3, to);
+    std::vector<SysPoint> result;
+    while (query.next()) {
+        SysPoint p;
+        p.t = query.real(0);
+        p.dur = query.real(1);
+        p.cpu = query.real(2);
+        p.cpuMax = query.real(3);
+        p.mem = query.real(4);
+        p.memMax = query.real(5);
+        p.pressure = query.integer(6);
+        p.swap = query.real(7);
+        p.diskR = query.real(8);
+        p.diskW = query.real(9);
+        p.netIn = query.real(10);
+        p.netOut = query.real(11);
+        p.gpu = query.optionalReal(12);
+        p.gpuMax = query.optionalReal(13);
+        p.power = query.optionalReal(14);
+        p.battery = query.optionalReal(15);
+        p.thermal = query.integer(16);
+        result.push_back(p);
+    }
+    return result;
+}
+
+std::vector<AppPoint> HistoryStore::appPoints(HistoryTier tier, double from, double to) const
+{
+    const Sqlite::Statement query(m_db.get(),
+        "SELECT t,app,name,dur,cpu,cpu_max,mem,energy,disk,net FROM apps WHERE tier = ? AND t >= ? AND t < ? ORDER BY "
+        "t");
+    query.bind(1, tierValue(tier));
+    query.bind(2, from);
+    query.bind(3, to);
+    std::vector<AppPoint> result;
+    while (query.next()) {
+        result.push_back(AppPoint{query.real(0), query.real(3), query.text(1), query.text(2), query.real(4),
+            query.real(5), query.real(6), query.real(7), query.real(8), query.real(9)});
+    }
+    return result;
+}
+
+void HistoryStore::erase(HistoryTier tier, double before)
+{
+    if (!std::isfinite(before))
+        return;
+    for (const char* table : {"sys", "apps"}) {
+        const Sqlite::Statement remove(m_db.get(), std::string("DELETE FROM ") + table + " WHERE tier = ? AND t < ?");
+        remove.bind(1, tierValue(tier));
+        remove.bind(2, before);
+        remove.run();
+    }
+}
+
+std::optional<double> HistoryStore::meta(const std::string& key) const
+{
+    try {
+        const Sqlite::Statement query(m_db.get(), "SELECT value FROM meta WHERE key = ?");
+        query.bind(1, key);
+        if (!query.next() || query.isNull(0))
+            return std::nullopt;
+        return TextScan::toDouble(query.text(0));
+    } catch (const HistoryError&) {
+        return std::nullopt;
+    }
+}
+
+void HistoryStore::setMeta(const std::string& key, double value)
+{
+    const Sqlite::Statement write(m_db.get(), "INSERT OR REPLACE INTO meta(key, value) VALUES(?, ?)");
+    write.bind(1, key);
+    // The shortest text that reads back as the same double.
+    std::string text = cformat("%.15g", value);
+    if (TextScan::toDouble(text) != value)
+        text = cformat("%.17g", value);
+    write.bind(2, text);
+    write.run();
+}
+
+std::optional<double> HistoryStore::watermark(HistoryTier tier) const
+{
+    return meta("rolled" + std::to_string(tierValue(tier)));
+}
+
+void HistoryStore::batch(const std::function<void()>& body)
+{
+    if (m_txDepth >= 1) {
+        ++m_txDepth;
+        try {
+            body();
+        } catch (...) {
+            --m_txDepth;
+            throw;
+        }
+        --m_txDepth;
+        return;
+    }
+    m_db.exec("BEGIN");
+    m_txDepth = 1;
+    try {
+        body();
+        m_db.exec("COMMIT");
+    } catch (...) {
+        try {
+            m_db.exec("ROLLBACK");
+        } catch (const HistoryError&) {
+            // The transaction may already be gone; the original failure is what matters.
+        }
+        m_txDepth = 0;
+        throw;
+    }
+    m_txDepth = 0;
+}
+
+std::optional<double> HistoryStore::earliest(HistoryTier tier) const
+{
+    try {
+        const Sqlite::Statement query(m_db.get(), "SELECT MIN(t) FROM sys WHERE tier = ?");
+        query.bind(1, tierValue(tier));
+        if (!query.next() || query.isNull(0))
+            return std::nullopt;
+        return query.real(0);
+    } catch (const HistoryError&) {
+        return std::nullopt;
+    }
+}
+
+void HistoryStore::enforceCap()
+{
+    for (int day = 0; day < capDaysPerCompaction; ++day) {
+        if (maxBytes >= usedBytes())
+            return;
+        const auto oldest = earliest(HistoryTier::hour);
+        if (!oldest)
+            return;
+        erase(HistoryTier::hour, *oldest + 86400);
+    }
+}
+
+int64_t HistoryStore::pragma(const char* name) const
+{
+    try {
+        const Sqlite::Statement query(m_db.get(), std::string("PRAGMA ") + name);
+        return query.next() ? static_cast<int64_t>(query.integer(0)) : 0;
+    } catch (const HistoryError&) {
+        return 0;
+    }
+}
+
+int64_t HistoryStore::usedBytes() const
+{
+    return (pragma("page_count") - pragma("freelist_count")) * pragma("page_size");
+}
+
+int64_t HistoryStore::fileBytes() const
+{
+    return sizeOf(m_file.string()) + sizeOf(m_file.string() + "-wal");
+}
+
+void HistoryStore::eraseAll()
+{
+    m_db.exec("DELETE FROM sys; DELETE FROM apps; DELETE FROM meta WHERE key LIKE 'rolled%';");
+    m_db.exec("PRAGMA incremental_vacuum");
+}
+
+std::optional<double> HistoryStore::firstSample() const
+{
+    std::optional<double> first;
+    for (const auto tier : {HistoryTier::raw, HistoryTier::minute, HistoryTier::tenMinutes, HistoryTier::hour}) {
+        if (const auto t = earliest(tier); t && (!first || *t < *first))
+            first = t;
+    }
+    return first;
+}
+
+int64_t HistoryStore::rowCount(HistoryTier tier, bool apps) const
+{
+    try {
+        const Sqlite::Statement query(
+            m_db.get(), std::string("SELECT COUNT(*) FROM ") + (apps ? "apps" : "sys") + " WHERE tier = ?");
+        query.bind(1, tierValue(tier));
+        return query.next() ? static_cast<int64_t>(query.integer(0)) : 0;
+    } catch (const HistoryError&) {
+        return 0;
+    }
+}
+
+} // namespace vexel

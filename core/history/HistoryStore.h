@@ -1,0 +1,79 @@
+#pragma once
+
+#include "history/AppPoint.h"
+#include "history/HistoryTier.h"
+#include "history/Sqlite.h"
+#include "history/SysPoint.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vexel {
+
+// The recorded history in one SQLite file: system points and the busiest
+// apps' points of every sample, in four tiers of resolution. The desktop app
+// writes; the command line and the MCP server open the same file read-only
+// while it does (write-ahead logging, a 2-second busy time-out).
+class HistoryStore {
+public:
+    // Opens (creating when writable) the file. Raises HistoryError (open or
+    // sql), or the file system's error when the folder cannot be made.
+    HistoryStore(std::filesystem::path file, bool readOnly);
+
+    // Records one live sample in the raw tier: the system point and the
+    // apps worth keeping (Downsample::select with appsPerSample).
+    void append(const SysPoint& sys, std::vector<AppPoint> apps);
+    // Writes a system point and app points into `tier`, replacing equal keys.
+    void insert(HistoryTier tier, const SysPoint& sys, const std::vector<AppPoint>& apps);
+
+    // Rows of a tier with from ≤ t < to, ascending t.
+    [[nodiscard]] std::vector<SysPoint> points(HistoryTier tier, double from, double to) const;
+    [[nodiscard]] std::vector<AppPoint> appPoints(HistoryTier tier, double from, double to) const;
+
+    // Removes the rows of a tier older than `before`; a cutoff that is not finite removes nothing.
+    void erase(HistoryTier tier, double before);
+
+    // A stored number; absent when missing, unreadable or the read fails.
+    [[nodiscard]] std::optional<double> meta(const std::string& key) const;
+    void setMeta(const std::string& key, double value);
+    // How far the tier below has been rolled into `tier` ("rolled1"…).
+    [[nodiscard]] std::optional<double> watermark(HistoryTier tier) const;
+
+    // Runs `body` in a transaction; nested batches join the outermost one,
+    // which alone commits or rolls back (on any exception from `body`).
+    void batch(const std::function<void()>& body);
+
+    // Trims the oldest day of hourly data while the file uses more than
+    // maxBytes, at most 400 days a time; finer tiers are never trimmed.
+    void enforceCap();
+
+    // Bytes in use by pages holding data; 0 when the size cannot be read.
+    [[nodiscard]] int64_t usedBytes() const;
+    // The database file plus its write-ahead log on disk.
+    [[nodiscard]] int64_t fileBytes() const;
+    // Deletes every point and watermark (the schema mark stays) and gives the space back.
+    void eraseAll();
+    // The earliest point of any tier.
+    [[nodiscard]] std::optional<double> firstSample() const;
+    [[nodiscard]] int64_t rowCount(HistoryTier tier, bool apps) const;
+
+    int64_t maxBytes = 64'000'000;
+    size_t appsPerSample = 8;
+
+private:
+    [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
+    [[nodiscard]] int64_t pragma(const char* name) const;
+
+    std::filesystem::path m_file;
+    bool m_readOnly;
+    Sqlite::Database m_db;
+    int m_txDepth = 0;
+    Sqlite::Statement m_insertSys;
+    Sqlite::Statement m_insertApp;
+};
+
+} // namespace vexel

@@ -1,0 +1,233 @@
+#include "history/HistoryStore.h"
+#include "history/Downsample.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+using namespace vexel;
+namespace fs = std::filesystem;
+
+namespace {
+
+class StoreFile : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_folder = fs::temp_directory_path() / ("vexel-history-" + std::to_string(::getpid()));
+        fs::remove_all(m_folder);
+    }
+    void TearDown() override { fs::remove_all(m_folder); }
+    [[nodiscard]] fs::path file() const { return m_folder / "data" / "history.sqlite"; }
+
+    fs::path m_folder;
+};
+
+SysPoint sysAt(double t, double cpu = 0.5)
+{
+    SysPoint point;
+    point.t = t;
+    point.dur = 5;
+    point.cpu = cpu;
+    point.cpuMax = cpu;
+    point.mem = 0.4;
+    point.memMax = 0.45;
+    point.pressure = 1;
+    point.swap = 1e6;
+    point.diskR = 100;
+    point.diskW = 200;
+    point.netIn = 300;
+    point.netOut = 400;
+    point.thermal = 2;
+    return point;
+}
+
+AppPoint appAt(
+    double t, const std::string& key, double cpu, double mem = 0, double energy = 0, double disk = 0, double net = 0)
+{
+    return AppPoint{t, 5, key, "Name of " + key, cpu, cpu, mem, energy, disk, net};
+}
+
+} // namespace
+
+TEST_F(StoreFile, AFreshFileHoldsTheSchemaAndReopeningChangesNothing)
+{
+    {
+        HistoryStore store(file(), false);
+        EXPECT_EQ(store.meta("schema"), 1.0);
+        EXPECT_FALSE(store.firstSample());
+        EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+        store.insert(HistoryTier::raw, sysAt(100), {});
+    }
+    HistoryStore again(file(), false);
+    EXPECT_EQ(again.meta("schema"), 1.0);
+    EXPECT_EQ(again.rowCount(HistoryTier::raw, false), 1);
+    EXPECT_GT(again.fileBytes(), 0);
+    EXPECT_GT(again.usedBytes(), 0);
+}
+
+TEST_F(StoreFile, OpenFailuresSayWhy)
+{
+    try {
+        HistoryStore store(file(), true);
+        FAIL() << "a read-only open of a missing file must fail";
+    } catch (const HistoryError& error) {
+        EXPECT_EQ(error.kind(), HistoryError::Kind::open);
+        EXPECT_TRUE(std::string(error.what()).starts_with("Couldn't open the history: ")) << error.what();
+    }
+    EXPECT_FALSE(fs::exists(file())) << "a read-only open creates nothing";
+    EXPECT_FALSE(fs::exists(file().parent_path()));
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << std::string(4096, 'x');
+    try {
+        HistoryStore store(file(), false);
+        FAIL() << "a file that is not a database must fail";
+    } catch (const HistoryError& error) {
+        EXPECT_EQ(error.kind(), HistoryError::Kind::sql);
+        EXPECT_EQ(std::string(error.what()), "History error: file is not a database");
+    }
+}
+
+TEST_F(StoreFile, PointsReadBackWithAbsentReadingsAsAbsent)
+{
+    HistoryStore store(file(), false);
+    SysPoint full = sysAt(10);
+    full.gpu = 0.3;
+    full.gpuMax = 0.6;
+    full.power = -12.5;
+    full.battery = 77;
+    const SysPoint bare = sysAt(15);
+    store.insert(HistoryTier::minute, full, {appAt(10, "app:a", 0.5)});
+    store.insert(HistoryTier::minute, bare, {});
+    const auto points = store.points(HistoryTier::minute, 0, 100);
+    ASSERT_EQ(points.size(), 2u);
+    EXPECT_EQ(points[0], full);
+    EXPECT_EQ(points[1], bare);
+    EXPECT_FALSE(points[1].gpu);
+    EXPECT_TRUE(store.points(HistoryTier::minute, 10.0001, 15).empty()); // from ≤ t < to
+    EXPECT_TRUE(store.points(HistoryTier::hour, 0, 100).empty());
+    EXPECT_EQ(store.appPoints(HistoryTier::minute, 0, 100), std::vector<AppPoint>{appAt(10, "app:a", 0.5)});
+}
+
+TEST_F(StoreFile, AppendingTheSameTimeTwiceKeepsOneRowPerKey)
+{
+    HistoryStore store(file(), false);
+    store.append(sysAt(50, 0.1), {appAt(50, "app:a", 0.1)});
+    store.append(sysAt(50, 0.9), {appAt(50, "app:a", 0.9), appAt(50, "app:b", 0.2)});
+    const auto points = store.points(HistoryTier::raw, 0, 100);
+    ASSERT_EQ(points.size(), 1u);
+    EXPECT_EQ(points[0].cpu, 0.9);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, true), 2);
+}
+
+TEST_F(StoreFile, AppendKeepsTheBusiestAndTheLeadersOfEachKind)
+{
+    HistoryStore store(file(), false);
+    store.appsPerSample = 2;
+    std::vector<AppPoint> apps;
+    for (int i = 0; i < 10; ++i)
+        apps.push_back(appAt(7, "app:" + std::to_string(i), 0.1 * i));
+    apps[0].mem = 5e9; // idle but the largest
+    apps[1].disk = 1e6; // idle but writing
+    apps[9].mem = 4e9; // busiest and large: stored once
+    store.append(sysAt(7), apps);
+    const auto stored = store.appPoints(HistoryTier::raw, 0, 10);
+    std::vector<std::string> keys;
+    for (const auto& app : stored)
+        keys.push_back(app.app);
+    std::sort(keys.begin(), keys.end());
+    EXPECT_EQ(keys, (std::vector<std::string>{"app:0", "app:1", "app:8", "app:9"}));
+}
+
+TEST_F(StoreFile, DeletingErasingAndMeta)
+{
+    HistoryStore store(file(), false);
+    for (int i = 0; i < 5; ++i)
+        store.insert(HistoryTier::raw, sysAt(100.0 * i), {appAt(100.0 * i, "app:x", 1)});
+    store.erase(HistoryTier::raw, -std::numeric_limits<double>::infinity());
+    store.erase(HistoryTier::raw, std::nan(""));
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 5);
+    store.erase(HistoryTier::raw, 200);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 3);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, true), 3);
+    EXPECT_EQ(store.firstSample(), 200);
+
+    store.setMeta("rolled1", 1795000000.123456789);
+    EXPECT_EQ(store.watermark(HistoryTier::minute), 1795000000.123456789);
+    store.setMeta("rolled3", 0.1);
+    EXPECT_EQ(store.watermark(HistoryTier::hour), 0.1);
+    EXPECT_FALSE(store.watermark(HistoryTier::tenMinutes));
+    EXPECT_FALSE(store.meta("missing"));
+    store.eraseAll();
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+    EXPECT_FALSE(store.watermark(HistoryTier::minute));
+    EXPECT_EQ(store.meta("schema"), 1.0);
+}
+
+TEST_F(StoreFile, AFailureInsideNestedBatchesRollsEverythingBack)
+{
+    HistoryStore store(file(), false);
+    EXPECT_THROW(store.batch([&] {
+        store.insert(HistoryTier::raw, sysAt(1), {});
+        store.batch([&] { store.insert(HistoryTier::raw, sysAt(2), {}); });
+        throw HistoryError(HistoryError::Kind::sql, "boom");
+    }),
+        HistoryError);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+    store.batch([&] {
+        store.insert(HistoryTier::raw, sysAt(3), {});
+        store.batch([&] { store.insert(HistoryTier::raw, sysAt(4), {}); });
+    });
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 2);
+}
+
+TEST_F(StoreFile, TheCapTrimsHourlyDataADayAtATimeAndNothingElse)
+{
+    HistoryStore store(file(), false);
+    std::vector<AppPoint> apps;
+    store.batch([&] {
+        for (int hour = 0; hour < 24 * 30; ++hour) {
+            const double t = 3600.0 * hour;
+            apps.clear();
+            for (int a = 0; a < 12; ++a)
+                apps.push_back(appAt(t, "app:" + std::string(40, static_cast<char>('a' + a)), 0.1));
+            store.insert(HistoryTier::hour, sysAt(t), apps);
+        }
+        for (int i = 0; i < 500; ++i) {
+            store.insert(HistoryTier::raw, sysAt(1e7 + i), {});
+            store.insert(HistoryTier::minute, sysAt(1e7 + i), {});
+            store.insert(HistoryTier::tenMinutes, sysAt(1e7 + i), {});
+        }
+    });
+    const int64_t before = store.usedBytes();
+    store.maxBytes = before / 2;
+    store.enforceCap();
+    EXPECT_LE(store.usedBytes(), store.maxBytes);
+    const auto first = store.firstSample();
+    const auto hours = store.points(HistoryTier::hour, 0, 1e9);
+    ASSERT_FALSE(hours.empty());
+    EXPECT_EQ(std::fmod(hours.front().t, 86400), 0) << "whole days are dropped";
+    EXPECT_GT(hours.front().t, 0);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::minute, false), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, false), 500);
+    EXPECT_TRUE(first);
+    // Nothing coarse left to trim: the cap gives up rather than touch finer tiers.
+    store.maxBytes = 1;
+    store.enforceCap();
+    EXPECT_EQ(store.rowCount(HistoryTier::hour, false), 0);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 500);
+}
+
+TEST(Downsample, SelectStoresEachAppOnce)
+{
+    const std::vector<AppPoint> apps{appAt(0, "a", 0.9, 9e9), appAt(0, "b", 0.8, 8e9), appAt(0, "c", 0.1)};
+    const auto chosen = Downsample::select(apps, 2);
+    ASSERT_EQ(chosen.size(), 2u); // a and b lead both CPU and memory
+    EXPECT_EQ(chosen[0].app, "a");
+    EXPECT_EQ(chosen[1].app, "b");
+    EXPECT_TRUE(Downsample::select({}, 8).empty());
+}
