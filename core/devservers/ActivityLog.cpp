@@ -59,10 +59,11 @@ ActivityLog ActivityLog::load(const std::filesystem::path& file)
     const auto json = nlohmann::json::parse(*text, nullptr, false);
     if (json.is_discarded() || !json.is_object() || !json.contains("entries") || !json["entries"].is_object())
         return log;
-    for (const auto& [key, value] : json["entries"].items()) {
+    for (const auto& item : json["entries"].items()) {
+        const auto& value = item.value();
         if (!value.is_object())
             continue;
-        const auto number = [&](const char* field) -> std::optional<double> {
+        const auto number = [&value](const char* field) -> std::optional<double> {
             const auto it = value.find(field);
             return it != value.end() && it->is_number() ? std::optional(it->get<double>()) : std::nullopt;
         };
@@ -70,7 +71,7 @@ ActivityLog ActivityLog::load(const std::filesystem::path& file)
         const auto lastActive = number("lastActive");
         const auto firstSeen = number("firstSeen");
         if (cpu && lastActive && firstSeen)
-            log.m_entries.emplace(key, Entry{*cpu, *lastActive, *firstSeen});
+            log.m_entries.emplace(item.key(), Entry{*cpu, *lastActive, *firstSeen});
     }
     return log;
 }

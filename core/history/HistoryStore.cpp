@@ -43,7 +43,6 @@ int64_t sizeOf(const std::string& path)
 
 HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     : m_file(std::move(file))
-    , m_readOnly(readOnly)
 {
     if (!readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());

@@ -69,7 +69,6 @@ private:
     [[nodiscard]] int64_t pragma(const char* name) const;
 
     std::filesystem::path m_file;
-    bool m_readOnly;
     Sqlite::Database m_db;
     int m_txDepth = 0;
     Sqlite::Statement m_insertSys;
