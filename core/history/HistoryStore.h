@@ -47,6 +47,28 @@ public:
     // which alone commits or rolls back (on any exception from `body`).
     void batch(const std::function<void()>& body);
 
+    // Rolls each finer tier's ended buckets into the next coarser tier, expires
+    // old rows (never before they are rolled up) and applies the size cap, in
+    // one transaction; then gives up to 256 free pages back to the file system.
+    void compact(double now, int retentionDays);
+
+    // A tier's points from `from` to `to`, completed past the tier's watermark
+    // by regrouping the finer tiers, down to raw samples. Never raises: a
+    // failing read gives what could be read.
+    [[nodiscard]] std::vector<SysPoint> series(HistoryTier tier, double from, double to) const;
+    [[nodiscard]] std::vector<AppPoint> appSeries(HistoryTier tier, double from, double to) const;
+    // The finest rolled tier whose data reaches back to `from` (minute, ten minutes, else hour).
+    [[nodiscard]] HistoryTier coveringTier(double from) const;
+
+    struct Totals {
+        double diskR = 0;
+        double diskW = 0;
+        double netIn = 0;
+        double netOut = 0;
+    };
+    // Bytes read, written, received and sent over a period.
+    [[nodiscard]] Totals totals(double from, double to) const;
+
     // Trims the oldest day of hourly data while the file uses more than
     // maxBytes, at most 400 days a time; finer tiers are never trimmed.
     void enforceCap();
@@ -66,6 +88,8 @@ public:
 
 private:
     [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
+    void rollUp(HistoryTier target, double now);
+    void expire(double now, int retentionDays);
     [[nodiscard]] int64_t pragma(const char* name) const;
 
     std::filesystem::path m_file;

@@ -1,0 +1,144 @@
+// Moving history from tier to tier, and reading across tiers.
+
+#include "history/Downsample.h"
+#include "history/HistoryStore.h"
+
+#include <cmath>
+#include <limits>
+#include <map>
+
+namespace vexel {
+
+namespace {
+
+std::string watermarkKey(HistoryTier tier)
+{
+    return "rolled" + std::to_string(static_cast<int>(tier));
+}
+
+} // namespace
+
+void HistoryStore::rollUp(HistoryTier target, double now)
+{
+    const HistoryTier source = *finer(target);
+    const double size = bucketSeconds(target);
+    std::optional<double> start = watermark(target);
+    if (!start) {
+        const auto first = earliest(source);
+        if (!first)
+            return;
+        start = std::floor(*first / size) * size;
+    }
+    // Only buckets that have ended are rolled; the current one stays in the finer tier.
+    const double end = std::floor(now / size) * size;
+    if (*start >= end)
+        return;
+    const auto sys = points(source, *start, end);
+    const auto apps = appPoints(source, *start, end);
+    const auto rolled = Downsample::regroup(sys, size);
+    const auto rolledApps = Downsample::regroupApps(apps, sys, size, appsPerSample);
+    std::multimap<double, const AppPoint*> appsByTime;
+    for (const auto& app : rolledApps)
+        appsByTime.emplace(app.t, &app);
+    for (const auto& point : rolled) {
+        std::vector<AppPoint> its;
+        const auto [first, last] = appsByTime.equal_range(point.t);
+        for (auto it = first; it != last; ++it)
+            its.push_back(*it->second);
+        insert(target, point, its);
+    }
+    setMeta(watermarkKey(target), end);
+}
+
+void HistoryStore::expire(double now, int retentionDays)
+{
+    for (const auto tier : allHistoryTiers) {
+        double cutoff = now - keepSeconds(tier, retentionDays);
+        if (tier != HistoryTier::hour) {
+            // Nothing expires before the next tier has taken it in.
+            const auto coarser = static_cast<HistoryTier>(static_cast<int>(tier) + 1);
+            const auto rolled = watermark(coarser);
+            cutoff = rolled ? std::min(cutoff, *rolled) : -std::numeric_limits<double>::infinity();
+        }
+        erase(tier, cutoff);
+    }
+}
+
+void HistoryStore::compact(double now, int retentionDays)
+{
+    const bool outermost = m_txDepth < 1;
+    batch([&] {
+        for (const auto target : {HistoryTier::minute, HistoryTier::tenMinutes, HistoryTier::hour})
+            rollUp(target, now);
+        expire(now, retentionDays);
+        enforceCap();
+    });
+    if (outermost) {
+        try {
+            m_db.exec("PRAGMA incremental_vacuum(256)");
+        } catch (const HistoryError&) {
+            // Space is given back at the next compaction instead.
+        }
+    }
+}
+
+std::vector<SysPoint> HistoryStore::series(HistoryTier tier, double from, double to) const
+{
+    try {
+        if (tier == HistoryTier::raw)
+            return points(HistoryTier::raw, from, to);
+        const double edge = watermark(tier).value_or(from);
+        auto result = points(tier, from, std::min(edge, to));
+        if (edge < to) {
+            const auto live = Downsample::regroup(series(*finer(tier), std::max(edge, from), to), bucketSeconds(tier));
+            result.insert(result.end(), live.begin(), live.end());
+        }
+        return result;
+    } catch (const HistoryError&) {
+        return {};
+    }
+}
+
+std::vector<AppPoint> HistoryStore::appSeries(HistoryTier tier, double from, double to) const
+{
+    try {
+        if (tier == HistoryTier::raw)
+            return appPoints(HistoryTier::raw, from, to);
+        const double edge = watermark(tier).value_or(from);
+        auto result = appPoints(tier, from, std::min(edge, to));
+        if (edge < to) {
+            const HistoryTier source = *finer(tier);
+            const double start = std::max(edge, from);
+            const auto live = Downsample::regroupApps(
+                appSeries(source, start, to), series(source, start, to), bucketSeconds(tier), appsPerSample);
+            result.insert(result.end(), live.begin(), live.end());
+        }
+        return result;
+    } catch (const HistoryError&) {
+        return {};
+    }
+}
+
+HistoryTier HistoryStore::coveringTier(double from) const
+{
+    for (const auto tier : {HistoryTier::minute, HistoryTier::tenMinutes}) {
+        const auto first = earliest(tier);
+        if (first && *first <= from + bucketSeconds(tier))
+            return tier;
+    }
+    return HistoryTier::hour;
+}
+
+HistoryStore::Totals HistoryStore::totals(double from, double to) const
+{
+    Totals totals;
+    for (const auto& point : series(coveringTier(from), from, to)) {
+        totals.diskR += point.diskR;
+        totals.diskW += point.diskW;
+        totals.netIn += point.netIn;
+        totals.netOut += point.netOut;
+    }
+    return totals;
+}
+
+} // namespace vexel
