@@ -1,4 +1,5 @@
 #include "history/Downsample.h"
+#include "history/HistoryRange.h"
 #include "history/HistoryStore.h"
 
 #include <gtest/gtest.h>
@@ -164,4 +165,23 @@ TEST_F(Compaction, NothingExpiresBeforeItIsRolledUp)
     EXPECT_EQ(m_store->rowCount(HistoryTier::tenMinutes, false), 1);
     EXPECT_EQ(m_store->rowCount(HistoryTier::hour, false), 1);
     EXPECT_EQ(m_store->points(HistoryTier::hour, 0, 1e9).front().diskW, 120 * 1000.0);
+}
+
+TEST(HistoryRange, PeriodsTiersAndBars)
+{
+    // 22 November 2026, 15:30 in a zone one hour east of UTC.
+    const TimeZone zone = TimeZone::fixed(3600);
+    const double now = *zone.toEpoch({2026, 11, 22, 15, 30, 0});
+    EXPECT_EQ(start(HistoryRange::today, now, zone), *zone.toEpoch({2026, 11, 22, 0, 0, 0}));
+    EXPECT_EQ(start(HistoryRange::week, now, zone), now - 604800);
+    EXPECT_EQ(start(HistoryRange::year, now, zone), now - 31536000);
+    EXPECT_EQ(tier(HistoryRange::today), HistoryTier::minute);
+    EXPECT_EQ(tier(HistoryRange::week), HistoryTier::tenMinutes);
+    EXPECT_EQ(tier(HistoryRange::month), HistoryTier::hour);
+    EXPECT_EQ(chartBucket(HistoryRange::month), 14400);
+    EXPECT_EQ(title(HistoryRange::week), "Week");
+    EXPECT_EQ(historyRangeFromRaw("year"), HistoryRange::year);
+    EXPECT_FALSE(historyRangeFromRaw("decade"));
+    EXPECT_EQ(keepSeconds(HistoryTier::hour, 0), 86400); // at least a day
+    EXPECT_EQ(keepSeconds(HistoryTier::minute, 365), 176400);
 }

@@ -224,3 +224,24 @@ TEST(Monitor, SettledSampleGivesRealDifferences)
     EXPECT_TRUE(monitor->lastNetRun());
     EXPECT_TRUE(monitor->lastEveryoneRun());
 }
+
+TEST(Frame, HistoryPointsTurnRatesIntoAmountsOverTheInterval)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    const Frame frame = settled(world, *monitor);
+    const auto [sys, apps] = frame.historyPoints();
+    EXPECT_EQ(sys.t, frame.time - 2);
+    EXPECT_EQ(sys.dur, 2);
+    EXPECT_DOUBLE_EQ(sys.cpu, frame.system.cpu.user + frame.system.cpu.system);
+    EXPECT_DOUBLE_EQ(sys.diskW, frame.system.disk.writeRate * 2);
+    EXPECT_EQ(sys.battery, 78);
+    EXPECT_EQ(sys.power, -11.4);
+    EXPECT_EQ(sys.gpu, 0.18);
+    ASSERT_EQ(apps.size(), frame.apps.size());
+    const auto& chrome = apps.front();
+    EXPECT_EQ(chrome.app, "app:/Applications/Google Chrome.app");
+    EXPECT_DOUBLE_EQ(chrome.cpu, frame.apps.front().cpu);
+    EXPECT_DOUBLE_EQ(chrome.net, (frame.apps.front().netIn + frame.apps.front().netOut) * 2);
+    EXPECT_DOUBLE_EQ(chrome.energy, *frame.apps.front().energyW * 2);
+}
