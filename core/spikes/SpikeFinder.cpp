@@ -1,0 +1,178 @@
+#include "spikes/SpikeFinder.h"
+
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+#include "system/MemoryPressure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <map>
+
+namespace vexel::SpikeFinder {
+
+namespace {
+
+using Run = std::vector<const SysPoint*>;
+
+struct Culprit {
+    std::optional<std::string> name;
+    std::optional<double> share;
+};
+
+// Qualifying points grouped into runs: a gap of more than `mergeGap` seconds
+// of quiet between two qualifying points starts a new run.
+std::vector<Run> runs(const std::vector<SysPoint>& points, double step, double mergeGap,
+    const std::function<bool(const SysPoint&)>& qualifies)
+{
+    std::vector<Run> result;
+    Run current;
+    for (const auto& point : points) {
+        if (!qualifies(point))
+            continue;
+        if (!current.empty() && point.t - current.back()->t - step > mergeGap) {
+            result.push_back(std::move(current));
+            current.clear();
+        }
+        current.push_back(&point);
+    }
+    if (!current.empty())
+        result.push_back(std::move(current));
+    return result;
+}
+
+Culprit culprit(const std::vector<AppPoint>& apps, double start, double end, double AppPoint::*metric)
+{
+    std::map<std::string, std::pair<double, std::string>> sums;
+    double total = 0;
+    for (const auto& app : apps) {
+        if (app.t < start || app.t >= end)
+            continue;
+        const double amount = app.*metric * app.dur;
+        auto& entry = sums[app.app];
+        entry.first += amount;
+        entry.second = app.name;
+        total += amount;
+    }
+    if (sums.empty())
+        return {};
+    const auto top = std::max_element(
+        sums.begin(), sums.end(), [](const auto& a, const auto& b) { return a.second.first < b.second.first; });
+    return {top->second.second, total > 0 ? std::optional(top->second.first / total) : std::optional(0.0)};
+}
+
+std::string byCulprit(const Culprit& who, const char* joiner)
+{
+    return who.name ? std::string(joiner) + *who.name : std::string();
+}
+
+int wholeMinutes(double seconds)
+{
+    return static_cast<int>(std::lround(seconds / 60));
+}
+
+Spike spike(SpikeKind kind, double start, double end, double peak, const Culprit& who, std::string summary)
+{
+    return Spike{kind, start, end, peak, who.name, who.share, std::move(summary)};
+}
+
+} // namespace
+
+std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint>& apps, const SpikeRules& rules)
+{
+    std::vector<Spike> spikes;
+    std::stable_sort(points.begin(), points.end(), [](const SysPoint& a, const SysPoint& b) { return a.t < b.t; });
+    double step = 60;
+    if (points.size() >= 2) {
+        double smallest = 0;
+        for (size_t i = 1; i < points.size(); ++i) {
+            const double gap = points[i].t - points[i - 1].t;
+            if (gap > 0 && (smallest == 0 || gap < smallest))
+                smallest = gap;
+        }
+        if (smallest <= 0)
+            return spikes;
+        step = smallest;
+    }
+    const auto span = [&](const Run& run) { return std::pair{run.front()->t, run.back()->t + step}; };
+
+    for (const auto& run : runs(points, step, rules.mergeGap, [&](const SysPoint& p) { return p.cpu >= rules.cpu; })) {
+        if (step * static_cast<double>(run.size()) < rules.cpuMinutes * 60.0 - 1)
+            continue;
+        const auto [start, end] = span(run);
+        double peak = 0;
+        for (const auto* p : run)
+            peak = std::max(peak, std::max(p->cpu, p->cpuMax));
+        const auto who = culprit(apps, start, end, &AppPoint::cpu);
+        const int minutes = wholeMinutes(end - start);
+        const std::string subject = who.name ? *who.name + " kept the processor busy" : "The processor was busy";
+        spikes.push_back(
+            spike(SpikeKind::cpu, start, end, peak, who, cformat("%s for %d min", subject.c_str(), minutes)));
+    }
+    for (const auto& run : runs(points, step, rules.mergeGap, [](const SysPoint& p) { return p.pressure >= 1; })) {
+        const auto [start, end] = span(run);
+        int64_t peak = 0;
+        for (const auto* p : run)
+            peak = std::max(peak, p->pressure);
+        const auto who = culprit(apps, start, end, &AppPoint::mem);
+        const auto level = memoryPressureFromRaw(peak).value_or(MemoryPressure::critical);
+        spikes.push_back(spike(SpikeKind::memory, start, end, static_cast<double>(peak), who,
+            "Memory pressure reached " + title(level) + byCulprit(who, " while the most memory was held by ")));
+    }
+    const auto amountRuns = [&](SpikeKind kind, double perMinute, double total, double AppPoint::*metric,
+                                const std::function<double(const SysPoint&)>& amount, const char* words) {
+        const auto qualifying = [&](const SysPoint& p) { return p.dur > 0 && amount(p) >= perMinute * p.dur / 60; };
+        for (const auto& run : runs(points, step, rules.mergeGap, qualifying)) {
+            double sum = 0;
+            for (const auto* p : run)
+                sum += amount(*p);
+            if (sum < total)
+                continue;
+            const auto [start, end] = span(run);
+            const auto who = culprit(apps, start, end, metric);
+            spikes.push_back(spike(kind, start, end, sum, who, Fmt::bytes(sum) + words + byCulprit(who, " by ")));
+        }
+    };
+    amountRuns(
+        SpikeKind::disk, rules.diskPerMinute, rules.diskTotal, &AppPoint::disk,
+        [](const SysPoint& p) { return p.diskW; }, " written to disk");
+    amountRuns(
+        SpikeKind::network, rules.netPerMinute, rules.netTotal, &AppPoint::net,
+        [](const SysPoint& p) { return p.netIn + p.netOut; }, " moved over the network");
+    for (const auto& run : runs(points, step, rules.mergeGap, [](const SysPoint& p) { return p.thermal >= 2; })) {
+        const auto [start, end] = span(run);
+        int64_t peak = 0;
+        for (const auto* p : run)
+            peak = std::max(peak, p->thermal);
+        const auto who = culprit(apps, start, end, &AppPoint::cpu);
+        spikes.push_back(spike(SpikeKind::thermal, start, end, static_cast<double>(peak), who,
+            cformat("Ran hot for %d min", wholeMinutes(end - start)) + byCulprit(who, " while the busiest app was ")));
+    }
+    // Battery: from each point on battery, look ahead up to an hour for a fall of batteryDrop points.
+    std::vector<const SysPoint*> discharging;
+    for (const auto& p : points) {
+        if (p.battery && p.power && *p.power < 0)
+            discharging.push_back(&p);
+    }
+    for (size_t i = 0; i < discharging.size(); ++i) {
+        const SysPoint& first = *discharging[i];
+        for (size_t j = i + 1; j < discharging.size(); ++j) {
+            const SysPoint& later = *discharging[j];
+            if (later.t - first.t > 3600 || later.t - discharging[j - 1]->t > step + rules.mergeGap)
+                break;
+            const double drop = *first.battery - *later.battery;
+            if (drop < rules.batteryDrop)
+                continue;
+            const auto who = culprit(apps, first.t, later.t, &AppPoint::energy);
+            spikes.push_back(spike(SpikeKind::battery, first.t, later.t, drop, who,
+                cformat("Battery fell %.0f points in %d min", drop, wholeMinutes(later.t - first.t))
+                    + byCulprit(who, " while the most energy went to ")));
+            i = j; // carry on after this drain
+            break;
+        }
+    }
+    std::stable_sort(spikes.begin(), spikes.end(), [](const Spike& a, const Spike& b) { return a.start > b.start; });
+    return spikes;
+}
+
+} // namespace vexel::SpikeFinder
