@@ -1,0 +1,106 @@
+// A writer process is killed with SIGKILL at random moments while it appends
+// and compacts; after every kill the file must be whole and consistent, and a
+// reader in another process must never see an error.
+
+#include "history/HistoryStore.h"
+#include "history/Sqlite.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <random>
+#include <set>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <thread>
+
+using namespace vexel;
+namespace fs = std::filesystem;
+
+extern char** environ;
+
+namespace {
+
+const std::string worker = std::string(VEXEL_BINARY_DIR) + "/tests/history_worker";
+
+pid_t spawnWorker(std::vector<std::string> args)
+{
+    args.insert(args.begin(), worker);
+    std::vector<char*> argv;
+    for (auto& arg : args)
+        argv.push_back(arg.data());
+    argv.push_back(nullptr);
+    pid_t pid = 0;
+    EXPECT_EQ(posix_spawn(&pid, worker.c_str(), nullptr, nullptr, argv.data(), environ), 0);
+    return pid;
+}
+
+std::string integrity(const fs::path& file)
+{
+    sqlite3* handle = nullptr;
+    ::sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READONLY, nullptr);
+    const Sqlite::Database db(handle);
+    const Sqlite::Statement check(db.get(), "PRAGMA integrity_check");
+    return check.next() ? check.text(0) : "no answer";
+}
+
+// Every finer point below a tier's watermark has its bucket in that tier, and
+// nothing in the tier lies at or past the watermark.
+void expectWatermarksMatchRows(const HistoryStore& store)
+{
+    for (const auto target : {HistoryTier::minute, HistoryTier::tenMinutes, HistoryTier::hour}) {
+        const auto mark = store.watermark(target);
+        const auto rows = store.points(target, 0, 1e12);
+        if (!mark) {
+            EXPECT_TRUE(rows.empty());
+            continue;
+        }
+        std::set<double> buckets;
+        for (const auto& row : rows) {
+            EXPECT_LT(row.t, *mark);
+            buckets.insert(row.t);
+        }
+        const double size = bucketSeconds(target);
+        for (const auto& source : store.points(*finer(target), 0, *mark))
+            ASSERT_TRUE(buckets.contains(std::floor(source.t / size) * size)) << "tier " << static_cast<int>(target);
+    }
+}
+
+} // namespace
+
+TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
+{
+    const auto folder = fs::temp_directory_path() / ("vexel-crash-" + std::to_string(::getpid()));
+    fs::remove_all(folder);
+    const auto file = folder / "history.sqlite";
+    {
+        HistoryStore create(file, false);
+    }
+    std::mt19937 random(20261122);
+    std::uniform_int_distribution<int> wait(2, 40);
+    int readerFailures = 0;
+    for (int kill = 0; kill < 200; ++kill) {
+        const pid_t writer = spawnWorker({"write", file.string()});
+        const pid_t reader = spawnWorker({"read", file.string(), "20"});
+        std::this_thread::sleep_for(std::chrono::milliseconds(wait(random)));
+        ::kill(writer, SIGKILL);
+        int status = 0;
+        ::waitpid(writer, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "the writer must still be running when it is killed";
+        ::waitpid(reader, &status, 0);
+        readerFailures += WIFEXITED(status) && WEXITSTATUS(status) == 0 ? 0 : 1;
+        if (kill % 20 == 19) {
+            ASSERT_EQ(integrity(file), "ok") << "after kill " << kill + 1;
+            const HistoryStore store(file, true);
+            expectWatermarksMatchRows(store);
+        }
+    }
+    EXPECT_EQ(readerFailures, 0);
+    const HistoryStore store(file, true);
+    EXPECT_EQ(integrity(file), "ok");
+    expectWatermarksMatchRows(store);
+    EXPECT_GT(store.rowCount(HistoryTier::raw, false), 0);
+    fs::remove_all(folder);
+}
