@@ -89,6 +89,21 @@ public:
 private:
     [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
     void rollUp(HistoryTier target, double now);
+    [[nodiscard]] std::vector<SysPoint> stitchedSeries(HistoryTier tier, double from, double to) const;
+    [[nodiscard]] std::vector<AppPoint> stitchedAppSeries(HistoryTier tier, double from, double to) const;
+
+    // A read transaction for the readers that take several statements.
+    class ReadSnapshot {
+    public:
+        explicit ReadSnapshot(const HistoryStore& store);
+        ~ReadSnapshot();
+        ReadSnapshot(const ReadSnapshot&) = delete;
+        ReadSnapshot& operator=(const ReadSnapshot&) = delete;
+
+    private:
+        const HistoryStore& m_store;
+        bool m_open = false;
+    };
     void expire(double now, int retentionDays);
     [[nodiscard]] int64_t pragma(const char* name) const;
 

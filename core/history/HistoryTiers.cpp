@@ -82,7 +82,7 @@ void HistoryStore::compact(double now, int retentionDays)
     }
 }
 
-std::vector<SysPoint> HistoryStore::series(HistoryTier tier, double from, double to) const
+std::vector<SysPoint> HistoryStore::stitchedSeries(HistoryTier tier, double from, double to) const
 {
     try {
         if (tier == HistoryTier::raw)
@@ -90,7 +90,8 @@ std::vector<SysPoint> HistoryStore::series(HistoryTier tier, double from, double
         const double edge = watermark(tier).value_or(from);
         auto result = points(tier, from, std::min(edge, to));
         if (edge < to) {
-            const auto live = Downsample::regroup(series(*finer(tier), std::max(edge, from), to), bucketSeconds(tier));
+            const auto live
+                = Downsample::regroup(stitchedSeries(*finer(tier), std::max(edge, from), to), bucketSeconds(tier));
             result.insert(result.end(), live.begin(), live.end());
         }
         return result;
@@ -99,7 +100,7 @@ std::vector<SysPoint> HistoryStore::series(HistoryTier tier, double from, double
     }
 }
 
-std::vector<AppPoint> HistoryStore::appSeries(HistoryTier tier, double from, double to) const
+std::vector<AppPoint> HistoryStore::stitchedAppSeries(HistoryTier tier, double from, double to) const
 {
     try {
         if (tier == HistoryTier::raw)
@@ -109,8 +110,8 @@ std::vector<AppPoint> HistoryStore::appSeries(HistoryTier tier, double from, dou
         if (edge < to) {
             const HistoryTier source = *finer(tier);
             const double start = std::max(edge, from);
-            const auto live = Downsample::regroupApps(
-                appSeries(source, start, to), series(source, start, to), bucketSeconds(tier), appsPerSample);
+            const auto live = Downsample::regroupApps(stitchedAppSeries(source, start, to),
+                stitchedSeries(source, start, to), bucketSeconds(tier), appsPerSample);
             result.insert(result.end(), live.begin(), live.end());
         }
         return result;
@@ -132,13 +133,52 @@ HistoryTier HistoryStore::coveringTier(double from) const
 HistoryStore::Totals HistoryStore::totals(double from, double to) const
 {
     Totals totals;
-    for (const auto& point : series(coveringTier(from), from, to)) {
+    const ReadSnapshot snapshot(*this);
+    for (const auto& point : stitchedSeries(coveringTier(from), from, to)) {
         totals.diskR += point.diskR;
         totals.diskW += point.diskW;
         totals.netIn += point.netIn;
         totals.netOut += point.netOut;
     }
     return totals;
+}
+
+std::vector<SysPoint> HistoryStore::series(HistoryTier tier, double from, double to) const
+{
+    const ReadSnapshot snapshot(*this);
+    return stitchedSeries(tier, from, to);
+}
+
+std::vector<AppPoint> HistoryStore::appSeries(HistoryTier tier, double from, double to) const
+{
+    const ReadSnapshot snapshot(*this);
+    return stitchedAppSeries(tier, from, to);
+}
+
+HistoryStore::ReadSnapshot::ReadSnapshot(const HistoryStore& store)
+    : m_store(store)
+{
+    // A writer may commit a compaction between the watermark and the rows
+    // read after it; one read transaction sees them all from one moment.
+    if (m_store.m_txDepth > 0)
+        return;
+    try {
+        m_store.m_db.exec("BEGIN");
+        m_open = true;
+    } catch (const HistoryError&) {
+        // Read without the snapshot rather than not at all.
+    }
+}
+
+HistoryStore::ReadSnapshot::~ReadSnapshot()
+{
+    if (!m_open)
+        return;
+    try {
+        m_store.m_db.exec("COMMIT");
+    } catch (const HistoryError&) {
+        // A read transaction has nothing to lose.
+    }
 }
 
 } // namespace vexel

@@ -14,12 +14,14 @@ using namespace vexel;
 
 namespace {
 
+constexpr double firstSample = 1'767'225'600; // the writer's first sample, 1 January 2026
+
 int write(const char* file)
 {
     HistoryStore store(file, false);
     const auto last = store.points(HistoryTier::raw, 0, 1e12);
-    double t = last.empty() ? 1'767'225'600 : last.back().t + 5;
-    t = std::floor(t / 60) * 60 + 60; // resume at the next whole minute
+    // Resume at the next whole minute after the last sample that was committed.
+    double t = last.empty() ? firstSample : std::ceil((last.back().t + 5) / 60) * 60;
     while (true) {
         store.batch([&] {
             for (int i = 0; i < 12; ++i, t += 5) {
@@ -35,14 +37,29 @@ int write(const char* file)
     }
 }
 
+// Samples written so far, from the newest raw sample (raw rows outlive every roll-up).
+double samplesUpTo(const HistoryStore& store)
+{
+    const auto raw = store.points(HistoryTier::raw, 0, 1e12);
+    return raw.empty() ? 0 : (raw.back().t - firstSample) / 5 + 1;
+}
+
+// Polls the stitched hourly series: every byte ever written is in it exactly
+// once, however far the writer's compactions have got.
 int read(const char* file, int times)
 {
     try {
         HistoryStore store(file, true);
         for (int i = 0; i < times; ++i) {
-            (void)store.points(HistoryTier::minute, 0, 1e12);
-            (void)store.appPoints(HistoryTier::raw, 0, 1e12);
-            (void)store.watermark(HistoryTier::minute);
+            const double before = samplesUpTo(store);
+            double bytes = 0;
+            for (const auto& hour : store.series(HistoryTier::hour, 0, 1e12))
+                bytes += hour.diskW;
+            const double after = samplesUpTo(store);
+            if (before > 0 && (bytes < before * 1000 || bytes > after * 1000)) {
+                std::fprintf(stderr, "series holds %.0f bytes for %.0f to %.0f samples\n", bytes, before, after);
+                return 3;
+            }
         }
     } catch (const HistoryError& error) {
         std::fprintf(stderr, "%s\n", error.what());
