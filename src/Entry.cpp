@@ -3,6 +3,7 @@
 #include "ProcessListing.h"
 
 #include "io/Files.h"
+#include "monitor/Monitor.h"
 #include "system/SnapshotJson.h"
 #include "system/linux/LiveSystemReader.h"
 
@@ -14,12 +15,6 @@
 namespace vexel {
 
 namespace {
-
-double currentTime()
-{
-    using namespace std::chrono;
-    return duration<double>(system_clock::now().time_since_epoch()).count();
-}
 
 // Until the command line arrives, the CLI role reads the machine twice, one
 // second apart so that rates exist, and prints the second snapshot as JSON.

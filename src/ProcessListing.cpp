@@ -1,26 +1,14 @@
 #include "ProcessListing.h"
 
-#include "format/CFormat.h"
 #include "format/Fmt.h"
-#include "grouping/AppGrouper.h"
-#include "grouping/linux/LinuxIdentityRules.h"
-#include "grouping/linux/LiveDesktopIndex.h"
-#include "monitor/BundleNames.h"
-#include "processes/linux/LiveProcessSource.h"
+#include "monitor/Monitor.h"
 
-#include <chrono>
+#include <algorithm>
 #include <cstdio>
-#include <thread>
 
 namespace vexel {
 
 namespace {
-
-double currentTime()
-{
-    using namespace std::chrono;
-    return duration<double>(system_clock::now().time_since_epoch()).count();
-}
 
 const char* kindWord(AppKind kind)
 {
@@ -36,16 +24,10 @@ const char* kindWord(AppKind kind)
 
 int printApps()
 {
-    LiveProcessSource source;
-    RateTracker tracker;
-    (void)tracker.update(source.snapshot(true), std::nullopt, currentTime());
-    std::this_thread::sleep_for(std::chrono::seconds(1));
-    const auto records = source.snapshot(true);
-    const auto rates = tracker.update(records, std::nullopt, currentTime());
-    BundleNames names;
-    LinuxIdentityRules rules(liveDesktopIndex(), [&](const std::string& path) { return names.name(path); });
-    IdentityCache cache;
-    const auto groups = AppGrouper::group(records, rates, rules, &cache, AppSort::memory);
+    // The live monitor's settled frame: two samples a second apart, grouped as the app groups them.
+    auto groups = Monitor::live()->settledSample(1.0).apps;
+    std::stable_sort(
+        groups.begin(), groups.end(), [](const AppGroup& a, const AppGroup& b) { return a.memory > b.memory; });
     std::printf("%-28s %-7s %5s %7s %9s  %s\n", "APP", "KIND", "PROCS", "CPU", "MEMORY", "PROCESSES");
     for (const auto& group : groups) {
         std::string members;

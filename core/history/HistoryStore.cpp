@@ -236,17 +236,23 @@ void HistoryStore::batch(const std::function<void()>& body)
     m_txDepth = 0;
 }
 
-std::optional<double> HistoryStore::earliest(HistoryTier tier) const
+std::optional<double> HistoryStore::scalar(const std::string& sql, std::optional<HistoryTier> tier) const
 {
     try {
-        const Sqlite::Statement query(m_db.get(), "SELECT MIN(t) FROM sys WHERE tier = ?");
-        query.bind(1, tierValue(tier));
+        const Sqlite::Statement query(m_db.get(), sql);
+        if (tier)
+            query.bind(1, tierValue(*tier));
         if (!query.next() || query.isNull(0))
             return std::nullopt;
         return query.real(0);
     } catch (const HistoryError&) {
         return std::nullopt;
     }
+}
+
+std::optional<double> HistoryStore::earliest(HistoryTier tier) const
+{
+    return scalar("SELECT MIN(t) FROM sys WHERE tier = ?", tier);
 }
 
 void HistoryStore::enforceCap()
@@ -263,12 +269,7 @@ void HistoryStore::enforceCap()
 
 int64_t HistoryStore::pragma(const char* name) const
 {
-    try {
-        const Sqlite::Statement query(m_db.get(), std::string("PRAGMA ") + name);
-        return query.next() ? static_cast<int64_t>(query.integer(0)) : 0;
-    } catch (const HistoryError&) {
-        return 0;
-    }
+    return static_cast<int64_t>(scalar(std::string("PRAGMA ") + name, std::nullopt).value_or(0));
 }
 
 int64_t HistoryStore::usedBytes() const
@@ -299,14 +300,8 @@ std::optional<double> HistoryStore::firstSample() const
 
 int64_t HistoryStore::rowCount(HistoryTier tier, bool apps) const
 {
-    try {
-        const Sqlite::Statement query(
-            m_db.get(), std::string("SELECT COUNT(*) FROM ") + (apps ? "apps" : "sys") + " WHERE tier = ?");
-        query.bind(1, tierValue(tier));
-        return query.next() ? static_cast<int64_t>(query.integer(0)) : 0;
-    } catch (const HistoryError&) {
-        return 0;
-    }
+    const std::string table = apps ? "apps" : "sys";
+    return static_cast<int64_t>(scalar("SELECT COUNT(*) FROM " + table + " WHERE tier = ?", tier).value_or(0));
 }
 
 } // namespace vexel

@@ -87,6 +87,9 @@ public:
     size_t appsPerSample = 8;
 
 private:
+    // The first column of a one-row query, bound to `tier` when given; nothing
+    // for no row, NULL or any failure (the readers that report 0 or absent).
+    [[nodiscard]] std::optional<double> scalar(const std::string& sql, std::optional<HistoryTier> tier) const;
     [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
     void rollUp(HistoryTier target, double now);
     [[nodiscard]] std::vector<SysPoint> stitchedSeries(HistoryTier tier, double from, double to) const;

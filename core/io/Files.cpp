@@ -1,5 +1,7 @@
 #include "io/Files.h"
 
+#include "text/TextScan.h"
+
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
@@ -60,6 +62,14 @@ std::optional<std::string> read(const std::string& path, size_t maxBytes)
     if (!readInto(path, buffer, maxBytes))
         return std::nullopt;
     return buffer;
+}
+
+std::string readValue(const std::string& path)
+{
+    std::string text;
+    if (!readInto(path, text, 4096))
+        return {};
+    return std::string(TextScan::trim(text));
 }
 
 std::vector<std::string> list(const std::string& folder)

@@ -15,6 +15,10 @@ namespace vexel::Files {
 // Reads into `buffer` (reusing its capacity); false when the file cannot be read.
 [[nodiscard]] bool readInto(const std::string& path, std::string& buffer, size_t maxBytes = 256 * 1024);
 
+// A sysfs or /proc attribute: a small file's text without surrounding blanks
+// and newline; empty when it cannot be read.
+[[nodiscard]] std::string readValue(const std::string& path);
+
 // The names in a folder, without "." and ".."; empty when it cannot be listed.
 [[nodiscard]] std::vector<std::string> list(const std::string& folder);
 

@@ -26,10 +26,7 @@ std::unique_ptr<Monitor> Monitor::live()
     static BundleNames names;
     const auto bundleName = [](const std::string& path) { return names.name(path); };
     MonitorSources sources;
-    sources.home = homeFolder([](const char* name) -> std::optional<std::string> {
-        const char* value = std::getenv(name);
-        return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
-    });
+    sources.home = homeFolder();
     sources.myUID = ::geteuid();
     sources.exists = [](const std::string& path) { return Files::exists(path); };
     sources.docker = std::make_shared<LiveDockerSource>(sources.home);

@@ -202,10 +202,7 @@ std::optional<std::string> find(const std::string& name, const std::vector<std::
     std::vector<std::string> folders = extra;
     for (const char* folder : {"/opt/homebrew/bin", "/usr/local/bin", "/usr/bin", "/bin", "/usr/sbin", "/sbin"})
         folders.emplace_back(folder);
-    const auto home = homeFolder([](const char* key) -> std::optional<std::string> {
-        const char* value = std::getenv(key);
-        return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
-    });
+    const auto home = homeFolder();
     folders.push_back(home + "/.local/bin");
     folders.emplace_back("/snap/bin");
     folders.emplace_back("/home/linuxbrew/.linuxbrew/bin");

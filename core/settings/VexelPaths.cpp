@@ -6,9 +6,7 @@
 
 namespace vexel {
 
-namespace {
-
-std::optional<std::string> processEnvironment(const char* name)
+std::optional<std::string> environmentVariable(const char* name)
 {
     const char* value = std::getenv(name);
     if (value == nullptr)
@@ -16,7 +14,10 @@ std::optional<std::string> processEnvironment(const char* name)
     return std::string(value);
 }
 
-} // namespace
+std::string homeFolder()
+{
+    return homeFolder(environmentVariable);
+}
 
 std::string homeFolder(const std::function<std::optional<std::string>(const char*)>& getenv)
 {
@@ -39,7 +40,7 @@ VexelPaths VexelPaths::standard(const std::function<std::optional<std::string>(c
 
 VexelPaths VexelPaths::standard()
 {
-    return standard(processEnvironment);
+    return standard(environmentVariable);
 }
 
 } // namespace vexel

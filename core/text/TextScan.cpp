@@ -52,6 +52,28 @@ std::string_view trim(std::string_view text)
     return text;
 }
 
+std::string unescapeHex(std::string_view text)
+{
+    const auto digit = [](char c) {
+        return c >= '0' && c <= '9' ? c - '0'
+            : c >= 'a' && c <= 'f'  ? c - 'a' + 10
+            : c >= 'A' && c <= 'F'  ? c - 'A' + 10
+                                    : -1;
+    };
+    std::string out;
+    out.reserve(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 3 < text.size() && text[i + 1] == 'x' && digit(text[i + 2]) >= 0
+            && digit(text[i + 3]) >= 0) {
+            out.push_back(static_cast<char>(digit(text[i + 2]) * 16 + digit(text[i + 3])));
+            i += 3;
+        } else {
+            out.push_back(text[i]);
+        }
+    }
+    return out;
+}
+
 std::vector<std::string_view> words(std::string_view line)
 {
     std::vector<std::string_view> result;

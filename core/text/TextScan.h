@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +25,10 @@ namespace vexel::TextScan {
 
 // The words of a line, split at runs of blanks and tabs.
 [[nodiscard]] std::vector<std::string_view> words(std::string_view line);
+
+// Undoes "\xHH" escapes, as systemd writes them in unit names and udev in
+// label links ("app-gnome-debian\x2dxterm", "USB\x20STICK").
+[[nodiscard]] std::string unescapeHex(std::string_view text);
 
 // Calls `visit` with each line of `text`, without its newline.
 template <typename Visit> void forEachLine(std::string_view text, Visit&& visit)

@@ -23,3 +23,13 @@ TEST(TextScan, WordsAndLines)
     TextScan::forEachLine("one\n\nthree", [&](std::string_view line) { lines.push_back(line); });
     EXPECT_EQ(lines, (std::vector<std::string_view>{"one", "", "three"}));
 }
+
+TEST(TextScan, HexEscapes)
+{
+    EXPECT_EQ(TextScan::unescapeHex("USB\\x20STICK"), "USB STICK");
+    EXPECT_EQ(TextScan::unescapeHex("a\\x2Db"), "a-b");
+    // Cut short or not hexadecimal: left as it stands.
+    EXPECT_EQ(TextScan::unescapeHex("\\x2"), "\\x2");
+    EXPECT_EQ(TextScan::unescapeHex("\\x+1z"), "\\x+1z");
+    EXPECT_EQ(TextScan::unescapeHex("\\xzz"), "\\xzz");
+}

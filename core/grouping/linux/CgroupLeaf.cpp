@@ -1,5 +1,7 @@
 #include "grouping/linux/CgroupLeaf.h"
 
+#include "text/TextScan.h"
+
 #include <cctype>
 
 namespace vexel::CgroupLeaf {
@@ -41,18 +43,7 @@ std::string leaf(std::string_view cgroup)
 {
     const auto slash = cgroup.rfind('/');
     const auto last = slash == std::string_view::npos ? cgroup : cgroup.substr(slash + 1);
-    std::string out;
-    for (size_t i = 0; i < last.size(); ++i) {
-        if (last[i] == '\\' && i + 3 < last.size() && last[i + 1] == 'x'
-            && std::isxdigit(static_cast<unsigned char>(last[i + 2]))
-            && std::isxdigit(static_cast<unsigned char>(last[i + 3]))) {
-            out.push_back(static_cast<char>(std::stoi(std::string(last.substr(i + 2, 2)), nullptr, 16)));
-            i += 3;
-        } else {
-            out.push_back(last[i]);
-        }
-    }
-    return out;
+    return TextScan::unescapeHex(last);
 }
 
 std::optional<AppUnit> appUnit(std::string_view leafName)

@@ -18,12 +18,9 @@ namespace {
 constexpr std::array<std::string_view, 14> wrappers{"sh", "bash", "env", "python", "python3", "java", "node", "flatpak",
     "snap", "perl", "ruby", "gjs", "electron", "gtk-launch"};
 
-std::optional<std::string> environmentValue(const char* name)
+std::optional<std::string> nonEmpty(std::optional<std::string> value)
 {
-    const char* value = std::getenv(name);
-    if (value == nullptr || *value == '\0')
-        return std::nullopt;
-    return std::string(value);
+    return value && !value->empty() ? value : std::nullopt;
 }
 
 bool isWrapper(const std::string& program)
@@ -99,11 +96,11 @@ void DesktopIndex::scan(const std::string& folder, const std::string& prefix, co
 
 std::vector<std::string> DesktopIndex::standardFolders()
 {
-    const auto home = homeFolder(environmentValue);
+    const auto home = homeFolder();
     std::vector<std::string> folders;
-    const auto dataHome = environmentValue("XDG_DATA_HOME");
+    const auto dataHome = nonEmpty(environmentVariable("XDG_DATA_HOME"));
     folders.push_back((dataHome && dataHome->starts_with('/') ? *dataHome : home + "/.local/share") + "/applications");
-    const std::string dataDirs = environmentValue("XDG_DATA_DIRS").value_or("/usr/local/share:/usr/share");
+    const std::string dataDirs = nonEmpty(environmentVariable("XDG_DATA_DIRS")).value_or("/usr/local/share:/usr/share");
     size_t start = 0;
     while (start <= dataDirs.size()) {
         const auto colon = dataDirs.find(':', start);

@@ -14,10 +14,7 @@ std::shared_ptr<const DesktopIndex> liveDesktopIndex()
         const auto path = program.starts_with('/') ? std::optional(program) : Shell::find(program);
         return path ? Files::realPath(*path) : std::nullopt;
     };
-    const auto home = homeFolder([](const char* name) -> std::optional<std::string> {
-        const char* value = std::getenv(name);
-        return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
-    });
+    const auto home = homeFolder();
     return std::make_shared<DesktopIndex>(
         DesktopIndex::standardFolders(), resolve, DesktopIndex::standardSharedFolders(home));
 }

@@ -18,32 +18,45 @@ std::optional<uint64_t> counter(const std::vector<std::string_view>& words, std:
     return std::nullopt;
 }
 
-// The first pid in users:(("name",pid=123,fd=4),…); the name may hold anything, escaped.
-std::optional<int32_t> firstPid(std::string_view line)
-{
-    const auto users = line.find("users:((");
-    if (users == std::string_view::npos)
-        return std::nullopt;
-    size_t i = users + 8;
-    if (i >= line.size() || line[i] != '"')
-        return std::nullopt;
-    for (++i; i < line.size() && line[i] != '"'; ++i) {
-        if (line[i] == '\\')
-            ++i;
-    }
-    constexpr std::string_view pidKey = "\",pid=";
-    // An escape at the very end leaves i past the line.
-    if (i >= line.size() || line.substr(i, pidKey.size()) != pidKey)
-        return std::nullopt;
-    i += pidKey.size();
-    const auto end = line.find_first_not_of("0123456789", i);
-    const auto pid = TextScan::toU64(line.substr(i, end == std::string_view::npos ? std::string_view::npos : end - i));
-    if (!pid || *pid > static_cast<uint64_t>(std::numeric_limits<int32_t>::max()))
-        return std::nullopt;
-    return static_cast<int32_t>(*pid);
-}
-
 } // namespace
+
+// Every ("name",pid=N,fd=M) tuple of a users:(…) list.
+std::vector<Owner> owners(std::string_view line)
+{
+    std::vector<Owner> result;
+    auto at = line.find("users:(");
+    if (at == std::string_view::npos)
+        return result;
+    at += 7;
+    while (at < line.size() && line[at] == '(') {
+        if (at + 1 >= line.size() || line[at + 1] != '"')
+            break;
+        std::string name;
+        size_t i = at + 2;
+        for (; i < line.size() && line[i] != '"'; ++i) {
+            if (line[i] == '\\' && i + 1 < line.size())
+                ++i;
+            name += line[i];
+        }
+        constexpr std::string_view pidKey = "\",pid=";
+        if (i >= line.size() || line.substr(i, pidKey.size()) != pidKey)
+            break;
+        i += pidKey.size();
+        const auto end = line.find_first_not_of("0123456789", i);
+        const auto pid
+            = TextScan::toU64(line.substr(i, end == std::string_view::npos ? std::string_view::npos : end - i));
+        if (!pid || *pid > static_cast<uint64_t>(std::numeric_limits<int32_t>::max()))
+            break;
+        result.push_back({std::move(name), static_cast<int32_t>(*pid)});
+        const auto close = line.find(')', end == std::string_view::npos ? line.size() : end);
+        if (close == std::string_view::npos)
+            break;
+        at = close + 1;
+        if (at < line.size() && line[at] == ',')
+            ++at;
+    }
+    return result;
+}
 
 bool isLoopback(std::string_view endpoint)
 {
@@ -65,13 +78,13 @@ std::vector<TcpSocket> parse(std::string_view text)
         const auto words = TextScan::words(line);
         if (words.size() < 5)
             return;
-        const auto pid = firstPid(line);
+        const auto holders = owners(line);
         const auto inode = counter(words, "ino");
-        if (!pid || !inode || *inode == 0)
+        if (holders.empty() || !inode || *inode == 0)
             return;
         TcpSocket socket;
         socket.inode = *inode;
-        socket.pid = *pid;
+        socket.pid = holders.front().pid; // a socket shared after fork goes to its first holder
         socket.bytesIn = counter(words, "bytes_received").value_or(0);
         socket.bytesOut = counter(words, "bytes_acked").value_or(0);
         socket.loopbackOnly = isLoopback(words[3]) && isLoopback(words[4]);

@@ -18,6 +18,18 @@ struct TcpSocket {
     bool operator==(const TcpSocket&) const = default;
 };
 
+// A process listed as holding a socket in a users:(("name",pid=N,fd=M),…) list.
+struct Owner {
+    std::string command;
+    int32_t pid = 0;
+
+    bool operator==(const Owner&) const = default;
+};
+
+// Every holder in a line's users:(…) list, in order; the names may hold
+// escaped quotes. Empty when the line shows no owner or the list is cut short.
+[[nodiscard]] std::vector<Owner> owners(std::string_view line);
+
 // Sockets with a visible owner and an inode; others are skipped. Missing
 // counters read 0.
 [[nodiscard]] std::vector<TcpSocket> parse(std::string_view text);

@@ -22,8 +22,8 @@ std::optional<BatteryStats> BatteryReader::read() const
         // Kernels before 5.8 leave the type and scope out of uevent.
         for (const char* key : {"type", "scope"}) {
             if (!attributes.contains(key))
-                if (const auto value = Files::read(supply + "/" + key, 256))
-                    attributes[key] = std::string(TextScan::trim(*value));
+                if (auto value = Files::readValue(supply + "/" + key); !value.empty())
+                    attributes[key] = std::move(value);
         }
         supplies.push_back(std::move(attributes));
     }

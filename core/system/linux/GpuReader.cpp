@@ -16,16 +16,9 @@ bool isCardName(const std::string& name)
         && std::all_of(name.begin() + 4, name.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-std::string firstLine(const std::string& path)
-{
-    const auto text = Files::read(path, 4096);
-    return text ? std::string(TextScan::trim(*text)) : std::string();
-}
-
 std::optional<double> numberAt(const std::string& path)
 {
-    const auto text = Files::read(path, 256);
-    return text ? TextScan::toDouble(*text) : std::nullopt;
+    return TextScan::toDouble(Files::readValue(path));
 }
 
 } // namespace
@@ -43,14 +36,14 @@ void GpuReader::discover()
         Card card;
         card.path = drm + "/" + name;
         const std::string device = card.path + "/device";
-        if (!firstLine(device + "/class").starts_with("0x03"))
+        if (!Files::readValue(device + "/class").starts_with("0x03"))
             continue;
         const auto driver = Files::readLink(device + "/driver");
         card.driver = driver ? Files::baseName(*driver) : std::string();
-        card.bootVga = firstLine(device + "/boot_vga") == "1";
-        const auto vendor = PciIds::normaliseId(firstLine(device + "/vendor"));
-        const auto model = PciIds::normaliseId(firstLine(device + "/device"));
-        const auto product = firstLine(device + "/product_name");
+        card.bootVga = Files::readValue(device + "/boot_vga") == "1";
+        const auto vendor = PciIds::normaliseId(Files::readValue(device + "/vendor"));
+        const auto model = PciIds::normaliseId(Files::readValue(device + "/device"));
+        const auto product = Files::readValue(device + "/product_name");
         const auto known = database ? PciIds::deviceName(*database, vendor, model) : std::nullopt;
         card.name = !product.empty() ? product : known.value_or("GPU");
         m_cards.push_back(std::move(card));
@@ -62,7 +55,7 @@ std::optional<double> GpuReader::load(Card& card, double now) const
     const std::string device = card.path + "/device";
     if (card.driver == "amdgpu") {
         // Reading the busy file would wake a suspended discrete GPU.
-        if (firstLine(device + "/power/runtime_status") == "suspended")
+        if (Files::readValue(device + "/power/runtime_status") == "suspended")
             return 0.0;
         const auto percent = numberAt(device + "/gpu_busy_percent");
         if (!percent)

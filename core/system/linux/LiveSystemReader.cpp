@@ -20,12 +20,6 @@ constexpr double volumeSeconds = 30;
 constexpr double batterySeconds = 30;
 constexpr double deviceListSeconds = 60;
 
-std::string trimmedFile(const std::string& path)
-{
-    const auto text = Files::read(path, 4096);
-    return text ? std::string(TextScan::trim(*text)) : std::string();
-}
-
 } // namespace
 
 LiveSystemReader::LiveSystemReader()
@@ -59,11 +53,12 @@ bool LiveSystemReader::isFresh(double at, double now, double seconds) const
 void LiveSystemReader::readLevels()
 {
     // Intel hybrid parts name their core types through two PMUs.
-    const auto core = CpuTopology::countCpuList(trimmedFile(m_roots.sys + "/devices/cpu_core/cpus"));
+    const auto core = CpuTopology::countCpuList(Files::readValue(m_roots.sys + "/devices/cpu_core/cpus"));
     if (core) {
         m_performanceCores = *core;
-        m_efficiencyCores = CpuTopology::countCpuList(trimmedFile(m_roots.sys + "/devices/cpu_atom/cpus")).value_or(0)
-            + CpuTopology::countCpuList(trimmedFile(m_roots.sys + "/devices/cpu_lowpower/cpus")).value_or(0);
+        m_efficiencyCores
+            = CpuTopology::countCpuList(Files::readValue(m_roots.sys + "/devices/cpu_atom/cpus")).value_or(0)
+            + CpuTopology::countCpuList(Files::readValue(m_roots.sys + "/devices/cpu_lowpower/cpus")).value_or(0);
         return;
     }
     std::vector<long long> capacities;
@@ -71,7 +66,7 @@ void LiveSystemReader::readLevels()
     for (const auto& name : Files::list(cpus)) {
         if (name.size() < 4 || !name.starts_with("cpu") || !TextScan::toU64(name.substr(3)))
             continue;
-        if (const auto capacity = TextScan::toI64(trimmedFile(cpus + "/" + name + "/cpu_capacity")))
+        if (const auto capacity = TextScan::toI64(Files::readValue(cpus + "/" + name + "/cpu_capacity")))
             capacities.push_back(*capacity);
     }
     const auto levels = CpuTopology::fromCapacities(capacities);
@@ -92,7 +87,7 @@ void LiveSystemReader::refreshDevices(double now)
         if (name.starts_with("zram"))
             m_zramStats.push_back(folder + "/mm_stat");
         // Whole physical disks only: partitions, loop, zram, dm and md would count bytes twice.
-        else if (Files::exists(folder + "/device") && trimmedFile(folder + "/hidden") != "1")
+        else if (Files::exists(folder + "/device") && Files::readValue(folder + "/hidden") != "1")
             m_disks.push_back(name);
     }
     std::sort(m_disks.begin(), m_disks.end());

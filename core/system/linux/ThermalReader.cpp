@@ -14,14 +14,7 @@ constexpr double rediscoverSeconds = 60;
 
 std::optional<double> numberAt(const std::string& path)
 {
-    const auto text = Files::read(path, 256);
-    return text ? TextScan::toDouble(*text) : std::nullopt;
-}
-
-std::string wordAt(const std::string& path)
-{
-    const auto text = Files::read(path, 256);
-    return text ? std::string(TextScan::trim(*text)) : std::string();
+    return TextScan::toDouble(Files::readValue(path));
 }
 
 std::vector<std::string> entriesWithPrefix(const std::string& folder, std::string_view prefix)
@@ -54,7 +47,7 @@ ThermalRule::Zone readZone(const std::string& path)
     zone.celsius = celsius(path + "/temp").value_or(0);
     for (int i = 0; i < 32; ++i) {
         const std::string trip = path + "/trip_point_" + std::to_string(i);
-        const auto type = wordAt(trip + "_type");
+        const auto type = Files::readValue(trip + "_type");
         if (type.empty())
             break;
         if (const auto temperature = celsius(trip + "_temp"); temperature && *temperature > 0)
@@ -75,10 +68,10 @@ void ThermalReader::discover(double now)
     for (const auto& hwmon : entriesWithPrefix(m_roots.sys + "/class/hwmon", "hwmon")) {
         // Some drivers put their files one level down, under device/.
         std::string base = hwmon;
-        auto chip = wordAt(base + "/name");
+        auto chip = Files::readValue(base + "/name");
         if (chip.empty()) {
             base = hwmon + "/device";
-            chip = wordAt(base + "/name");
+            chip = Files::readValue(base + "/name");
         }
         if (!isCpuSensorChip(chip))
             continue;
@@ -86,7 +79,7 @@ void ThermalReader::discover(double now)
             if (!name.starts_with("temp") || !name.ends_with("_input"))
                 continue;
             const std::string stem = base + "/" + name.substr(0, name.size() - 6);
-            const auto label = wordAt(stem + "_label");
+            const auto label = Files::readValue(stem + "_label");
             const bool package = label.starts_with("Package") || label == "Tctl" || label == "Tdie";
             m_sensors.push_back({stem + "_input", stem + "_max", stem + "_crit", package});
         }
@@ -98,7 +91,7 @@ void ThermalReader::discover(double now)
         if (!Files::exists(folder + "/package_throttle_count"))
             continue;
         // package_* repeats on every CPU of a package: count each package once.
-        if (packages.insert(wordAt(cpu + "/topology/physical_package_id")).second)
+        if (packages.insert(Files::readValue(cpu + "/topology/physical_package_id")).second)
             m_throttleFolders.push_back(folder);
     }
 }
@@ -131,12 +124,13 @@ ThermalRule::Inputs ThermalReader::inputs(double now)
         discover(now);
     ThermalRule::Inputs inputs;
     for (const auto& zone : m_zones) {
-        if (wordAt(zone + "/mode") != "disabled")
+        if (Files::readValue(zone + "/mode") != "disabled")
             inputs.zones.push_back(readZone(zone));
     }
     for (const auto& device : m_coolingDevices) {
         const auto state = numberAt(device + "/cur_state");
-        inputs.coolingDevices.push_back({wordAt(device + "/type"), static_cast<long long>(state.value_or(0))});
+        inputs.coolingDevices.push_back(
+            {Files::readValue(device + "/type"), static_cast<long long>(state.value_or(0))});
     }
     for (const auto& sensor : m_sensors) {
         if (const auto value = celsius(sensor.input))

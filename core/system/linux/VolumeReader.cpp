@@ -8,26 +8,6 @@ namespace vexel {
 
 namespace {
 
-// udev escapes blanks and slashes in label links ("My\x20Disk").
-std::string unescapeUdev(const std::string& name)
-{
-    std::string out;
-    for (size_t i = 0; i < name.size(); ++i) {
-        if (name[i] == '\\' && i + 3 < name.size() && name[i + 1] == 'x') {
-            const auto hex = name.substr(i + 2, 2);
-            char* end = nullptr;
-            const long value = std::strtol(hex.c_str(), &end, 16);
-            if (end == hex.c_str() + 2) {
-                out.push_back(static_cast<char>(value));
-                i += 3;
-                continue;
-            }
-        }
-        out.push_back(name[i]);
-    }
-    return out;
-}
-
 std::string osReleaseName(std::string_view text)
 {
     std::string name;
@@ -57,7 +37,7 @@ std::string VolumeReader::label(const std::string& source, const std::string& mo
         const std::string labels = m_roots.dev + "/disk/by-label";
         for (const auto& entry : Files::list(labels)) {
             if (device && Files::realPath(labels + "/" + entry) == device)
-                return unescapeUdev(entry);
+                return TextScan::unescapeHex(entry); // udev escapes blanks and slashes
         }
     }
     if (mountPoint == "/") {
