@@ -1,54 +1,67 @@
 #include "Entry.h"
 
-#include "ProcessListing.h"
-
+#include "cli/VexelCLI.h"
 #include "io/Files.h"
-#include "monitor/Monitor.h"
-#include "system/SnapshotJson.h"
-#include "system/linux/LiveSystemReader.h"
+#include "mcp/MCPServer.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <thread>
 
 namespace vexel {
 
 namespace {
 
-// Until the command line arrives, the CLI role reads the machine twice, one
-// second apart so that rates exist, and prints the second snapshot as JSON.
-int printSnapshot()
+VexelService standardService()
 {
-    LiveSystemReader reader;
-    (void)reader.read(currentTime());
-    std::this_thread::sleep_for(std::chrono::seconds(1));
-    const auto snapshot = reader.read(currentTime());
-    std::puts(toJson(snapshot).dump(2).c_str());
-    return 0;
+    return VexelService(VexelPaths::standard());
+}
+
+void writeLine(std::FILE* stream, const std::string& text)
+{
+    const std::string line = text + "\n";
+    std::fwrite(line.data(), 1, line.size(), stream);
+    std::fflush(stream);
 }
 
 } // namespace
 
-Role chooseRole(const std::vector<std::string>& args)
+std::string programVersion()
+{
+    const std::string built = VEXEL_VERSION; // from the build
+    return built.empty() ? "1.0" : built;
+}
+
+Dispatch dispatch(const std::vector<std::string>& args)
 {
     if (std::find(args.begin(), args.end(), "--mcp") != args.end())
-        return Role::mcp;
+        return {Role::mcp, {}, true};
     const std::string name = args.empty() ? std::string() : Files::baseName(args[0]);
-    if (name == "vexel" || (args.size() >= 2 && args[1] == "--cli"))
-        return Role::cli;
-    return Role::desktop;
+    if (name != "vexel" && !(args.size() >= 2 && args[1] == "--cli"))
+        return {Role::desktop, {}, false};
+    std::vector<std::string> rest(args.begin() + 1, args.end());
+    if (!rest.empty() && rest.front() == "--cli")
+        rest.erase(rest.begin());
+    if (!rest.empty() && rest.front() == "mcp")
+        return {Role::mcp, {}, false};
+    return {Role::cli, rest, false};
 }
 
 int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
 {
-    switch (chooseRole(args)) {
-    case Role::desktop: return desktop(args);
-    case Role::mcp: std::fputs("vexel: the MCP server is not available in this build yet\n", stderr); return 1;
-    case Role::cli: break;
+    const Dispatch chosen = dispatch(args);
+    if (chosen.role == Role::desktop)
+        return desktop(args);
+    VexelService service = standardService();
+    if (chosen.role == Role::mcp) {
+        MCPServer server(service);
+        if (chosen.versionFromProgram)
+            server.version = programVersion();
+        server.runStdio();
+        return 0;
     }
-    const bool apps = args.size() > 1 && std::find(args.begin() + 1, args.end(), "apps") != args.end();
-    return apps ? printApps() : printSnapshot();
+    return VexelCLI::run(
+        chosen.rest, service, programVersion(), [](const std::string& line) { writeLine(stdout, line); },
+        [](const std::string& line) { writeLine(stderr, line); });
 }
 
 } // namespace vexel

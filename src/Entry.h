@@ -9,11 +9,23 @@ namespace vexel {
 // The role a start of the program plays.
 enum class Role { cli, mcp, desktop };
 
-// Chooses the role from the arguments and the name the program was started
-// under: "--mcp" anywhere means the MCP server; the name "vexel" (exactly) or
-// "--cli" as the first argument means the command line; anything else is the
-// desktop app.
-[[nodiscard]] Role chooseRole(const std::vector<std::string>& args);
+// What the entry does with one start: the role, the arguments the role is
+// given (the command line's, without the program path and one leading
+// "--cli"), and whether the MCP server names the program's version (it does
+// when reached through "--mcp", not through `vexel mcp`).
+struct Dispatch {
+    Role role = Role::desktop;
+    std::vector<std::string> rest;
+    bool versionFromProgram = false;
+};
+
+// Chooses, first rule first: "--mcp" anywhere is the MCP server; the name
+// "vexel" (exactly) or "--cli" as the first argument is the command line, or
+// the MCP server when its command is "mcp"; anything else is the desktop app.
+[[nodiscard]] Dispatch dispatch(const std::vector<std::string>& args);
+
+// The version the program reports: the build's, else "1.0".
+[[nodiscard]] std::string programVersion();
 
 // Starts the desktop app with the program's arguments; returns its exit status.
 using DesktopLauncher = std::function<int(const std::vector<std::string>& args)>;

@@ -52,4 +52,12 @@ std::optional<ListenSocket> listenSocketFromJson(const nlohmann::ordered_json& j
         address->get<std::string>(), static_cast<uint16_t>(portValue)};
 }
 
+bool reachableFromNetwork(const ListenSocket& socket)
+{
+    const std::string& address = socket.address;
+    const bool loopback
+        = address.rfind("127.", 0) == 0 || address == "::1" || address == "localhost" || address == "::ffff:127.0.0.1";
+    return !loopback;
+}
+
 } // namespace vexel

@@ -23,6 +23,10 @@ struct ListenSocket {
     auto operator<=>(const ListenSocket&) const = default;
 };
 
+// Whether other machines can connect: the socket is bound to something other
+// than a loopback address (127.0.0.0/8, "::1", "localhost").
+[[nodiscard]] bool reachableFromNetwork(const ListenSocket& socket);
+
 // "IPv4" or "IPv6".
 [[nodiscard]] std::string rawValue(ListenSocket::Family family);
 [[nodiscard]] std::optional<ListenSocket::Family> listenFamilyFromRaw(std::string_view raw);

@@ -2,6 +2,7 @@
 
 #include "format/CFormat.h"
 #include "history/Downsample.h"
+#include "history/ReadOnlyOpen.h"
 #include "text/TextScan.h"
 
 #include <algorithm>
@@ -23,7 +24,6 @@ constexpr const char* schema
       "CREATE TABLE IF NOT EXISTS meta(key TEXT PRIMARY KEY, value TEXT);\n"
       "INSERT OR IGNORE INTO meta(key, value) VALUES('schema', '1');";
 
-constexpr int readOnlyFlags = SQLITE_OPEN_READONLY | SQLITE_OPEN_FULLMUTEX;
 constexpr int writableFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
 constexpr int busyMilliseconds = 2000;
 constexpr int capDaysPerCompaction = 400;
@@ -47,9 +47,10 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     if (!readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());
     sqlite3* handle = nullptr;
-    const int result = ::sqlite3_open_v2(m_file.c_str(), &handle, readOnly ? readOnlyFlags : writableFlags, nullptr);
+    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle)
+                                : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
     if (result != SQLITE_OK) {
-        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : "unknown";
+        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
         ::sqlite3_close(handle);
         throw HistoryError(HistoryError::Kind::open, message);
     }

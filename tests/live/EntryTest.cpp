@@ -1,43 +1,60 @@
 #include "Entry.h"
 
-#include "support/RunTool.h"
-#include "system/SnapshotJson.h"
-
 #include <gtest/gtest.h>
 
 using namespace vexel;
 
-TEST(Entry, RoleFromArgumentsAndName)
+namespace {
+
+using Args = std::vector<std::string>;
+
+} // namespace
+
+TEST(Entry, DispatchOrder)
 {
-    EXPECT_EQ(chooseRole({"/usr/bin/vexel", "--mcp", "status"}), Role::mcp);
-    EXPECT_EQ(chooseRole({"--mcp"}), Role::mcp);
-    EXPECT_EQ(chooseRole({"/usr/local/bin/vexel"}), Role::cli);
-    EXPECT_EQ(chooseRole({"/opt/Vexel/Vexel"}), Role::desktop); // the name comparison is exact
-    EXPECT_EQ(chooseRole({"/opt/vexel/vexel-app", "--cli", "status"}), Role::cli);
-    EXPECT_EQ(chooseRole({"/opt/vexel/vexel-app", "status", "--cli"}), Role::desktop);
-    EXPECT_EQ(chooseRole({}), Role::desktop);
+    struct Case {
+        const char* name;
+        Args args;
+        Role role;
+        Args rest;
+        bool versionFromProgram;
+    };
+    const Case cases[] = {
+        {"mcp-beats-cli-name", {"/usr/bin/vexel", "--mcp", "status"}, Role::mcp, {}, true},
+        {"mcp-as-program-path", {"--mcp"}, Role::mcp, {}, true},
+        {"mcp-anywhere-in-app", {"/opt/vexel/vexel-app", "x", "--mcp"}, Role::mcp, {}, true},
+        {"vexel-alone", {"/usr/local/bin/vexel"}, Role::cli, {}, false},
+        {"vexel-mcp-keeps-default-version", {"/usr/local/bin/vexel", "mcp"}, Role::mcp, {}, false},
+        {"name-is-exact", {"/opt/Vexel/Vexel"}, Role::desktop, {}, false},
+        {"cli-flag", {"/opt/vexel/vexel-app", "--cli", "status"}, Role::cli, {"status"}, false},
+        {"cli-only-first", {"/opt/vexel/vexel-app", "status", "--cli"}, Role::desktop, {}, false},
+        {"cli-removed-once", {"/opt/vexel/vexel-app", "--cli", "--cli", "status"}, Role::cli, {"--cli", "status"},
+            false},
+        {"vexel-cli-removed", {"vexel", "--cli", "top"}, Role::cli, {"top"}, false},
+        {"cli-then-mcp", {"/opt/vexel/vexel-app", "--cli", "mcp"}, Role::mcp, {}, false},
+        {"mcp-not-first", {"vexel", "top", "mcp"}, Role::cli, {"top", "mcp"}, false},
+        {"nothing", {}, Role::desktop, {}, false},
+    };
+    for (const auto& c : cases) {
+        const Dispatch chosen = dispatch(c.args);
+        EXPECT_EQ(chosen.role, c.role) << c.name;
+        EXPECT_EQ(chosen.rest, c.rest) << c.name;
+        EXPECT_EQ(chosen.versionFromProgram, c.versionFromProgram) << c.name;
+    }
 }
 
 TEST(Entry, DesktopRoleGoesToTheLauncher)
 {
-    std::vector<std::string> seen;
-    const int status = run({"/opt/vexel/vexel-app", "--hidden"}, [&](const std::vector<std::string>& args) {
+    Args seen;
+    const int status = run({"/opt/vexel/vexel-app", "--hidden"}, [&](const Args& args) {
         seen = args;
         return 7;
     });
     EXPECT_EQ(status, 7);
-    EXPECT_EQ(seen, (std::vector<std::string>{"/opt/vexel/vexel-app", "--hidden"}));
+    EXPECT_EQ(seen, (Args{"/opt/vexel/vexel-app", "--hidden"}));
 }
 
-TEST(Entry, TheVexelCommandPrintsALiveSnapshot)
+TEST(Entry, VersionComesFromTheBuild)
 {
-    const auto result = vexel::testing::runTool({std::string(VEXEL_BINARY_DIR) + "/src/vexel"});
-    ASSERT_EQ(result.status, 0);
-    const auto json = nlohmann::ordered_json::parse(result.out, nullptr, false);
-    ASSERT_FALSE(json.is_discarded()) << result.out;
-    const auto snapshot = snapshotFromJson(json);
-    ASSERT_TRUE(snapshot) << result.out;
-    EXPECT_FALSE(snapshot->cpu.cores.empty());
-    EXPECT_GT(snapshot->memory.total, 0u);
-    EXPECT_FALSE(snapshot->disk.volumes.empty());
+    EXPECT_EQ(programVersion(), "1.0");
 }

@@ -1,0 +1,73 @@
+#include "cli/ReportFields.h"
+#include "cli/ReportText.h"
+#include "cli/TextColumns.h"
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+
+#include <vector>
+
+namespace vexel::VexelCLI {
+
+namespace {
+
+using nlohmann::json;
+using namespace ReportFields;
+using TextColumns::Align;
+using TextColumns::cell;
+
+uint64_t byteCount(const json& object, const char* key)
+{
+    const double value = number(object, key).value_or(0);
+    return value > 0 ? static_cast<uint64_t>(value) : 0;
+}
+
+std::string energyCell(const json& app)
+{
+    const auto watts = number(app, "energy_watts");
+    const auto estimated = number(app, "energy_watts_estimated");
+    return watts ? Fmt::watts(*watts) : estimated ? Fmt::watts(*estimated) : std::string();
+}
+
+std::string appLine(const json& app)
+{
+    return cell(text(app, "name").value_or(""), 30)
+        + cell(cformat("%.0f", number(app, "processes").value_or(0)), 7, Align::right)
+        + cell(cformat("%.1f%%", number(app, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
+        + cell(Fmt::memory(byteCount(app, "memory_bytes")), 11, Align::right) + cell(energyCell(app), 10, Align::right)
+        + cell(Fmt::rate(number(app, "disk_bytes_per_s").value_or(0), false), 12, Align::right)
+        + cell(Fmt::rate(number(app, "network_bytes_per_s").value_or(0), false), 12, Align::right);
+}
+
+} // namespace
+
+std::string appsText(const json& report)
+{
+    std::vector<std::string> lines{cell("APP", 30) + cell("PROCS", 7, Align::right) + cell("CPU", 9, Align::right)
+        + cell("MEMORY", 11, Align::right) + cell("ENERGY", 10, Align::right) + cell("DISK", 12, Align::right)
+        + cell("NET", 12, Align::right)};
+    for (const auto& app : list(report, "apps"))
+        lines.push_back(appLine(app));
+    lines.push_back(cformat("%.0f processes in %.0f apps. CPU is %% of one core.",
+        number(report, "process_count").value_or(0), number(report, "app_count").value_or(0)));
+    return TextColumns::joinLines(lines);
+}
+
+std::string appText(const json& report)
+{
+    std::vector<std::string> lines{text(report, "name").value_or("")
+        + cformat("  %.0f processes, %.1f%% CPU, ", number(report, "processes").value_or(0),
+            number(report, "cpu_percent_of_one_core").value_or(0))
+        + Fmt::memory(byteCount(report, "memory_bytes"))};
+    for (const auto& process : list(report, "process_list")) {
+        std::string line = cell(cformat("%.0f", number(process, "pid").value_or(0)), 9, Align::right) + "  "
+            + cell(text(process, "name").value_or(""), 28)
+            + cell(cformat("%.1f%%", number(process, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
+            + cell(Fmt::memory(byteCount(process, "memory_bytes")), 11, Align::right);
+        if (flag(process, "zombie").value_or(false))
+            line += "  (zombie)";
+        lines.push_back(line);
+    }
+    return TextColumns::joinLines(lines);
+}
+
+} // namespace vexel::VexelCLI

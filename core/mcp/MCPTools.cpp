@@ -1,0 +1,142 @@
+#include "mcp/MCPTools.h"
+
+#include "reports/ReportError.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+
+namespace vexel::MCPTools {
+
+namespace {
+
+using nlohmann::json;
+
+constexpr std::array<std::string_view, 8> names{"system_status", "top_apps", "app_processes", "history", "spikes",
+    "dev_servers", "listening_ports", "docker_containers"};
+
+json schema(json properties, json required)
+{
+    return {{"type", "object"}, {"properties", std::move(properties)}, {"required", std::move(required)},
+        {"additionalProperties", false}};
+}
+
+json tool(const std::string& name, const std::string& title, const std::string& description, json inputSchema)
+{
+    static const json annotations = {{"readOnlyHint", true}, {"openWorldHint", false}, {"destructiveHint", false}};
+    return {{"name", name}, {"title", title}, {"description", description}, {"inputSchema", std::move(inputSchema)},
+        {"annotations", annotations}};
+}
+
+json none()
+{
+    return schema(json::object(), json::array());
+}
+
+std::string statusDescription(Platform platform)
+{
+    const std::string machine = machineWord(platform);
+    return "The " + machine
+        + " right now: CPU (total, per core, load), memory (used, app, wired, compressed, swap, pressure), disks "
+          "(free space, read/write rates), network rates, GPU utilisation, battery (charge, power draw, health, time "
+          "left), thermal state, and today's disk-written and network totals.";
+}
+
+std::string stringArgument(const json& arguments, const char* key)
+{
+    const auto found = arguments.find(key);
+    return found != arguments.end() && found->is_string() ? found->get<std::string>() : std::string();
+}
+
+// A whole number, also when written with a zero fraction ("5.0").
+std::optional<long long> integerArgument(const json& arguments, const char* key)
+{
+    constexpr double largest = 9.2e18;
+    const auto found = arguments.find(key);
+    if (found == arguments.end() || !found->is_number())
+        return std::nullopt;
+    if (found->is_number_unsigned())
+        return static_cast<long long>(std::min<uint64_t>(found->get<uint64_t>(), INT64_MAX));
+    if (found->is_number_integer())
+        return found->get<long long>();
+    const double value = found->get<double>();
+    if (std::floor(value) != value || std::fabs(value) > largest)
+        return std::nullopt;
+    return static_cast<long long>(value);
+}
+
+} // namespace
+
+json table(Platform platform)
+{
+    json list = json::array();
+    list.push_back(tool("system_status", "System status", statusDescription(platform), none()));
+    list.push_back(tool("top_apps", "Busiest apps",
+        "Apps (each with all its helper processes) sorted by CPU, memory, energy, disk or network.",
+        schema({{"sort",
+                    {{"type", "string"}, {"enum", {"cpu", "memory", "energy", "disk", "network"}},
+                        {"description", "Default cpu"}}},
+                   {"limit", {{"type", "integer"}, {"minimum", 1}, {"maximum", 100}, {"description", "Default 10"}}}},
+            json::array())));
+    list.push_back(
+        tool("app_processes", "One app's processes", "The processes grouped under one app, with CPU and memory each.",
+            schema({{"name", {{"type", "string"}, {"description", "App name, e.g. \"Google Chrome\""}}}}, {"name"})));
+    list.push_back(tool("history", "History",
+        "Averages, peaks, totals and the busiest apps over today, the last week, month or year, with a compact "
+        "series.",
+        schema(
+            {{"range",
+                {{"type", "string"}, {"enum", {"today", "week", "month", "year"}}, {"description", "Default today"}}}},
+            json::array())));
+    list.push_back(tool("spikes", "What happened",
+        "CPU, memory-pressure, disk, network, heat and battery-drain spikes in the last N hours, each with the app "
+        "most responsible.",
+        schema({{"hours", {{"type", "number"}, {"minimum", 1}, {"maximum", 840}, {"description", "Default 24"}}}},
+            json::array())));
+    list.push_back(tool("dev_servers", "Dev servers",
+        "Development servers grouped by project folder, with ports, uptime and whether they've been idle for days.",
+        none()));
+    list.push_back(tool("listening_ports", "Listening ports",
+        "TCP ports your processes are listening on (IPv4 and IPv6), with the process and app.", none()));
+    list.push_back(tool("docker_containers", "Docker containers",
+        "Docker containers with state, ports, CPU and memory (if the docker command is installed).", none()));
+    return list;
+}
+
+bool known(const std::string& name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+json call(VexelService& service, const std::string& name, const json& arguments)
+{
+    if (name == "system_status")
+        return service.status();
+    if (name == "top_apps") {
+        const auto sort = appSortFromRaw(stringArgument(arguments, "sort")).value_or(AppSort::cpu);
+        return service.topApps(sort, integerArgument(arguments, "limit").value_or(10));
+    }
+    if (name == "app_processes") {
+        const std::string app = stringArgument(arguments, "name");
+        if (app.empty())
+            throw ReportError("An app name is needed.");
+        return service.appDetail(app);
+    }
+    if (name == "history")
+        return service.history(historyRangeFromRaw(stringArgument(arguments, "range")).value_or(HistoryRange::today));
+    if (name == "spikes") {
+        const auto hours = arguments.find("hours");
+        return service.spikes(hours != arguments.end() && hours->is_number() ? hours->get<double>() : 24.0);
+    }
+    if (name == "dev_servers")
+        return service.serversReport();
+    if (name == "listening_ports")
+        return service.portsReport();
+    if (name == "docker_containers")
+        return service.dockerReport();
+    throw ReportError("Unknown tool");
+}
+
+} // namespace vexel::MCPTools

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "history/HistoryRange.h"
+#include "history/HistoryStore.h"
+#include "monitor/Monitor.h"
+#include "platform/Platform.h"
+#include "settings/AppSort.h"
+#include "settings/VexelPaths.h"
+#include "settings/VexelSettings.h"
+#include "time/TimeZone.h"
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace vexel {
+
+// Turns one settled frame of the machine, the recorded history and the spike
+// finder into reports: plain JSON objects (keys sorted), shared by the command
+// line, its tables and the MCP tools. Read-only: it never writes history,
+// settings or the activity log. Used from one thread.
+class VexelService {
+public:
+    using Clock = std::function<double()>;
+    using MonitorFactory = std::function<std::unique_ptr<Monitor>()>;
+
+    // `settleSleeps` true samples, sleeps a second and samples again (real
+    // use); false samples one second before `now()` and at it, without
+    // sleeping (fixture worlds). `platform` picks the words of the texts.
+    explicit VexelService(VexelPaths paths, TimeZone calendar = TimeZone::current(), Clock now = currentTime,
+        MonitorFactory makeMonitor = Monitor::live, bool settleSleeps = true, Platform platform = livePlatform());
+
+    // The monitor, made on first use.
+    [[nodiscard]] Monitor& monitor();
+    // The settings file's settings; defaults when it is missing or unreadable.
+    [[nodiscard]] VexelSettings settings() const;
+    // The one frame every report of this service reads, taken on first use.
+    [[nodiscard]] const Frame& frame();
+    // The history opened read-only; nothing when there is no file or it will not open.
+    [[nodiscard]] std::unique_ptr<HistoryStore> openStore() const;
+
+    [[nodiscard]] nlohmann::json status();
+    // Apps by `sort`, highest first, at most min(max(limit, 1), 200).
+    [[nodiscard]] nlohmann::json topApps(AppSort sort, long long limit);
+    // One app and its processes. Raises ReportError when no app matches.
+    [[nodiscard]] nlohmann::json appDetail(const std::string& name);
+    [[nodiscard]] nlohmann::json portsReport();
+    [[nodiscard]] nlohmann::json serversReport();
+    [[nodiscard]] nlohmann::json dockerReport();
+    // Raise ReportError without history, HistoryError when it cannot be read.
+    [[nodiscard]] nlohmann::json history(HistoryRange range);
+    [[nodiscard]] nlohmann::json spikes(double hours);
+
+    // One app group as a report row; CPU of the machine over `cores`.
+    [[nodiscard]] static nlohmann::json appRow(const AppGroup& group, int cores);
+
+    [[nodiscard]] Platform platform() const { return m_platform; }
+    // How many frames were sampled (two per settle).
+    [[nodiscard]] int samplesTaken() const { return m_samplesTaken; }
+
+private:
+    [[nodiscard]] Frame take(double time);
+    [[nodiscard]] std::unique_ptr<HistoryStore> requireStore() const;
+    // The listening sockets, read once beside the frame; empty when unreadable.
+    [[nodiscard]] const std::vector<ListenSocket>& listeners();
+
+    VexelPaths m_paths;
+    TimeZone m_calendar;
+    Clock m_now;
+    std::unique_ptr<Monitor> m_monitorStorage;
+    MonitorFactory m_makeMonitor;
+    bool m_settleSleeps;
+    std::optional<Frame> m_cachedFrame;
+    std::optional<std::vector<ListenSocket>> m_listeners;
+    Platform m_platform;
+    int m_samplesTaken = 0;
+};
+
+} // namespace vexel
