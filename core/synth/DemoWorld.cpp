@@ -109,10 +109,44 @@ void DemoWorld::sync()
     systemSource->set(systemSnapshot());
 }
 
+namespace {
+
+// The world's process table, read after moving the world on.
+class AdvancingProcessSource final : public ProcessSource {
+public:
+    AdvancingProcessSource(DemoWorld& world, double seconds)
+        : m_world(world)
+        , m_seconds(seconds)
+    {
+    }
+    [[nodiscard]] std::vector<ProcRecord> snapshot(bool everyone) override
+    {
+        m_world.advance(m_seconds);
+        return m_world.processSource->snapshot(everyone);
+    }
+    [[nodiscard]] std::optional<std::string> cwd(int32_t pid) override { return m_world.processSource->cwd(pid); }
+
+private:
+    DemoWorld& m_world;
+    double m_seconds;
+};
+
+} // namespace
+
+std::unique_ptr<Monitor> DemoWorld::advancingMonitor(double seconds)
+{
+    return std::make_unique<Monitor>(sources(std::make_shared<AdvancingProcessSource>(*this, seconds)));
+}
+
 std::unique_ptr<Monitor> DemoWorld::monitor()
 {
+    return std::make_unique<Monitor>(sources(processSource));
+}
+
+MonitorSources DemoWorld::sources(std::shared_ptr<ProcessSource> processes)
+{
     MonitorSources sources;
-    sources.processes = processSource;
+    sources.processes = std::move(processes);
     sources.net = netSource;
     sources.system = systemSource;
     sources.ports = portSource;
@@ -122,7 +156,7 @@ std::unique_ptr<Monitor> DemoWorld::monitor()
     sources.home = m_home;
     sources.myUID = 501;
     sources.exists = [this](const std::string& path) { return m_files.contains(path); };
-    return std::make_unique<Monitor>(std::move(sources));
+    return sources;
 }
 
 std::optional<std::string> DemoWorld::displayName(const std::string& bundlePath) const

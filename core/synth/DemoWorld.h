@@ -46,6 +46,10 @@ public:
 
     // A monitor wired to this world's sources, naming apps from the world's own table.
     [[nodiscard]] std::unique_ptr<Monitor> monitor();
+    // The same, with the world moved on by `seconds` before every reading of
+    // the process table: two samples taken back to back then differ as two
+    // real ones `seconds` apart would (the report service's fixture mode).
+    [[nodiscard]] std::unique_ptr<Monitor> advancingMonitor(double seconds);
 
     // The display names of the simulated app bundles.
     [[nodiscard]] std::optional<std::string> displayName(const std::string& bundlePath) const;
@@ -69,6 +73,7 @@ public:
     std::set<std::string> markers;
 
 private:
+    [[nodiscard]] MonitorSources sources(std::shared_ptr<ProcessSource> processes);
     void build();
     void buildSystem();
     void buildBrowser();

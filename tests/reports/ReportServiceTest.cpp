@@ -1,0 +1,348 @@
+#include "history/HistoryStore.h"
+#include "reports/ReportError.h"
+#include "reports/ReportValues.h"
+#include "support/DemoService.h"
+#include "support/HistoryFixture.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace vexel;
+using namespace vexel::testing;
+using nlohmann::json;
+
+namespace {
+
+std::set<std::string> keysOf(const json& object)
+{
+    std::set<std::string> keys;
+    for (const auto& [key, value] : object.items())
+        keys.insert(key);
+    return keys;
+}
+
+class ReportService : public ::testing::Test {
+protected:
+    TempFolder folder{"vexel-reports"};
+    DemoService demo{folder.path()};
+    VexelService& service = demo.service;
+};
+
+} // namespace
+
+TEST(ReportValues, RoundingTimesAndWholeNumbers)
+{
+    using namespace ReportValues;
+    EXPECT_EQ(percent(0.0625), 6.3); // 6.25 exactly: half away from zero, not to even
+    EXPECT_EQ(percent(-0.0625), -6.3);
+    EXPECT_EQ(percent(0.12345), 12.3);
+    EXPECT_EQ(machinePercent(1.7), 100.0);
+    EXPECT_EQ(rounded(2.0005, 3), 2.001);
+    EXPECT_EQ(wholeRate(1234.99), 1234);
+    EXPECT_EQ(wholeRate(-5), 0);
+    EXPECT_EQ(wholeRate(std::nan("")), 0);
+    EXPECT_EQ(wholeRate(1e30), 0);
+    EXPECT_EQ(iso8601(1795000006.9), "2026-11-18T11:06:46Z");
+    EXPECT_EQ(iso8601(0), "1970-01-01T00:00:00Z");
+    EXPECT_EQ(parseISO8601("2026-11-18T11:06:46Z"), 1795000006.0);
+    EXPECT_EQ(parseISO8601("2026-11-18T12:06:46+01:00"), 1795000006.0);
+    EXPECT_EQ(parseISO8601("2026-11-18T06:06:46-0500"), 1795000006.0);
+    for (const char* bad : {"", "2026-11-18", "2026-11-18T11:06:46", "2026-13-18T11:06:46Z", "2026-11-18T11:06:46+1",
+             "2026-11-18X11:06:46Z", "abcd-ef-ghTij:kl:mnZ"})
+        EXPECT_FALSE(parseISO8601(bad)) << bad;
+}
+
+TEST_F(ReportService, OneSettledFrameServesEveryReport)
+{
+    const Frame& first = service.frame();
+    EXPECT_EQ(first.time, demo.now);
+    EXPECT_DOUBLE_EQ(first.interval, 1.0); // sampled at now − 1 and now, without sleeping
+    (void)service.status();
+    (void)service.topApps(AppSort::memory, 5);
+    (void)service.portsReport();
+    EXPECT_EQ(service.samplesTaken(), 2);
+    EXPECT_EQ(demo.world->processSource->served, 2);
+    EXPECT_EQ(&service.frame(), &first);
+}
+
+TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
+{
+    TempFolder folder("vexel-reports");
+    auto world = warmDemoWorld();
+    VexelService service(
+        VexelPaths(folder.path()), TimeZone::fixed(0), currentTime, [&] { return world->monitor(); }, true,
+        Platform::macOS);
+    const double before = currentTime();
+    const Frame& frame = service.frame();
+    EXPECT_GE(frame.interval, 0.99);
+    EXPECT_GE(frame.time - before, 0.99);
+    (void)service.status();
+    EXPECT_EQ(service.samplesTaken(), 2);
+}
+
+TEST_F(ReportService, StatusHasExactlyItsKeys)
+{
+    const json status = service.status();
+    EXPECT_EQ(keysOf(status),
+        (std::set<std::string>{
+            "time", "cpu", "memory", "disk", "network", "thermal", "processes", "gpu", "battery", "not_measured"}));
+    EXPECT_EQ(keysOf(status["cpu"]),
+        (std::set<std::string>{
+            "percent", "user_percent", "system_percent", "cores", "per_core_percent", "load_average"}));
+    EXPECT_EQ(keysOf(status["memory"]),
+        (std::set<std::string>{"total_bytes", "used_bytes", "app_bytes", "wired_bytes", "compressed_bytes",
+            "cached_bytes", "swap_bytes", "pressure", "used_percent"}));
+    EXPECT_EQ(
+        keysOf(status["disk"]["volumes"][0]), (std::set<std::string>{"name", "path", "total_bytes", "free_bytes"}));
+    EXPECT_EQ(keysOf(status["battery"]),
+        (std::set<std::string>{
+            "percent", "charging", "on_ac", "power_watts", "minutes_left", "health_percent", "cycles"}));
+    EXPECT_EQ(status["cpu"]["cores"], 12);
+    EXPECT_EQ(status["cpu"]["per_core_percent"].size(), 12u);
+    EXPECT_TRUE(status["disk"]["read_bytes_per_s"].is_number_integer());
+    EXPECT_EQ(status["thermal"]["state"], "cool");
+    EXPECT_EQ(status["thermal"]["detail"], "Running at full speed.");
+    EXPECT_EQ(status["memory"]["pressure"], "normal");
+    EXPECT_EQ(status["time"], ReportValues::iso8601(demo.now));
+    const auto& memory = status["memory"];
+    EXPECT_EQ(memory["used_bytes"].get<uint64_t>(),
+        memory["app_bytes"].get<uint64_t>() + memory["wired_bytes"].get<uint64_t>()
+            + memory["compressed_bytes"].get<uint64_t>());
+    EXPECT_EQ(status["not_measured"],
+        "Temperatures, fan speeds, Neural Engine use and per-app GPU have no public macOS API, so Vexel leaves them "
+        "out.");
+}
+
+TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
+{
+    DemoService plain(folder.path(), false);
+    SystemSnapshot snapshot = plain.world->systemSource->read(0);
+    snapshot.gpu = GPUStats{0.4, ""};
+    snapshot.battery->designCapacity.reset();
+    snapshot.thermal = ThermalLevel::serious;
+    plain.world->systemSource->set(snapshot);
+    const json status = plain.service.status();
+    EXPECT_FALSE(status.contains("gpu"));
+    EXPECT_FALSE(status["battery"].contains("health_percent"));
+    EXPECT_EQ(status["thermal"]["detail"], "Hot. macOS is slowing the processor to cool down.");
+
+    DemoService mains(folder.path(), false);
+    snapshot.battery.reset();
+    mains.world->systemSource->set(snapshot);
+    EXPECT_FALSE(mains.service.status().contains("battery"));
+}
+
+TEST_F(ReportService, TodayComesFromTheHistoryWhenThereIsOne)
+{
+    EXPECT_FALSE(service.status().contains("today"));
+    writeHistory(folder.path() / "history.sqlite", demo.now);
+    DemoService again(folder.path());
+    const json today = again.service.status()["today"];
+    // Every minute point lies within today (UTC) in this world.
+    EXPECT_EQ(today["disk_written_bytes"], historyMinutes * 1'000'000ULL);
+    EXPECT_EQ(today["disk_read_bytes"], historyMinutes * 500'000ULL);
+    EXPECT_EQ(today["network_in_bytes"], historyMinutes * 2'000'000ULL);
+    EXPECT_EQ(today["network_out_bytes"], historyMinutes * 100'000ULL);
+}
+
+TEST_F(ReportService, TopAppsSortsCutsAndRows)
+{
+    const json all = service.topApps(AppSort::memory, 500);
+    const auto appCount = all["app_count"].get<size_t>();
+    ASSERT_GT(appCount, 10u);
+    EXPECT_EQ(all["apps"].size(), std::min<size_t>(appCount, 200));
+    EXPECT_EQ(all["sort"], "memory");
+    for (size_t i = 1; i < all["apps"].size(); ++i)
+        EXPECT_GE(all["apps"][i - 1]["memory_bytes"].get<uint64_t>(), all["apps"][i]["memory_bytes"].get<uint64_t>());
+    EXPECT_EQ(service.topApps(AppSort::cpu, 0)["apps"].size(), 1u);
+    EXPECT_EQ(service.topApps(AppSort::cpu, -4)["apps"].size(), 1u);
+    EXPECT_EQ(service.topApps(AppSort::cpu, 3)["app_count"], appCount); // counted before the cut
+
+    const json top = service.topApps(AppSort::cpu, 1)["apps"][0];
+    EXPECT_EQ(top["name"], "Google Chrome");
+    EXPECT_EQ(top["kind"], "app");
+    EXPECT_NEAR(top["cpu_percent_of_mac"].get<double>(), top["cpu_percent_of_one_core"].get<double>() / 12, 0.051);
+    EXPECT_TRUE(top.contains("energy_watts") != top.contains("energy_watts_estimated"));
+    EXPECT_EQ(top["path"], "/Applications/Google Chrome.app");
+}
+
+TEST_F(ReportService, AppDetailFindsByNameAndListsProcesses)
+{
+    const json chrome = service.appDetail("google chrome");
+    EXPECT_EQ(chrome["name"], "Google Chrome");
+    EXPECT_EQ(chrome["process_list"].size(), chrome["processes"].get<size_t>());
+    EXPECT_EQ(keysOf(chrome["process_list"][0]),
+        (std::set<std::string>{"pid", "name", "cpu_percent_of_one_core", "memory_bytes", "zombie", "readable"}));
+    const json iterm = service.appDetail("iTerm");
+    bool zombie = false;
+    for (const auto& process : iterm["process_list"])
+        zombie = zombie || process["zombie"].get<bool>();
+    EXPECT_TRUE(zombie);
+    try {
+        (void)service.appDetail("Nonexistent Editor");
+        FAIL() << "expected a ReportError";
+    } catch (const ReportError& error) {
+        EXPECT_EQ(error.message(), "No running app matches \"Nonexistent Editor\".");
+    }
+}
+
+TEST_F(ReportService, PortsAreOrderedByPortThenPid)
+{
+    DemoService plain(folder.path(), false);
+    auto& sockets = *plain.world->portSource->sockets;
+    const int32_t chrome = plain.world->find("Google Chrome")->rec.pid;
+    sockets.push_back({9999, "ghost", ListenSocket::Family::v4, "0.0.0.0", 3000});
+    sockets.push_back({chrome, "Google", ListenSocket::Family::v4, "127.0.0.1", 3000});
+    const json ports = plain.service.portsReport();
+    const json& listening = ports["listening"];
+    ASSERT_GE(listening.size(), 3u);
+    for (size_t i = 1; i < listening.size(); ++i) {
+        const auto a = listening[i - 1], b = listening[i];
+        EXPECT_TRUE(a["port"] < b["port"] || (a["port"] == b["port"] && a["pid"] <= b["pid"])) << a << b;
+    }
+    std::vector<json> at3000;
+    for (const auto& entry : listening)
+        if (entry["port"] == 3000)
+            at3000.push_back(entry);
+    ASSERT_EQ(at3000.size(), 3u);
+    EXPECT_EQ(at3000[2]["process"], "ghost"); // not in the frame: the socket's own name
+    EXPECT_EQ(at3000[2]["app"], "ghost");
+    EXPECT_EQ(at3000[2]["reachable_from_network"], true);
+    const auto chromeEntry
+        = std::find_if(at3000.begin(), at3000.end(), [&](const json& e) { return e["pid"] == chrome; });
+    ASSERT_NE(chromeEntry, at3000.end());
+    EXPECT_EQ((*chromeEntry)["app"], "Google Chrome");
+    EXPECT_EQ((*chromeEntry)["process"], "Google Chrome");
+    EXPECT_EQ((*chromeEntry)["reachable_from_network"], false);
+    EXPECT_EQ(ports["note"], "Your own processes only; macOS doesn't show other users' sockets without admin rights.");
+}
+
+TEST_F(ReportService, ServersFlagTheIdleProjectAndWriteNothing)
+{
+    const json servers = service.serversReport();
+    std::set<std::string> idleProjects;
+    for (const auto& project : servers["projects"]) {
+        for (const auto& server : project["servers"]) {
+            EXPECT_EQ(server.contains("idle_since"), server["idle"].get<bool>()) << server;
+            EXPECT_TRUE(ReportValues::parseISO8601(server["started"].get<std::string>())) << server;
+            EXPECT_TRUE(server.contains("pid") && server.contains("name")) << server;
+        }
+        if (project["all_idle"].get<bool>())
+            idleProjects.insert(project["name"].get<std::string>());
+    }
+    EXPECT_EQ(idleProjects, (std::set<std::string>{"marketing-site"}));
+    EXPECT_TRUE(folderState(folder.path()).empty()); // no activity log written
+}
+
+TEST_F(ReportService, DockerStatesAndContainers)
+{
+    const json running = service.dockerReport();
+    EXPECT_EQ(running["state"], "running");
+    ASSERT_FALSE(running["containers"].empty());
+    EXPECT_EQ(keysOf(running["containers"][0]),
+        (std::set<std::string>{
+            "name", "image", "state", "status", "ports", "compose_project", "cpu_percent", "memory_bytes"}));
+    demo.world->dockerSource->state = DockerState::notRunning();
+    EXPECT_EQ(service.dockerReport(),
+        (json{{"state", "not_running"}, {"message", "Docker is installed but its engine isn't running."}}));
+    demo.world->dockerSource->state = DockerState::notInstalled();
+    EXPECT_EQ(service.dockerReport(),
+        (json{{"state", "not_installed"}, {"message", "Docker isn't installed (no docker command found)."}}));
+}
+
+TEST_F(ReportService, HistoryAndSpikesNeedAHistory)
+{
+    for (const auto& read : {std::function<void()>([&] { (void)service.history(HistoryRange::today); }),
+             std::function<void()>([&] { (void)service.spikes(24); })}) {
+        try {
+            read();
+            FAIL() << "expected a ReportError";
+        } catch (const ReportError& error) {
+            EXPECT_EQ(error.message(), "Vexel has no history yet. Open Vexel and leave it running.");
+        }
+    }
+    EXPECT_TRUE(folderState(folder.path()).empty());
+}
+
+TEST_F(ReportService, HistoryReadsTheRangeFromTheStore)
+{
+    writeHistory(folder.path() / "history.sqlite", demo.now);
+    const json today = service.history(HistoryRange::today);
+    EXPECT_EQ(today["range"], "today");
+    EXPECT_EQ(today["from"], "2026-11-18T00:00:00Z");
+    EXPECT_EQ(today["hours_sampled"], 6.0);
+    const double cpuAverage = (0.9 * spikeMinutes + 0.1 * (historyMinutes - spikeMinutes)) / historyMinutes;
+    EXPECT_EQ(today["cpu_avg_percent"], ReportValues::percent(cpuAverage));
+    EXPECT_EQ(today["cpu_peak_percent"], 95.0);
+    EXPECT_EQ(today["memory_avg_percent"], 50.0);
+    EXPECT_EQ(today["memory_peak_percent"], 55.0);
+    EXPECT_EQ(today["disk_written_bytes"], historyMinutes * 1'000'000ULL);
+    EXPECT_EQ(today["network_out_bytes"], historyMinutes * 100'000ULL);
+    const double chromeHours = (9.0 * spikeMinutes + 0.8 * (historyMinutes - spikeMinutes)) / 60;
+    EXPECT_EQ(today["busiest_apps"],
+        (json{{{"name", "Google Chrome"}, {"cpu_core_hours", ReportValues::rounded(chromeHours, 2)}},
+            {{"name", "node"}, {"cpu_core_hours", 1.2}}}));
+    EXPECT_TRUE(today["note"].is_string());
+    // The longer ranges see the same six hours, through their coarser tiers.
+    EXPECT_EQ(service.history(HistoryRange::year)["hours_sampled"], 6.0);
+}
+
+TEST_F(ReportService, SpikesLookBackTheirHours)
+{
+    writeHistory(folder.path() / "history.sqlite", demo.now);
+    const json day = service.spikes(24);
+    EXPECT_EQ(day["hours"], 24.0);
+    ASSERT_EQ(day["spikes"].size(), 1u);
+    const json spike = day["spikes"][0];
+    EXPECT_EQ(spike["kind"], "cpu");
+    EXPECT_EQ(spike["culprit"], "Google Chrome");
+    EXPECT_EQ(spike["minutes"], 20.0);
+    const double end = std::floor(demo.now / 60) * 60;
+    EXPECT_EQ(spike["start"], ReportValues::iso8601(end - spikeStartsMinutesAgo * 60));
+    EXPECT_FALSE(spike["summary"].get<std::string>().empty());
+    EXPECT_TRUE(service.spikes(1)["spikes"].empty()); // the last hour was calm
+    EXPECT_EQ(service.spikes(100)["spikes"].size(), 1u); // read from the ten-minute tier
+    // Beyond 35 days only hours are kept, and an hour's mean (37 %) hides a 20-minute spike.
+    EXPECT_TRUE(service.spikes(2000)["spikes"].empty());
+}
+
+TEST_F(ReportService, ReadingHistoryLeavesTheDataFolderAsItWas)
+{
+    const auto file = folder.path() / "history.sqlite";
+    writeHistory(file, demo.now);
+    const auto before = folderState(folder.path());
+    ASSERT_EQ(before.size(), 1u); // the writer closed cleanly: no log beside the file
+    (void)service.history(HistoryRange::week);
+    (void)service.spikes(24);
+    (void)service.status();
+    EXPECT_EQ(folderState(folder.path()), before);
+
+    // While the app writes, its log holds rows the database file does not yet
+    // have; the reader sees them without touching the log or its index.
+    HistoryStore writer(file, false);
+    SysPoint late;
+    late.t = std::floor(demo.now / 60) * 60 + 10; // in the minute not yet rolled up
+    late.dur = 30;
+    late.diskW = 7;
+    writer.insert(HistoryTier::raw, late, {});
+    const auto whileWriting = folderState(folder.path());
+    ASSERT_TRUE(whileWriting.contains((folder.path() / "history.sqlite-wal").string()));
+    DemoService reader(folder.path());
+    EXPECT_EQ(reader.service.status()["today"]["disk_written_bytes"], historyMinutes * 1'000'000ULL + 7);
+    EXPECT_EQ(folderState(folder.path()), whileWriting);
+}
+
+TEST(ReportServiceLinux, TextsNameTheComputer)
+{
+    TempFolder folder("vexel-reports");
+    auto world = warmDemoWorld();
+    VexelService service(
+        VexelPaths(folder.path()), TimeZone::fixed(0), [&] { return world->now(); },
+        [&] { return world->advancingMonitor(1); }, false, Platform::linux);
+    const json status = service.status();
+    EXPECT_EQ(status["not_measured"].get<std::string>().find("macOS"), std::string::npos);
+    EXPECT_EQ(service.portsReport()["note"],
+        "Your own processes only; Linux doesn't say which process holds another user's socket without admin rights.");
+}
