@@ -60,7 +60,7 @@ std::string appText(const json& report)
         + Fmt::memory(byteCount(report, "memory_bytes"))};
     for (const auto& process : list(report, "process_list")) {
         std::string line = cell(cformat("%.0f", number(process, "pid").value_or(0)), 9, Align::right) + "  "
-            + cell(text(process, "name").value_or(""), 28)
+            + cell(text(process, "name").value_or(""), 34)
             + cell(cformat("%.1f%%", number(process, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
             + cell(Fmt::memory(byteCount(process, "memory_bytes")), 11, Align::right);
         if (flag(process, "zombie").value_or(false))
