@@ -12,6 +12,8 @@ packages=(
   fonts-inter pci.ids
   # the tools Vexel runs: ss (iproute2) and lsof for listening ports, ps for tests
   iproute2 lsof procps python3
+  # the read-only check watches a whole session under strace
+  strace
   # tests, benchmarks, fuzzing and formatting
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
 )

@@ -1,0 +1,300 @@
+// The real `vexel` binary on this machine, with data folders of the tests' own.
+
+#include "io/Files.h"
+#include "support/RunTool.h"
+#include "support/TempFolder.h"
+#include "support/TraceLog.h"
+#include "text/TextScan.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sqlite3.h>
+
+#include <arpa/inet.h>
+#include <cmath>
+#include <ctime>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace vexel;
+using namespace vexel::testing;
+using nlohmann::json;
+
+namespace {
+
+const std::string vexelBinary = std::string(VEXEL_BINARY_DIR) + "/src/vexel";
+
+ToolResult vexelIn(const std::filesystem::path& data, std::vector<std::string> args, const std::string& input = "")
+{
+    args.insert(args.begin(), vexelBinary);
+    return runTool(args, {{{"VEXEL_DATA_DIR", data.string()}}, input});
+}
+
+json jsonOf(const ToolResult& result)
+{
+    const json parsed = json::parse(result.out, nullptr, false);
+    EXPECT_FALSE(parsed.is_discarded()) << result.out << result.err;
+    return parsed;
+}
+
+uint64_t memTotalBytes()
+{
+    uint64_t total = 0;
+    TextScan::forEachLine(Files::read("/proc/meminfo").value_or(""), [&](std::string_view line) {
+        const auto words = TextScan::words(line);
+        if (words.size() >= 2 && words[0] == "MemTotal:")
+            total = TextScan::toU64(words[1]).value_or(0) * 1024;
+    });
+    return total;
+}
+
+size_t coreCount()
+{
+    size_t cores = 0;
+    TextScan::forEachLine(Files::read("/proc/stat").value_or(""), [&](std::string_view line) {
+        cores += line.size() > 3 && line.starts_with("cpu") && line[3] >= '0' && line[3] <= '9' ? 1 : 0;
+    });
+    return cores;
+}
+
+size_t processCount()
+{
+    size_t count = 0;
+    for (const auto& name : Files::list("/proc"))
+        count += TextScan::toU64(name) ? 1 : 0;
+    return count;
+}
+
+// A listening socket on a free loopback port, closed with the value.
+class Listener {
+public:
+    Listener()
+    {
+        m_fd = ::socket(AF_INET, SOCK_STREAM, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        if (::bind(m_fd, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 && ::listen(m_fd, 4) == 0
+            && ::getsockname(m_fd, reinterpret_cast<sockaddr*>(&address), &length) == 0)
+            m_port = ntohs(address.sin_port);
+    }
+    ~Listener() { ::close(m_fd); }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    [[nodiscard]] int port() const { return m_port; }
+
+private:
+    int m_fd = -1;
+    int m_port = 0;
+};
+
+void run(sqlite3* db, const std::string& sql)
+{
+    char* error = nullptr;
+    ASSERT_EQ(::sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &error), SQLITE_OK) << (error ? error : "") << sql;
+}
+
+// Two hours of one-minute raw samples ending now, written straight with SQL
+// in the file format the app keeps: calm at 5 % CPU, with a 15-minute spike at
+// 92 % half an hour ago in which "Busy Builder" ran 10 cores.
+void writeHistoryFile(const std::filesystem::path& file, double now)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(::sqlite3_open(file.c_str(), &db), SQLITE_OK);
+    run(db, "PRAGMA journal_mode=WAL");
+    run(db,
+        "CREATE TABLE sys(tier INTEGER NOT NULL, t REAL NOT NULL, dur REAL NOT NULL, cpu REAL, cpu_max REAL, "
+        "mem REAL, mem_max REAL, pressure INTEGER, swap REAL, disk_r REAL, disk_w REAL, net_in REAL, net_out "
+        "REAL, gpu REAL, gpu_max REAL, power REAL, battery REAL, thermal INTEGER, PRIMARY KEY(tier, t)) WITHOUT "
+        "ROWID;"
+        "CREATE TABLE apps(tier INTEGER NOT NULL, t REAL NOT NULL, app TEXT NOT NULL, name TEXT NOT NULL, dur "
+        "REAL, cpu REAL, cpu_max REAL, mem REAL, energy REAL, disk REAL, net REAL, PRIMARY KEY(tier, t, app)) "
+        "WITHOUT ROWID;"
+        "CREATE TABLE meta(key TEXT PRIMARY KEY, value TEXT);"
+        "INSERT INTO meta VALUES('schema', '1');");
+    run(db, "BEGIN");
+    const double end = std::floor(now / 60) * 60;
+    for (int ago = 120; ago >= 1; --ago) {
+        const double t = end - ago * 60.0;
+        const bool spike = ago <= 30 && ago > 15;
+        const std::string cpu = spike ? "0.92" : "0.05";
+        run(db,
+            "INSERT INTO sys VALUES(0, " + std::to_string(t) + ", 60, " + cpu + ", " + cpu
+                + ", 0.4, 0.4, 0, 0, 1000, 2000, 3000, 4000, NULL, NULL, NULL, NULL, 0)");
+        run(db,
+            "INSERT INTO apps VALUES(0, " + std::to_string(t) + ", 'tool:builder', 'Busy Builder', 60, "
+                + (spike ? "10" : "0.1") + ", 10, 1e8, 0, 0, 0)");
+    }
+    run(db, "COMMIT");
+    ASSERT_EQ(::sqlite3_close(db), SQLITE_OK);
+}
+
+} // namespace
+
+TEST(CliLive, StatusAgreesWithProc)
+{
+    TempFolder data("vexel-live");
+    const size_t processesBefore = processCount();
+    const json status = jsonOf(vexelIn(data.path(), {"status", "--json"}));
+    const size_t processesAfter = processCount();
+    EXPECT_EQ(status["memory"]["total_bytes"].get<uint64_t>(), memTotalBytes());
+    EXPECT_EQ(status["cpu"]["cores"].get<size_t>(), coreCount());
+    EXPECT_EQ(status["cpu"]["per_core_percent"].size(), coreCount());
+    const auto seen = status["processes"]["count"].get<size_t>();
+    EXPECT_GE(seen + 10, std::min(processesBefore, processesAfter));
+    EXPECT_LE(seen, std::max(processesBefore, processesAfter) + 10);
+    EXPECT_GT(status["processes"]["apps"].get<size_t>(), 0u);
+    EXPECT_FALSE(status.contains("today")); // no history in a new data folder
+    EXPECT_EQ(status["not_measured"].get<std::string>().find("macOS"), std::string::npos);
+    const auto table = vexelIn(data.path(), {});
+    EXPECT_EQ(table.status, 0);
+    EXPECT_EQ(table.out.rfind("CPU       ", 0), 0u) << table.out;
+}
+
+TEST(CliLive, PortsListAListenerTheTestOpened)
+{
+    TempFolder data("vexel-live");
+    const Listener listener;
+    ASSERT_GT(listener.port(), 0);
+    const json ports = jsonOf(vexelIn(data.path(), {"ports", "--json"}));
+    const auto& listening = ports["listening"];
+    const auto mine = std::find_if(listening.begin(), listening.end(),
+        [&](const json& entry) { return entry["port"] == listener.port() && entry["pid"] == ::getpid(); });
+    ASSERT_NE(mine, listening.end()) << ports.dump(1);
+    EXPECT_EQ((*mine)["address"], "127.0.0.1");
+    EXPECT_EQ((*mine)["family"], "IPv4");
+    EXPECT_EQ((*mine)["reachable_from_network"], false);
+    EXPECT_EQ((*mine)["process"], "test_live");
+    const auto table = vexelIn(data.path(), {"ports"});
+    EXPECT_NE(table.out.find(std::to_string(listener.port()) + " "), std::string::npos) << table.out;
+}
+
+TEST(CliLive, HistoryAndSpikesReadAFileInTheAppsFormat)
+{
+    TempFolder data("vexel-live");
+    writeHistoryFile(data.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
+    const json history = jsonOf(vexelIn(data.path(), {"history", "--json"}));
+    // Samples from before midnight are not today's.
+    EXPECT_GT(history["hours_sampled"].get<double>(), 0.0);
+    EXPECT_LE(history["hours_sampled"].get<double>(), 2.0);
+    const json week = jsonOf(vexelIn(data.path(), {"history", "week", "--json"}));
+    EXPECT_EQ(week["hours_sampled"], 2.0);
+    EXPECT_EQ(week["cpu_peak_percent"], 92.0);
+    EXPECT_EQ(week["disk_written_bytes"], 120 * 2000);
+    EXPECT_EQ(week["busiest_apps"][0]["name"], "Busy Builder");
+    const json spikes = jsonOf(vexelIn(data.path(), {"spikes", "--json"}));
+    ASSERT_EQ(spikes["spikes"].size(), 1u) << spikes.dump(1);
+    EXPECT_EQ(spikes["spikes"][0]["kind"], "cpu");
+    EXPECT_EQ(spikes["spikes"][0]["culprit"], "Busy Builder");
+    EXPECT_EQ(spikes["spikes"][0]["minutes"], 15.0);
+    const auto none = vexelIn(data.path(), {"spikes", "--hours", "0.2"});
+    EXPECT_EQ(none.out, "Nothing unusual in the last 0.2 hours.\n");
+}
+
+TEST(CliLive, EveryCommandLeavesTheDataFolderUntouched)
+{
+    TempFolder data("vexel-live");
+    std::filesystem::create_directories(data.path() / "sub");
+    writeHistoryFile(data.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
+    const auto before = folderState(data.path());
+    const std::vector<std::vector<std::string>> commands{{"status"}, {"top", "--json"}, {"apps"}, {"app", "Kernel"},
+        {"ports"}, {"servers", "--json"}, {"docker"}, {"history", "year"}, {"spikes", "--hours", "840"}, {"help"},
+        {"stop", "node"}, {"nonsense"}};
+    for (const auto& command : commands)
+        (void)vexelIn(data.path(), command);
+    (void)vexelIn(data.path(), {"mcp"},
+        R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":"history","arguments":{"range":"week"}}})"
+        "\n");
+    EXPECT_EQ(folderState(data.path()), before);
+
+    const auto missing = data.path() / "never-made";
+    EXPECT_EQ(vexelIn(missing, {"history"}).status, 1);
+    EXPECT_EQ(vexelIn(missing, {"status"}).status, 0);
+    EXPECT_FALSE(std::filesystem::exists(missing));
+}
+
+TEST(CliLive, ExitStatusesAndStreams)
+{
+    TempFolder data("vexel-live");
+    const auto help = vexelIn(data.path(), {"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.out.substr(0, help.out.find('\n')),
+        "vexel \u2014 what your computer is doing, from the Vexel app (read-only).");
+    EXPECT_EQ(help.out.back(), '\n');
+    EXPECT_TRUE(help.err.empty());
+    const auto version = vexelIn(data.path(), {"--version"});
+    EXPECT_EQ(version.out, "vexel 1.0\n");
+    const auto usage = vexelIn(data.path(), {"top", "--sort", "CPU"});
+    EXPECT_EQ(usage.status, 2);
+    EXPECT_TRUE(usage.out.empty());
+    EXPECT_EQ(usage.err, "Unknown sort \"CPU\". Use cpu, memory, energy, disk or network.\n");
+    const auto failed = vexelIn(data.path(), {"history"});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(failed.err, "Vexel has no history yet. Open Vexel and leave it running.\n");
+    // "--mcp" anywhere wins over the command line; the server ends with its input.
+    const auto mcp = vexelIn(data.path(), {"status", "--mcp"},
+        R"({"jsonrpc":"2.0","id":1,"method":"ping"})"
+        "\n");
+    EXPECT_EQ(mcp.status, 0);
+    EXPECT_EQ(mcp.out, "{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":{}}\n");
+    EXPECT_TRUE(mcp.err.empty());
+}
+
+TEST(TraceLog, TellsTheProgramFromTheToolsItRuns)
+{
+    const std::string log = "100 execve(\"/x/vexel\", [\"vexel\"], 0x1 /* 3 vars */) = 0\n"
+                            "100 openat(AT_FDCWD, \"/proc/stat\", O_RDONLY) = 3\n"
+                            "100 clone3({flags=CLONE_VM|CLONE_VFORK, exit_signal=SIGCHLD}, 88 <unfinished ...>\n"
+                            "101 openat(AT_FDCWD, \"/dev/null\", O_WRONLY) = 2\n"
+                            "101 execve(\"/usr/bin/docker\", [\"docker\"], 0x2 /* 3 vars */ <unfinished ...>\n"
+                            "100 <... clone3 resumed>) = 101\n"
+                            "101 clone(child_stack=0x7, flags=CLONE_VM|CLONE_THREAD) = 102\n"
+                            "102 tgkill(101, 101, SIGURG) = 0\n"
+                            "100 clone3({flags=CLONE_VM|CLONE_THREAD}, 88) = 103\n"
+                            "103 openat(AT_FDCWD, \"/tmp/x\", O_WRONLY|O_CREAT|O_TRUNC, 0644) = 4\n"
+                            "100 kill(-101, SIGTERM) = 0\n";
+    const auto findings = readTrace(log, "/x/vexel");
+    EXPECT_EQ(findings.opens, 3u);
+    EXPECT_EQ(findings.signalsSent, std::vector<std::string>{"100 kill(-101, SIGTERM) = 0"});
+    EXPECT_EQ(findings.writeOpens,
+        std::vector<std::string>{"103 openat(AT_FDCWD, \"/tmp/x\", O_WRONLY|O_CREAT|O_TRUNC, 0644) = 4"});
+}
+
+// Read-only by construction, watched from outside: a whole command-line and
+// MCP session under strace sends no signal and opens no file for writing.
+TEST(CliLive, ASessionSendsNoSignalAndWritesNoFile)
+{
+    TempFolder data("vexel-live");
+    TempFolder logs("vexel-trace");
+    writeHistoryFile(data.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
+    std::string requests = R"({"jsonrpc":"2.0","id":0,"method":"initialize","params":{"protocolVersion":"2025-06-18"}})"
+                           "\n";
+    int id = 1;
+    for (const char* tool :
+        {"system_status", "top_apps", "history", "spikes", "dev_servers", "listening_ports", "docker_containers"})
+        requests += R"({"jsonrpc":"2.0","id":)" + std::to_string(id++) + R"(,"method":"tools/call","params":{"name":")"
+            + tool + "\"}}\n";
+    requests
+        += R"({"jsonrpc":"2.0","id":99,"method":"tools/call","params":{"name":"app_processes","arguments":{"name":"Kernel"}}})"
+           "\n";
+    const std::vector<std::vector<std::string>> sessions{
+        {"status"}, {"apps", "--json"}, {"servers"}, {"docker"}, {"ports"}, {"history", "week"}, {"spikes"}, {"mcp"}};
+    for (size_t i = 0; i < sessions.size(); ++i) {
+        const auto log = logs.path() / ("trace-" + std::to_string(i));
+        std::vector<std::string> argv{"strace", "-f", "-qq", "-o", log.string(), "-e",
+            "trace=kill,tgkill,tkill,openat,execve,clone,clone3,fork,vfork", vexelBinary};
+        argv.insert(argv.end(), sessions[i].begin(), sessions[i].end());
+        const auto result
+            = runTool(argv, {{{"VEXEL_DATA_DIR", data.path().string()}}, sessions[i][0] == "mcp" ? requests : ""});
+        ASSERT_EQ(result.status, 0) << sessions[i][0] << result.err;
+        const auto findings = readTrace(Files::read(log.string(), 64 << 20).value_or(""), vexelBinary);
+        EXPECT_GT(findings.opens, 3u) << sessions[i][0]; // the log was read
+        EXPECT_TRUE(findings.signalsSent.empty()) << sessions[i][0] << ": " << findings.signalsSent.front();
+        EXPECT_TRUE(findings.writeOpens.empty()) << sessions[i][0] << ": " << findings.writeOpens.front();
+        if (sessions[i][0] == "mcp") {
+            EXPECT_EQ(std::count(result.out.begin(), result.out.end(), '\n'), id + 1);
+        }
+    }
+}
