@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds everything with warnings as errors and runs
-# every test: the CTest suites, then each fuzz target over its seeds and a
-# short run of new inputs.
+# Sets up what is missing (Debian packages, the npm MCP clients), builds
+# everything with warnings as errors and runs every test: the CTest suites
+# (the MCP client tests among them), then each fuzz target over its seeds and
+# a short run of new inputs.
 #   --sanitize   build and test in build-asan with ASan + UBSan instead
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -20,6 +21,7 @@ if [[ "${1:-}" == "--sanitize" ]]; then
 fi
 
 scripts/install-deps.sh
+scripts/install-mcp-clients.sh
 cmake -S . -B "$build" -G Ninja "${options[@]}" >/dev/null
 cmake --build "$build"
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
