@@ -39,9 +39,10 @@ std::optional<long long> parseInteger(const std::string& text)
         const char c = text[at];
         if (c < '0' || c > '9')
             return std::nullopt;
-        magnitude = magnitude * 10 + static_cast<unsigned long long>(c - '0');
-        if (magnitude > most + 1)
+        const auto digit = static_cast<unsigned long long>(c - '0');
+        if (magnitude > (most + 1 - digit) / 10) // checked before multiplying: the sum must not wrap
             return std::nullopt;
+        magnitude = magnitude * 10 + digit;
     }
     if (!negative && magnitude > most)
         return std::nullopt;

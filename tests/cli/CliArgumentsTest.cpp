@@ -25,7 +25,8 @@ TEST(CliArguments, IntegersAreStrictNumbersFollowStrtod)
     EXPECT_EQ(parseInteger("+4"), 4);
     EXPECT_EQ(parseInteger("9223372036854775807"), INT64_MAX);
     EXPECT_EQ(parseInteger("-9223372036854775808"), INT64_MIN);
-    for (const char* bad : {"", "-", "+", "ten", "3.0", " 3", "3 ", "0x10", "9223372036854775808", "1e3", "--3"})
+    for (const char* bad : {"", "-", "+", "ten", "3.0", " 3", "3 ", "0x10", "9223372036854775808", "1e3", "--3",
+             "44444444444444444444" /* wrapped round 2^64 once: found by the fuzzer */})
         EXPECT_FALSE(parseInteger(bad)) << bad;
     using Arguments::parseNumber;
     EXPECT_EQ(parseNumber("2.5"), 2.5);
