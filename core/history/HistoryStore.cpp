@@ -47,7 +47,7 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     if (!readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());
     sqlite3* handle = nullptr;
-    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle)
+    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle, busyMilliseconds)
                                 : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
     if (result != SQLITE_OK) {
         const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
@@ -58,6 +58,10 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     ::sqlite3_busy_timeout(handle, busyMilliseconds);
     if (readOnly)
         return;
+    // The log and its index stay when the last writer closes, so that readers,
+    // which open nothing for writing, can always read through them.
+    int persist = 1;
+    ::sqlite3_file_control(handle, "main", SQLITE_FCNTL_PERSIST_WAL, &persist);
     m_db.exec("PRAGMA auto_vacuum=INCREMENTAL");
     m_db.exec("PRAGMA journal_mode=WAL");
     m_db.exec("PRAGMA synchronous=NORMAL");

@@ -2,7 +2,9 @@
 
 #include "format/CFormat.h"
 
+#include <chrono>
 #include <string>
+#include <thread>
 
 namespace vexel::Sqlite {
 
@@ -46,10 +48,32 @@ int open(const std::string& uri, sqlite3** handle)
     return ::sqlite3_open_v2(uri.c_str(), handle, flags, vfsName);
 }
 
-// A connection that can read its first page: opening alone checks nothing.
-bool readable(sqlite3* handle)
+// While a writer starts it may be recovering its log, which a reader that
+// cannot write the index waits out ("readonly" answers), as it waits out locks.
+bool transient(int result)
 {
-    return ::sqlite3_exec(handle, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr) == SQLITE_OK;
+    const int primary = result & 0xff;
+    return primary == SQLITE_BUSY || primary == SQLITE_LOCKED || primary == SQLITE_READONLY;
+}
+
+int openThroughLog(const std::string& uri, sqlite3** handle, int busyMilliseconds)
+{
+    constexpr int pauseMilliseconds = 5;
+    for (int waited = 0;; waited += pauseMilliseconds) {
+        int result = open(uri + "?readonly_shm=1", handle);
+        if (result == SQLITE_OK) {
+            ::sqlite3_extended_result_codes(*handle, 1);
+            ::sqlite3_busy_timeout(*handle, busyMilliseconds);
+            result = ::sqlite3_exec(*handle, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+            if (result == SQLITE_OK)
+                return SQLITE_OK;
+        }
+        if (!transient(result) || waited >= busyMilliseconds)
+            return result;
+        ::sqlite3_close(*handle);
+        *handle = nullptr;
+        std::this_thread::sleep_for(std::chrono::milliseconds(pauseMilliseconds));
+    }
 }
 
 } // namespace
@@ -67,19 +91,20 @@ std::string fileURI(const std::filesystem::path& file)
     return uri;
 }
 
-int openReadOnly(const std::filesystem::path& file, sqlite3** handle)
+int openReadOnly(const std::filesystem::path& file, sqlite3** handle, int busyMilliseconds)
 {
     registerVfs();
     const std::string uri = fileURI(file);
     if (!present(file))
         return SQLITE_CANTOPEN;
-    const bool writerFiles = present(file.string() + "-wal") && present(file.string() + "-shm");
-    if (writerFiles) {
-        const int result = open(uri + "?readonly_shm=1", handle);
-        if (result == SQLITE_OK && readable(*handle))
-            return SQLITE_OK;
-        // The app closed the file between the look and the open, taking its
-        // log with it: what it wrote is in the database file now.
+    const std::string log = file.string() + "-wal";
+    const std::string index = file.string() + "-shm";
+    if (present(log) && present(index)) {
+        const int result = openThroughLog(uri, handle, busyMilliseconds);
+        if (result == SQLITE_OK || (present(log) && present(index)))
+            return result;
+        // The files went between the look and the open (removed by hand or
+        // by an older writer): what was committed is in the database file.
         ::sqlite3_close(*handle);
         *handle = nullptr;
     }
