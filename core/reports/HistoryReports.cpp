@@ -1,8 +1,10 @@
+#include "history/Downsample.h"
 #include "reports/ReportValues.h"
 #include "reports/VexelService.h"
 #include "spikes/SpikeFinder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 namespace vexel {
@@ -23,35 +25,6 @@ HistoryTier spikeTier(double hours)
     if (hours <= 840)
         return HistoryTier::tenMinutes;
     return HistoryTier::hour;
-}
-
-struct SysSummary {
-    double seconds = 0;
-    double cpuWeighted = 0;
-    double memWeighted = 0;
-    double cpuPeak = 0;
-    double memPeak = 0;
-    double diskR = 0;
-    double diskW = 0;
-    double netIn = 0;
-    double netOut = 0;
-};
-
-SysSummary summarise(const std::vector<SysPoint>& points)
-{
-    SysSummary sum;
-    for (const auto& point : points) {
-        sum.seconds += point.dur;
-        sum.cpuWeighted += point.cpu * point.dur;
-        sum.memWeighted += point.mem * point.dur;
-        sum.cpuPeak = std::max(sum.cpuPeak, point.cpuMax);
-        sum.memPeak = std::max(sum.memPeak, point.memMax);
-        sum.diskR += point.diskR;
-        sum.diskW += point.diskW;
-        sum.netIn += point.netIn;
-        sum.netOut += point.netOut;
-    }
-    return sum;
 }
 
 // The apps with the most core-hours, highest first, named by their latest point.
@@ -101,14 +74,13 @@ json VexelService::history(HistoryRange range)
     const auto store = requireStore();
     const double to = m_now();
     const double from = start(range, to, m_calendar);
-    const SysSummary sum = summarise(store->series(tier(range), from, to));
-    const double hours = sum.seconds / 3600;
-    const auto average = [&](double weighted) { return sum.seconds > 0 ? percent(weighted / sum.seconds) : 0.0; };
-    return {{"range", rawValue(range)}, {"from", iso8601(from)}, {"hours_sampled", rounded(hours, 2)},
-        {"cpu_avg_percent", average(sum.cpuWeighted)}, {"cpu_peak_percent", percent(sum.cpuPeak)},
-        {"memory_avg_percent", average(sum.memWeighted)}, {"memory_peak_percent", percent(sum.memPeak)},
-        {"disk_written_bytes", wholeBytes(sum.diskW)}, {"disk_read_bytes", wholeBytes(sum.diskR)},
-        {"network_in_bytes", wholeBytes(sum.netIn)}, {"network_out_bytes", wholeBytes(sum.netOut)},
+    // The whole range as one point: time-weighted means, peaks and byte sums.
+    const SysPoint whole = Downsample::rollup(store->series(tier(range), from, to), from, 0);
+    return {{"range", rawValue(range)}, {"from", iso8601(from)}, {"hours_sampled", rounded(whole.dur / 3600, 2)},
+        {"cpu_avg_percent", percent(whole.cpu)}, {"cpu_peak_percent", percent(whole.cpuMax)},
+        {"memory_avg_percent", percent(whole.mem)}, {"memory_peak_percent", percent(whole.memMax)},
+        {"disk_written_bytes", wholeBytes(whole.diskW)}, {"disk_read_bytes", wholeBytes(whole.diskR)},
+        {"network_in_bytes", wholeBytes(whole.netIn)}, {"network_out_bytes", wholeBytes(whole.netOut)},
         {"busiest_apps", busiestApps(store->appSeries(tier(range), from, to))},
         {"note",
             "CPU is the share of the whole machine; averages weigh each sample by its length. Busiest apps are "
@@ -117,6 +89,8 @@ json VexelService::history(HistoryRange range)
 
 json VexelService::spikes(double hours)
 {
+    if (!std::isfinite(hours)) // "nan" and "inf" read as numbers, but name no look-back
+        hours = 24;
     const auto store = requireStore();
     const double to = m_now();
     const double from = to - hours * 3600;

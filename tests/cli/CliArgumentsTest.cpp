@@ -126,6 +126,7 @@ TEST_F(CliOnDemoWorld, AppHistoryAndSpikesArguments)
         run({"spikes", "--hours", "1.5"}).out, std::vector<std::string>{"Nothing unusual in the last 1.5 hours."});
     EXPECT_EQ(run({"--hours", "1", "spikes"}).out, std::vector<std::string>{"Nothing unusual in the last 1 hours."});
     EXPECT_EQ(run({"spikes", "--hours", "x"}).out, run({"spikes"}).out); // back to 24 hours
+    EXPECT_EQ(run({"spikes", "--hours", "nan", "--json"}).out, run({"spikes", "--json"}).out);
     EXPECT_EQ(run({"spikes"}).out.size(), 1u);
     EXPECT_NE(run({"spikes"}).out.at(0).find("Google Chrome"), std::string::npos);
 
