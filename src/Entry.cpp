@@ -2,10 +2,12 @@
 
 #include "cli/VexelCLI.h"
 #include "io/Files.h"
+#include "io/Output.h"
 #include "mcp/MCPServer.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <csignal>
+#include <unistd.h>
 
 namespace vexel {
 
@@ -16,11 +18,10 @@ VexelService standardService()
     return VexelService(VexelPaths::standard());
 }
 
-void writeLine(std::FILE* stream, const std::string& text)
+// One line as one write, as a reader of a pipe wants it.
+void writeLine(int fd, const std::string& text)
 {
-    const std::string line = text + "\n";
-    std::fwrite(line.data(), 1, line.size(), stream);
-    std::fflush(stream);
+    Output::writeAll(fd, text + "\n");
 }
 
 } // namespace
@@ -53,6 +54,8 @@ int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
         return desktop(args);
     VexelService service = standardService();
     if (chosen.role == Role::mcp) {
+        // A client that goes away mid-answer ends the answer, not the server.
+        std::signal(SIGPIPE, SIG_IGN);
         MCPServer server(service);
         if (chosen.versionFromProgram)
             server.version = programVersion();
@@ -60,8 +63,8 @@ int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
         return 0;
     }
     return VexelCLI::run(
-        chosen.rest, service, programVersion(), [](const std::string& line) { writeLine(stdout, line); },
-        [](const std::string& line) { writeLine(stderr, line); });
+        chosen.rest, service, programVersion(), [](const std::string& line) { writeLine(STDOUT_FILENO, line); },
+        [](const std::string& line) { writeLine(STDERR_FILENO, line); });
 }
 
 } // namespace vexel

@@ -1,10 +1,10 @@
 #include "mcp/MCPServer.h"
 
+#include "io/Output.h"
 #include "mcp/MCPTools.h"
 #include "text/TextScan.h"
 
 #include <exception>
-#include <unistd.h>
 
 namespace vexel {
 
@@ -41,21 +41,6 @@ std::string instructions(Platform platform)
           "should be stopped, tell the user and let them do it in Vexel (it asks first).";
 }
 
-// Writes all of `text` with as few writes as the pipe allows (one, normally).
-void writeAll(std::FILE* output, const std::string& text)
-{
-    const int fd = ::fileno(output);
-    size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t written = ::write(fd, text.data() + done, text.size() - done);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return;
-        done += static_cast<size_t>(written);
-    }
-}
-
 // One line of input without its newline; false at the end of input.
 bool readLine(std::FILE* input, std::string& line)
 {
@@ -87,7 +72,7 @@ void MCPServer::runStdio(std::FILE* input, std::FILE* output)
     std::string line;
     while (readLine(input, line)) {
         if (const auto answer = handle(line))
-            writeAll(output, *answer + "\n");
+            Output::writeAll(::fileno(output), *answer + "\n");
     }
 }
 
