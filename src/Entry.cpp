@@ -13,11 +13,6 @@ namespace vexel {
 
 namespace {
 
-VexelService standardService()
-{
-    return VexelService(VexelPaths::standard());
-}
-
 // One line as one write, as a reader of a pipe wants it.
 void writeLine(int fd, const std::string& text)
 {
@@ -52,7 +47,7 @@ int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
     const Dispatch chosen = dispatch(args);
     if (chosen.role == Role::desktop)
         return desktop(args);
-    VexelService service = standardService();
+    VexelService service(VexelPaths::standard());
     if (chosen.role == Role::mcp) {
         // A client that goes away mid-answer ends the answer, not the server.
         std::signal(SIGPIPE, SIG_IGN);

@@ -15,12 +15,6 @@ using namespace ReportFields;
 using TextColumns::Align;
 using TextColumns::cell;
 
-uint64_t byteCount(const json& object, const char* key)
-{
-    const double value = number(object, key).value_or(0);
-    return value > 0 ? static_cast<uint64_t>(value) : 0;
-}
-
 std::string energyCell(const json& app)
 {
     const auto watts = number(app, "energy_watts");

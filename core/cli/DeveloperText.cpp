@@ -93,11 +93,11 @@ std::string dockerText(const json& report)
         + cell("CPU", 8, Align::right) + cell("MEMORY", 11, Align::right) + "  PORTS"};
     for (const auto& container : containers) {
         const auto cpu = number(container, "cpu_percent");
-        const auto memory = number(container, "memory_bytes");
+        const bool measured = number(container, "memory_bytes").has_value();
         lines.push_back(cell(text(container, "name").value_or(""), 22) + cell(text(container, "image").value_or(""), 26)
             + cell(text(container, "state").value_or(""), 10)
             + cell(cpu ? cformat("%.1f%%", *cpu) : "", 8, Align::right)
-            + cell(memory ? Fmt::memory(static_cast<uint64_t>(*memory)) : "", 11, Align::right) + "  "
+            + cell(measured ? Fmt::memory(byteCount(container, "memory_bytes")) : "", 11, Align::right) + "  "
             + text(container, "ports").value_or(""));
     }
     return TextColumns::joinLines(lines);

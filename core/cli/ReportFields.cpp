@@ -18,6 +18,12 @@ std::optional<double> number(const json& object, const char* key)
     return value != nullptr && value->is_number() ? std::optional(value->get<double>()) : std::nullopt;
 }
 
+uint64_t byteCount(const json& object, const char* key)
+{
+    const double value = number(object, key).value_or(0);
+    return value > 0 ? static_cast<uint64_t>(value) : 0;
+}
+
 std::optional<std::string> text(const json& object, const char* key)
 {
     const json* value = field(object, key);

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -13,6 +14,8 @@ namespace vexel::ReportFields {
 // The value under `key` when `object` is an object holding it.
 [[nodiscard]] const nlohmann::json* field(const nlohmann::json& object, const char* key);
 [[nodiscard]] std::optional<double> number(const nlohmann::json& object, const char* key);
+// A byte count: the number under `key` as a whole, unsigned count; 0 when missing or negative.
+[[nodiscard]] uint64_t byteCount(const nlohmann::json& object, const char* key);
 [[nodiscard]] std::optional<std::string> text(const nlohmann::json& object, const char* key);
 [[nodiscard]] std::optional<bool> flag(const nlohmann::json& object, const char* key);
 // The array under `key`; an empty array when there is none.

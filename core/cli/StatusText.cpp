@@ -16,11 +16,6 @@ using namespace ReportFields;
 
 constexpr size_t labelWidth = 10;
 
-uint64_t byteCount(double value)
-{
-    return value > 0 ? static_cast<uint64_t>(value) : 0;
-}
-
 std::string labelled(const char* label, const std::string& content)
 {
     return TextColumns::cell(label, labelWidth) + content;
@@ -48,9 +43,9 @@ std::optional<std::string> memoryLine(const json& report)
     const auto total = memory ? number(*memory, "total_bytes") : std::nullopt;
     if (!used || !total)
         return std::nullopt;
-    return Fmt::memory(byteCount(*used)) + " of " + Fmt::memory(byteCount(*total)) + "  pressure "
-        + text(*memory, "pressure").value_or("?") + "  swap "
-        + Fmt::memory(byteCount(number(*memory, "swap_bytes").value_or(0)));
+    return Fmt::memory(byteCount(*memory, "used_bytes")) + " of " + Fmt::memory(byteCount(*memory, "total_bytes"))
+        + "  pressure " + text(*memory, "pressure").value_or("?") + "  swap "
+        + Fmt::memory(byteCount(*memory, "swap_bytes"));
 }
 
 std::optional<std::string> diskLine(const json& report)

@@ -1,6 +1,7 @@
 #include "history/ReadOnlyOpen.h"
 
 #include "format/CFormat.h"
+#include "io/Files.h"
 
 #include <chrono>
 #include <string>
@@ -34,12 +35,6 @@ void registerVfs()
         return ::sqlite3_vfs_register(&layer, 0) == SQLITE_OK;
     }();
     (void)registered;
-}
-
-bool present(const std::filesystem::path& file)
-{
-    std::error_code error;
-    return std::filesystem::exists(file, error);
 }
 
 int open(const std::string& uri, sqlite3** handle)
@@ -95,13 +90,13 @@ int openReadOnly(const std::filesystem::path& file, sqlite3** handle, int busyMi
 {
     registerVfs();
     const std::string uri = fileURI(file);
-    if (!present(file))
+    if (!Files::exists(file.string()))
         return SQLITE_CANTOPEN;
     const std::string log = file.string() + "-wal";
     const std::string index = file.string() + "-shm";
-    if (present(log) && present(index)) {
+    if (Files::exists(log) && Files::exists(index)) {
         const int result = openThroughLog(uri, handle, busyMilliseconds);
-        if (result == SQLITE_OK || (present(log) && present(index)))
+        if (result == SQLITE_OK || (Files::exists(log) && Files::exists(index)))
             return result;
         // The files went between the look and the open (removed by hand or
         // by an older writer): what was committed is in the database file.

@@ -3,19 +3,14 @@
 #include "reports/ReportError.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
-#include <string_view>
 
 namespace vexel::MCPTools {
 
 namespace {
 
 using nlohmann::json;
-
-constexpr std::array<std::string_view, 8> names{"system_status", "top_apps", "app_processes", "history", "spikes",
-    "dev_servers", "listening_ports", "docker_containers"};
 
 json schema(json properties, json required)
 {
@@ -107,7 +102,8 @@ json table(Platform platform)
 
 bool known(const std::string& name)
 {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    const json tools = table(Platform::macOS);
+    return std::any_of(tools.begin(), tools.end(), [&](const json& tool) { return tool["name"] == name; });
 }
 
 json call(VexelService& service, const std::string& name, const json& arguments)

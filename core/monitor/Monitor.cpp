@@ -3,7 +3,6 @@
 #include "grouping/AppGrouper.h"
 
 #include <chrono>
-#include <thread>
 
 namespace vexel {
 
@@ -36,13 +35,6 @@ Frame Monitor::sample(double now, bool everyone, bool network)
     frame.interval = m_lastTime ? now - *m_lastTime : 0;
     m_lastTime = now;
     return frame;
-}
-
-Frame Monitor::settledSample(double gap)
-{
-    (void)sample(currentTime(), true, true);
-    std::this_thread::sleep_for(std::chrono::duration<double>(gap));
-    return sample(currentTime(), true, true);
 }
 
 std::optional<std::vector<ListenSocket>> Monitor::listeners()

@@ -44,10 +44,6 @@ public:
     // reads per-process network counters (else the previous rates carry over).
     [[nodiscard]] Frame sample(double now, bool everyone, bool network);
 
-    // Two samples `gap` seconds apart, the second returned, so that every rate
-    // in it is a real difference.
-    [[nodiscard]] Frame settledSample(double gap);
-
     [[nodiscard]] std::optional<std::vector<ListenSocket>> listeners();
     [[nodiscard]] std::vector<ProjectGroup> devServers(
         const Frame& frame, const std::vector<ListenSocket>& listeners, ActivityLog& log, double idleAfter);

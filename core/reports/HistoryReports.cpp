@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 namespace vexel {
 
@@ -16,42 +15,25 @@ using namespace ReportValues;
 
 constexpr size_t busiestCount = 10;
 
-// The finest tier that still keeps a look-back of `hours`: minutes up to 49
-// hours, ten minutes up to 35 days, hours beyond.
+// The finest tier that keeps a look-back of `hours` (minutes up to 49 hours,
+// ten minutes up to 35 days, hours beyond), so that recent samples not yet
+// rolled up count too.
 HistoryTier spikeTier(double hours)
 {
-    if (hours <= 49)
-        return HistoryTier::minute;
-    if (hours <= 840)
-        return HistoryTier::tenMinutes;
+    for (const auto tier : {HistoryTier::minute, HistoryTier::tenMinutes})
+        if (hours * 3600 <= keepSeconds(tier, 0))
+            return tier;
     return HistoryTier::hour;
 }
 
-// The apps with the most core-hours, highest first, named by their latest point.
-json busiestApps(const std::vector<AppPoint>& points)
+// The ten apps with the most core-hours over `covered` seconds, highest
+// first, each named by its latest point.
+json busiestApps(const std::vector<AppPoint>& points, double start, double covered)
 {
-    struct Tally {
-        double coreSeconds = 0;
-        double latest = 0;
-        std::string name;
-    };
-    std::map<std::string, Tally> byApp;
-    for (const auto& point : points) {
-        Tally& tally = byApp[point.app];
-        tally.coreSeconds += point.cpu * point.dur;
-        if (tally.name.empty() || point.t >= tally.latest) {
-            tally.latest = point.t;
-            tally.name = point.name;
-        }
-    }
-    std::vector<const Tally*> ranked;
-    for (const auto& [key, tally] : byApp)
-        ranked.push_back(&tally);
-    std::stable_sort(
-        ranked.begin(), ranked.end(), [](const Tally* a, const Tally* b) { return a->coreSeconds > b->coreSeconds; });
+    const auto merged = Downsample::rollupApps(points, start, covered, busiestCount);
     json apps = json::array();
-    for (size_t i = 0; i < ranked.size() && i < busiestCount; ++i)
-        apps.push_back({{"name", ranked[i]->name}, {"cpu_core_hours", rounded(ranked[i]->coreSeconds / 3600, 2)}});
+    for (size_t i = 0; i < merged.size() && i < busiestCount; ++i)
+        apps.push_back({{"name", merged[i].name}, {"cpu_core_hours", rounded(merged[i].cpu * covered / 3600, 2)}});
     return apps;
 }
 
@@ -81,7 +63,7 @@ json VexelService::history(HistoryRange range)
         {"memory_avg_percent", percent(whole.mem)}, {"memory_peak_percent", percent(whole.memMax)},
         {"disk_written_bytes", wholeBytes(whole.diskW)}, {"disk_read_bytes", wholeBytes(whole.diskR)},
         {"network_in_bytes", wholeBytes(whole.netIn)}, {"network_out_bytes", wholeBytes(whole.netOut)},
-        {"busiest_apps", busiestApps(store->appSeries(tier(range), from, to))},
+        {"busiest_apps", busiestApps(store->appSeries(tier(range), from, to), from, whole.dur)},
         {"note",
             "CPU is the share of the whole machine; averages weigh each sample by its length. Busiest apps are "
             "ranked by CPU core-hours (one core fully busy for an hour is 1)."}};

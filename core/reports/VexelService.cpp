@@ -30,33 +30,24 @@ VexelSettings VexelService::settings() const
     return VexelSettings::load(m_paths.settings());
 }
 
-Frame VexelService::take(double time)
-{
-    ++m_samplesTaken;
-    return monitor().sample(time, true, true);
-}
-
 const Frame& VexelService::frame()
 {
     if (m_cachedFrame)
         return *m_cachedFrame;
     if (m_settleSleeps) {
-        (void)take(m_now());
+        (void)monitor().sample(m_now(), true, true);
         std::this_thread::sleep_for(std::chrono::seconds(1));
-        m_cachedFrame = take(m_now());
+        m_cachedFrame = monitor().sample(m_now(), true, true);
     } else {
         const double now = m_now();
-        (void)take(now - 1.0);
-        m_cachedFrame = take(now);
+        (void)monitor().sample(now - 1.0, true, true);
+        m_cachedFrame = monitor().sample(now, true, true);
     }
     return *m_cachedFrame;
 }
 
 std::unique_ptr<HistoryStore> VexelService::openStore() const
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(m_paths.history(), error))
-        return nullptr;
     try {
         return std::make_unique<HistoryStore>(m_paths.history(), true);
     } catch (const HistoryError&) {

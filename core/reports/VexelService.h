@@ -57,11 +57,8 @@ public:
     [[nodiscard]] static nlohmann::json appRow(const AppGroup& group, int cores);
 
     [[nodiscard]] Platform platform() const { return m_platform; }
-    // How many frames were sampled (two per settle).
-    [[nodiscard]] int samplesTaken() const { return m_samplesTaken; }
 
 private:
-    [[nodiscard]] Frame take(double time);
     [[nodiscard]] std::unique_ptr<HistoryStore> requireStore() const;
     // The listening sockets, read once beside the frame; empty when unreadable.
     [[nodiscard]] const std::vector<ListenSocket>& listeners();
@@ -75,7 +72,6 @@ private:
     std::optional<Frame> m_cachedFrame;
     std::optional<std::vector<ListenSocket>> m_listeners;
     Platform m_platform;
-    int m_samplesTaken = 0;
 };
 
 } // namespace vexel
