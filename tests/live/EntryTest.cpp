@@ -53,8 +53,3 @@ TEST(Entry, DesktopRoleGoesToTheLauncher)
     EXPECT_EQ(status, 7);
     EXPECT_EQ(seen, (Args{"/opt/vexel/vexel-app", "--hidden"}));
 }
-
-TEST(Entry, VersionComesFromTheBuild)
-{
-    EXPECT_EQ(programVersion(), "1.0");
-}

@@ -19,7 +19,7 @@ const exchanges = [
   ['   ', undefined],
   ['{"jsonrpc":"2.0","id":2,"method":"initialize","params":{"protocolVersion":"2025-11-25","capabilities":{}}}',
     { id: 2, protocolVersion: '2025-06-18' }],
-  ['{"jsonrpc":"2.0","method":"notifications/initialized"}', undefined],
+  ['{"jsonrpc":"2.0","method":"notifications/initialized"}\r', undefined],
   ['{"jsonrpc":"2.0","id":"two","method":"initialize","params":{"protocolVersion":"2024-11-05"}}',
     { id: 'two', protocolVersion: '2024-11-05' }],
   ['not json', { id: null, error: { code: -32700, message: 'Parse error' } }],
@@ -44,7 +44,8 @@ let err = '';
 child.stdout.on('data', (chunk) => { out += chunk; });
 child.stderr.on('data', (chunk) => { err += chunk; });
 const exited = new Promise((resolve) => child.on('close', resolve));
-child.stdin.end(exchanges.map(([line]) => line).join('\n') + '\n');
+// The last line has no newline: the end of input ends it.
+child.stdin.end(exchanges.map(([line]) => line).join('\n'));
 const status = await exited;
 
 try {

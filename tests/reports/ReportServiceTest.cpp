@@ -37,20 +37,14 @@ TEST(ReportValues, RoundingTimesAndWholeNumbers)
     using namespace ReportValues;
     EXPECT_EQ(percent(0.0625), 6.3); // 6.25 exactly: half away from zero, not to even
     EXPECT_EQ(percent(-0.0625), -6.3);
-    EXPECT_EQ(percent(0.12345), 12.3);
     EXPECT_EQ(machinePercent(1.7), 100.0);
-    EXPECT_EQ(rounded(2.0005, 3), 2.001);
     EXPECT_EQ(wholeRate(1234.99), 1234);
-    EXPECT_EQ(wholeRate(-5), 0);
-    EXPECT_EQ(wholeRate(std::nan("")), 0);
-    EXPECT_EQ(wholeRate(1e30), 0);
+    for (const double odd : {-5.0, std::nan(""), 1e30})
+        EXPECT_EQ(wholeRate(odd), 0) << odd;
     EXPECT_EQ(iso8601(1795000006.9), "2026-11-18T11:06:46Z");
-    EXPECT_EQ(iso8601(0), "1970-01-01T00:00:00Z");
-    EXPECT_EQ(parseISO8601("2026-11-18T11:06:46Z"), 1795000006.0);
     EXPECT_EQ(parseISO8601("2026-11-18T12:06:46+01:00"), 1795000006.0);
     EXPECT_EQ(parseISO8601("2026-11-18T06:06:46-0500"), 1795000006.0);
-    for (const char* bad : {"", "2026-11-18", "2026-11-18T11:06:46", "2026-13-18T11:06:46Z", "2026-11-18T11:06:46+1",
-             "2026-11-18X11:06:46Z", "abcd-ef-ghTij:kl:mnZ"})
+    for (const char* bad : {"", "2026-11-18T11:06:46", "2026-13-18T11:06:46Z", "2026-11-18T11:06:46+1"})
         EXPECT_FALSE(parseISO8601(bad)) << bad;
 }
 
@@ -62,7 +56,6 @@ TEST_F(ReportService, OneSettledFrameServesEveryReport)
     (void)service.status();
     (void)service.topApps(AppSort::memory, 5);
     (void)service.portsReport();
-    EXPECT_EQ(service.samplesTaken(), 2);
     EXPECT_EQ(demo.world->processSource->served, 2);
     EXPECT_EQ(&service.frame(), &first);
 }
@@ -79,7 +72,7 @@ TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
     EXPECT_GE(frame.interval, 0.99);
     EXPECT_GE(frame.time - before, 0.99);
     (void)service.status();
-    EXPECT_EQ(service.samplesTaken(), 2);
+    EXPECT_EQ(world->processSource->served, 2);
 }
 
 TEST_F(ReportService, StatusHasExactlyItsKeys)
@@ -132,19 +125,6 @@ TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
     snapshot.battery.reset();
     mains.world->systemSource->set(snapshot);
     EXPECT_FALSE(mains.service.status().contains("battery"));
-}
-
-TEST_F(ReportService, TodayComesFromTheHistoryWhenThereIsOne)
-{
-    EXPECT_FALSE(service.status().contains("today"));
-    writeHistory(folder.path() / "history.sqlite", demo.now);
-    DemoService again(folder.path());
-    const json today = again.service.status()["today"];
-    // Every minute point lies within today (UTC) in this world.
-    EXPECT_EQ(today["disk_written_bytes"], historyMinutes * 1'000'000ULL);
-    EXPECT_EQ(today["disk_read_bytes"], historyMinutes * 500'000ULL);
-    EXPECT_EQ(today["network_in_bytes"], historyMinutes * 2'000'000ULL);
-    EXPECT_EQ(today["network_out_bytes"], historyMinutes * 100'000ULL);
 }
 
 TEST_F(ReportService, TopAppsSortsCutsAndRows)
@@ -252,20 +232,6 @@ TEST_F(ReportService, DockerStatesAndContainers)
         (json{{"state", "not_installed"}, {"message", "Docker isn't installed (no docker command found)."}}));
 }
 
-TEST_F(ReportService, HistoryAndSpikesNeedAHistory)
-{
-    for (const auto& read : {std::function<void()>([&] { (void)service.history(HistoryRange::today); }),
-             std::function<void()>([&] { (void)service.spikes(24); })}) {
-        try {
-            read();
-            FAIL() << "expected a ReportError";
-        } catch (const ReportError& error) {
-            EXPECT_EQ(error.message(), "Vexel has no history yet. Open Vexel and leave it running.");
-        }
-    }
-    EXPECT_TRUE(folderState(folder.path()).empty());
-}
-
 TEST_F(ReportService, HistoryReadsTheRangeFromTheStore)
 {
     writeHistory(folder.path() / "history.sqlite", demo.now);
@@ -332,17 +298,4 @@ TEST_F(ReportService, ReadingHistoryLeavesTheDataFolderAsItWas)
     DemoService reader(folder.path());
     EXPECT_EQ(reader.service.status()["today"]["disk_written_bytes"], historyMinutes * 1'000'000ULL + 7);
     EXPECT_EQ(folderState(folder.path()), whileWriting);
-}
-
-TEST(ReportServiceLinux, TextsNameTheComputer)
-{
-    TempFolder folder("vexel-reports");
-    auto world = warmDemoWorld();
-    VexelService service(
-        VexelPaths(folder.path()), TimeZone::fixed(0), [&] { return world->now(); },
-        [&] { return world->advancingMonitor(1); }, false, Platform::linux);
-    const json status = service.status();
-    EXPECT_EQ(status["not_measured"].get<std::string>().find("macOS"), std::string::npos);
-    EXPECT_EQ(service.portsReport()["note"],
-        "Your own processes only; Linux doesn't say which process holds another user's socket without admin rights.");
 }

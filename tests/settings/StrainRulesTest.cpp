@@ -57,13 +57,3 @@ TEST(StrainRules, NetworkIsNeverStrainedAndChargingBatteriesAreCalm)
     EXPECT_EQ(rules.battery(BatteryStats(20, false, false)), Strain::elevated);
     EXPECT_EQ(rules.battery(BatteryStats(21, false, false)), Strain::calm);
 }
-
-TEST(StrainRules, StrainOrderAndRawValues)
-{
-    EXPECT_EQ(std::max({Strain::calm, Strain::strained, Strain::elevated}), Strain::strained);
-    EXPECT_EQ(strainFromRaw(2), Strain::strained);
-    EXPECT_FALSE(strainFromRaw(3));
-    StrainRules custom;
-    custom.cpuElevated = 0.3;
-    EXPECT_EQ(strainRulesFromJson(toJson(custom)), custom);
-}

@@ -33,42 +33,6 @@ protected:
 
 } // namespace
 
-TEST(VexelSettingsDefaults, AreTheDocumentedOnes)
-{
-    const VexelSettings settings;
-    EXPECT_EQ(settings.sampleSeconds, 5.0);
-    EXPECT_EQ(settings.cpuScale, CPUScale::mac);
-    EXPECT_EQ(settings.retentionDays, 365);
-    EXPECT_EQ(settings.maxHistoryMB, 64);
-    EXPECT_EQ(settings.idleAfter(), 172800);
-    EXPECT_EQ(settings.appSort, AppSort::cpu);
-    EXPECT_FALSE(settings.lastSeen);
-    ASSERT_EQ(settings.menuItems.size(), 7u);
-    EXPECT_EQ(settings.menuItems[0], (MenuItemConfig{MenuItemKind::cpu, true, MenuItemStyle::both}));
-    EXPECT_EQ(settings.menuItems[2], (MenuItemConfig{MenuItemKind::network, true, MenuItemStyle::value}));
-    EXPECT_EQ(settings.menuItems[3], (MenuItemConfig{MenuItemKind::thermal, false, MenuItemStyle::value}));
-    EXPECT_EQ(settings.menuItems[6], (MenuItemConfig{MenuItemKind::gpu, false, MenuItemStyle::graph}));
-    EXPECT_EQ(settings.strain.netElevated, 50000000.0);
-    EXPECT_EQ(settings.spikes.cpuMinutes, 3);
-    EXPECT_EQ(settings.spikes.mergeGap, 180.0);
-}
-
-TEST(VexelSettingsJson, EncodesEveryKeyInFieldOrder)
-{
-    VexelSettings settings;
-    settings.lastSeen = 1700000000;
-    const auto json = toJson(settings);
-    std::vector<std::string> keys;
-    for (auto it = json.begin(); it != json.end(); ++it)
-        keys.push_back(it.key());
-    EXPECT_EQ(keys,
-        (std::vector<std::string>{"sampleSeconds", "cpuScale", "networkBits", "retentionDays", "maxHistoryMB",
-            "menuItems", "strain", "spikes", "idleDays", "appSort", "onboarded", "lastSeen"}));
-    EXPECT_EQ(json["menuItems"][0].dump(), R"({"kind":"cpu","enabled":true,"style":"both"})");
-    EXPECT_EQ(json["cpuScale"], "mac");
-    EXPECT_FALSE(toJson(VexelSettings{}).contains("lastSeen"));
-}
-
 TEST_F(SettingsFile, AnEmptyObjectLoadsAsDefaults)
 {
     EXPECT_EQ(VexelSettings::load(write("{}")), VexelSettings{});
@@ -145,17 +109,4 @@ TEST_F(SettingsFile, SaveReportsFileSystemErrors)
         EXPECT_THROW(VexelSettings{}.save(locked / "settings.json"), fs::filesystem_error);
         ::chmod(locked.c_str(), 0700);
     }
-}
-
-TEST(MenuItemConfig, RawValuesTitlesAndGraphs)
-{
-    for (const auto kind : allMenuItemKinds)
-        EXPECT_EQ(menuItemKindFromRaw(rawValue(kind)), kind);
-    EXPECT_EQ(rawValue(MenuItemKind::thermal), "thermal");
-    EXPECT_FALSE(menuItemKindFromRaw("CPU"));
-    EXPECT_EQ(title(MenuItemStyle::both), "Both");
-    EXPECT_EQ(menuItemStyleFromRaw("graph"), MenuItemStyle::graph);
-    EXPECT_FALSE(menuItemStyleFromRaw(""));
-    EXPECT_FALSE(canGraph(MenuItemKind::battery));
-    EXPECT_TRUE(canGraph(MenuItemKind::cpu));
 }

@@ -118,10 +118,3 @@ TEST(SpikeFinder, BatteryDrainOnlyWhileDischargingAndOverlapsAllReported)
         p.power = 25; // charging: the same fall is no drain
     EXPECT_TRUE(ofKind(SpikeFinder::find(points, {}, rules), SpikeKind::battery).empty());
 }
-
-TEST(SpikeKind, TitlesAndRawValues)
-{
-    EXPECT_EQ(title(SpikeKind::battery), "Battery drain");
-    EXPECT_EQ(spikeKindFromRaw("thermal"), SpikeKind::thermal);
-    EXPECT_FALSE(spikeKindFromRaw("fans"));
-}

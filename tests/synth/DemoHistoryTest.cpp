@@ -44,18 +44,3 @@ TEST(DemoHistory, RepeatableAndEmptyInTheFuture)
     EXPECT_EQ(future.dur, 0);
     EXPECT_FALSE(future.gpu);
 }
-
-TEST(SysPoint, JsonUnderFieldNamesWithoutAbsentOptionals)
-{
-    SysPoint point;
-    point.t = 10;
-    point.dur = 5;
-    point.gpu = 0.5;
-    const auto json = toJson(point);
-    std::vector<std::string> keys;
-    for (auto it = json.begin(); it != json.end(); ++it)
-        keys.push_back(it.key());
-    EXPECT_EQ(keys,
-        (std::vector<std::string>{"t", "dur", "cpu", "cpuMax", "mem", "memMax", "pressure", "swap", "diskR", "diskW",
-            "netIn", "netOut", "gpu", "thermal"}));
-}

@@ -1,5 +1,4 @@
 #include "synth/DemoWorld.h"
-#include "actions/FakeActions.h"
 
 #include <gtest/gtest.h>
 
@@ -130,31 +129,6 @@ TEST(DemoWorld, LoadWobblesWithinBoundsAndStrainMultipliesTheHeavyOnes)
     EXPECT_EQ(snapshot.thermal, ThermalLevel::serious);
 }
 
-TEST(DemoWorld, TheMarketingSiteIsTheOnlyIdleServer)
-{
-    DemoWorld world;
-    auto monitor = world.monitor();
-    const Frame frame = settled(world, *monitor);
-    const auto listeners = monitor->listeners();
-    ASSERT_TRUE(listeners);
-    ActivityLog log;
-    const auto groups = monitor->devServers(frame, *listeners, log, 2 * 86400);
-    std::vector<std::string> projects;
-    std::vector<std::string> idle;
-    for (const auto& project : groups) {
-        projects.push_back(project.project.name);
-        for (const auto& server : project.servers) {
-            if (server.isIdle)
-                idle.push_back(project.project.name + ":" + std::to_string(server.ports.front()));
-        }
-    }
-    EXPECT_EQ(projects, (std::vector<std::string>{"atlas-api", "design-system", "marketing-site", "postgresql@16"}));
-    EXPECT_EQ(idle, std::vector<std::string>{"marketing-site:4321"});
-    const auto docker = monitor->dockerState();
-    ASSERT_EQ(docker.kind, DockerState::Kind::containers);
-    EXPECT_EQ(docker.containers.size(), 3u);
-}
-
 TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
 {
     DemoWorld world;
@@ -192,37 +166,6 @@ TEST(Frame, AppsByNameEqualBeforeContaining)
     EXPECT_EQ(frame.app("notes")->id, "app:b");
     EXPECT_EQ(frame.app("HELP")->id, "app:a");
     EXPECT_EQ(frame.app("mail"), nullptr);
-}
-
-TEST(FakeActions, RecordsInsteadOfActing)
-{
-    FakeActions actions;
-    actions.alive = {42};
-    AppGroup safari;
-    safari.name = "Safari";
-    EXPECT_TRUE(actions.quit(safari, false));
-    EXPECT_TRUE(actions.quit(safari, true));
-    actions.reveal("/Users/alex/code");
-    actions.copy("http://localhost:3000");
-    EXPECT_EQ(actions.log,
-        (std::vector<std::string>{
-            "quit Safari", "forceQuit Safari", "reveal /Users/alex/code", "copy http://localhost:3000"}));
-    EXPECT_TRUE(actions.isAlive(42));
-    EXPECT_TRUE(actions.signal(42, 15));
-    EXPECT_FALSE(actions.isAlive(42));
-    EXPECT_FALSE(actions.signal(42, 9)); // already gone
-}
-
-TEST(Monitor, SettledSampleGivesRealDifferences)
-{
-    DemoWorld world;
-    auto monitor = world.monitor();
-    const Frame frame = monitor->settledSample(0.05);
-    EXPECT_GT(frame.interval, 0.04);
-    EXPECT_LT(frame.interval, 5.0);
-    EXPECT_EQ(world.processSource->served, 2);
-    EXPECT_TRUE(monitor->lastNetRun());
-    EXPECT_TRUE(monitor->lastEveryoneRun());
 }
 
 TEST(Frame, HistoryPointsTurnRatesIntoAmountsOverTheInterval)

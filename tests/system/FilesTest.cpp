@@ -48,12 +48,3 @@ TEST(Files, ProcFilesReportNoSizeButStillReadWhole)
     ASSERT_TRUE(status);
     EXPECT_NE(status->find("VmRSS"), std::string::npos);
 }
-
-TEST(Files, BaseNames)
-{
-    EXPECT_EQ(Files::baseName("/usr/bin/vexel"), "vexel");
-    EXPECT_EQ(Files::baseName("vexel"), "vexel");
-    EXPECT_EQ(Files::baseName("/a/b/"), "b");
-    EXPECT_EQ(Files::baseName("/"), "/");
-    EXPECT_EQ(Files::baseName(""), "");
-}
