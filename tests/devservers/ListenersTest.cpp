@@ -3,16 +3,16 @@
 #include "devservers/linux/SsListenParser.h"
 #include "io/Files.h"
 #include "processes/Shell.h"
+#include "support/Listener.h"
 
 #include <gtest/gtest.h>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 using namespace vexel;
 using Family = ListenSocket::Family;
+using vexel::testing::Listener;
 
 namespace {
 
@@ -26,40 +26,6 @@ std::vector<ListenSocket> sorted(std::vector<ListenSocket> sockets)
     std::sort(sockets.begin(), sockets.end());
     return sockets;
 }
-
-// A listening socket of this test process, closed when it goes.
-class Listener {
-public:
-    Listener(int family, const char* address)
-    {
-        m_fd = ::socket(family, SOCK_STREAM, 0);
-        int on = 1;
-        ::setsockopt(m_fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-        if (family == AF_INET) {
-            sockaddr_in where{};
-            where.sin_family = AF_INET;
-            ::inet_pton(AF_INET, address, &where.sin_addr);
-            ::bind(m_fd, reinterpret_cast<sockaddr*>(&where), sizeof where);
-        } else {
-            sockaddr_in6 where{};
-            where.sin6_family = AF_INET6;
-            ::inet_pton(AF_INET6, address, &where.sin6_addr);
-            ::bind(m_fd, reinterpret_cast<sockaddr*>(&where), sizeof where);
-        }
-        ::listen(m_fd, 4);
-        sockaddr_storage bound{};
-        socklen_t size = sizeof bound;
-        ::getsockname(m_fd, reinterpret_cast<sockaddr*>(&bound), &size);
-        m_port = ntohs(family == AF_INET ? reinterpret_cast<sockaddr_in*>(&bound)->sin_port
-                                         : reinterpret_cast<sockaddr_in6*>(&bound)->sin6_port);
-    }
-    ~Listener() { ::close(m_fd); }
-    [[nodiscard]] uint16_t port() const { return m_port; }
-
-private:
-    int m_fd = -1;
-    uint16_t m_port = 0;
-};
 
 } // namespace
 

@@ -2,6 +2,8 @@
 #include "history/HistoryRange.h"
 #include "history/HistoryStore.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -92,17 +94,8 @@ TEST(Downsample, AnAppPresentForHalfABucketCountsIdleForTheRest)
 
 class Compaction : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_file = fs::temp_directory_path() / ("vexel-compact-" + std::to_string(::getpid())) / "history.sqlite";
-        fs::remove_all(m_file.parent_path());
-        m_store = std::make_unique<HistoryStore>(m_file, false);
-    }
-    void TearDown() override
-    {
-        m_store.reset();
-        fs::remove_all(m_file.parent_path());
-    }
+    void SetUp() override { m_store = std::make_unique<HistoryStore>(m_folder.path() / "history.sqlite", false); }
+    void TearDown() override { m_store.reset(); }
     // Five-second samples from `from` to `to`, with one app.
     void record(double from, double to) const
     {
@@ -112,7 +105,7 @@ protected:
         });
     }
 
-    fs::path m_file;
+    vexel::testing::TempFolder m_folder{"vexel-compact"};
     std::unique_ptr<HistoryStore> m_store;
 };
 

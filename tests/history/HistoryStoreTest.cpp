@@ -1,6 +1,8 @@
 #include "history/HistoryStore.h"
 #include "history/Downsample.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -15,15 +17,9 @@ namespace {
 
 class StoreFile : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_folder = fs::temp_directory_path() / ("vexel-history-" + std::to_string(::getpid()));
-        fs::remove_all(m_folder);
-    }
-    void TearDown() override { fs::remove_all(m_folder); }
-    [[nodiscard]] fs::path file() const { return m_folder / "data" / "history.sqlite"; }
+    [[nodiscard]] fs::path file() const { return m_folder.path() / "data" / "history.sqlite"; }
 
-    fs::path m_folder;
+    vexel::testing::TempFolder m_folder{"vexel-history"};
 };
 
 SysPoint sysAt(double t, double cpu = 0.5)

@@ -1,6 +1,7 @@
 // The real `vexel` binary on this machine, with data folders of the tests' own.
 
 #include "io/Files.h"
+#include "support/Listener.h"
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
 #include "support/TraceLog.h"
@@ -10,16 +11,15 @@
 #include <nlohmann/json.hpp>
 #include <sqlite3.h>
 
-#include <arpa/inet.h>
 #include <cmath>
 #include <ctime>
-#include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 using namespace vexel;
 using namespace vexel::testing;
 using nlohmann::json;
+using vexel::testing::Listener;
 
 namespace {
 
@@ -65,30 +65,6 @@ size_t processCount()
         count += TextScan::toU64(name) ? 1 : 0;
     return count;
 }
-
-// A listening socket on a free loopback port, closed with the value.
-class Listener {
-public:
-    Listener()
-    {
-        m_fd = ::socket(AF_INET, SOCK_STREAM, 0);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof address;
-        if (::bind(m_fd, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 && ::listen(m_fd, 4) == 0
-            && ::getsockname(m_fd, reinterpret_cast<sockaddr*>(&address), &length) == 0)
-            m_port = ntohs(address.sin_port);
-    }
-    ~Listener() { ::close(m_fd); }
-    Listener(const Listener&) = delete;
-    Listener& operator=(const Listener&) = delete;
-    [[nodiscard]] int port() const { return m_port; }
-
-private:
-    int m_fd = -1;
-    int m_port = 0;
-};
 
 void run(sqlite3* db, const std::string& sql)
 {
@@ -156,7 +132,7 @@ TEST(CliLive, StatusAgreesWithProc)
 TEST(CliLive, PortsListAListenerTheTestOpened)
 {
     TempFolder data("vexel-live");
-    const Listener listener;
+    const Listener listener(AF_INET, "127.0.0.1");
     ASSERT_GT(listener.port(), 0);
     const json ports = jsonOf(vexelIn(data.path(), {"ports", "--json"}));
     const auto& listening = ports["listening"];

@@ -101,12 +101,7 @@ TEST_F(MCP, VersionNegotiationAndClientsOfOtherRevisions)
     EXPECT_EQ(names,
         (std::vector<std::string>{"system_status", "top_apps", "app_processes", "history", "spikes", "dev_servers",
             "listening_ports", "docker_containers"}));
-    for (const auto& tool : tools["result"]["tools"]) {
-        EXPECT_EQ(
-            tool["annotations"], (json{{"readOnlyHint", true}, {"openWorldHint", false}, {"destructiveHint", false}}));
-        EXPECT_EQ(tool["inputSchema"]["additionalProperties"], false);
-        EXPECT_EQ(tool["inputSchema"]["required"], tool["name"] == "app_processes" ? json{"name"} : json::array());
-    }
+    // Their schemas and annotations are pinned by the golden transcript.
     EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":3,"method":"resources/list"})")["result"],
         (json{{"resources", json::array()}}));
     EXPECT_EQ(

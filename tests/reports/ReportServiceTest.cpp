@@ -15,14 +15,6 @@ using nlohmann::json;
 
 namespace {
 
-std::set<std::string> keysOf(const json& object)
-{
-    std::set<std::string> keys;
-    for (const auto& [key, value] : object.items())
-        keys.insert(key);
-    return keys;
-}
-
 class ReportService : public ::testing::Test {
 protected:
     TempFolder folder{"vexel-reports"};
@@ -75,39 +67,6 @@ TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
     EXPECT_EQ(world->processSource->served, 2);
 }
 
-TEST_F(ReportService, StatusHasExactlyItsKeys)
-{
-    const json status = service.status();
-    EXPECT_EQ(keysOf(status),
-        (std::set<std::string>{
-            "time", "cpu", "memory", "disk", "network", "thermal", "processes", "gpu", "battery", "not_measured"}));
-    EXPECT_EQ(keysOf(status["cpu"]),
-        (std::set<std::string>{
-            "percent", "user_percent", "system_percent", "cores", "per_core_percent", "load_average"}));
-    EXPECT_EQ(keysOf(status["memory"]),
-        (std::set<std::string>{"total_bytes", "used_bytes", "app_bytes", "wired_bytes", "compressed_bytes",
-            "cached_bytes", "swap_bytes", "pressure", "used_percent"}));
-    EXPECT_EQ(
-        keysOf(status["disk"]["volumes"][0]), (std::set<std::string>{"name", "path", "total_bytes", "free_bytes"}));
-    EXPECT_EQ(keysOf(status["battery"]),
-        (std::set<std::string>{
-            "percent", "charging", "on_ac", "power_watts", "minutes_left", "health_percent", "cycles"}));
-    EXPECT_EQ(status["cpu"]["cores"], 12);
-    EXPECT_EQ(status["cpu"]["per_core_percent"].size(), 12u);
-    EXPECT_TRUE(status["disk"]["read_bytes_per_s"].is_number_integer());
-    EXPECT_EQ(status["thermal"]["state"], "cool");
-    EXPECT_EQ(status["thermal"]["detail"], "Running at full speed.");
-    EXPECT_EQ(status["memory"]["pressure"], "normal");
-    EXPECT_EQ(status["time"], ReportValues::iso8601(demo.now));
-    const auto& memory = status["memory"];
-    EXPECT_EQ(memory["used_bytes"].get<uint64_t>(),
-        memory["app_bytes"].get<uint64_t>() + memory["wired_bytes"].get<uint64_t>()
-            + memory["compressed_bytes"].get<uint64_t>());
-    EXPECT_EQ(status["not_measured"],
-        "Temperatures, fan speeds, Neural Engine use and per-app GPU have no public macOS API, so Vexel leaves them "
-        "out.");
-}
-
 TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
 {
     DemoService plain(folder.path(), false);
@@ -153,8 +112,6 @@ TEST_F(ReportService, AppDetailFindsByNameAndListsProcesses)
     const json chrome = service.appDetail("google chrome");
     EXPECT_EQ(chrome["name"], "Google Chrome");
     EXPECT_EQ(chrome["process_list"].size(), chrome["processes"].get<size_t>());
-    EXPECT_EQ(keysOf(chrome["process_list"][0]),
-        (std::set<std::string>{"pid", "name", "cpu_percent_of_one_core", "memory_bytes", "zombie", "readable"}));
     const json iterm = service.appDetail("iTerm");
     bool zombie = false;
     for (const auto& process : iterm["process_list"])
@@ -216,14 +173,9 @@ TEST_F(ReportService, ServersFlagTheIdleProjectAndWriteNothing)
     EXPECT_TRUE(folderState(folder.path()).empty()); // no activity log written
 }
 
-TEST_F(ReportService, DockerStatesAndContainers)
+// A running engine is in the golden files; these are the states without one.
+TEST_F(ReportService, DockerStatesWithoutAnEngine)
 {
-    const json running = service.dockerReport();
-    EXPECT_EQ(running["state"], "running");
-    ASSERT_FALSE(running["containers"].empty());
-    EXPECT_EQ(keysOf(running["containers"][0]),
-        (std::set<std::string>{
-            "name", "image", "state", "status", "ports", "compose_project", "cpu_percent", "memory_bytes"}));
     demo.world->dockerSource->state = DockerState::notRunning();
     EXPECT_EQ(service.dockerReport(),
         (json{{"state", "not_running"}, {"message", "Docker is installed but its engine isn't running."}}));

@@ -1,5 +1,7 @@
 #include "settings/VexelSettings.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,22 +15,14 @@ namespace {
 
 class SettingsFile : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_dir = fs::temp_directory_path() / ("vexel-settings-" + std::to_string(::getpid()));
-        fs::remove_all(m_dir);
-        fs::create_directories(m_dir);
-    }
-    void TearDown() override { fs::remove_all(m_dir); }
-
     fs::path write(const std::string& text) const
     {
-        const auto file = m_dir / "settings.json";
+        const auto file = m_dir.path() / "settings.json";
         std::ofstream(file) << text;
         return file;
     }
 
-    fs::path m_dir;
+    vexel::testing::TempFolder m_dir{"vexel-settings"};
 };
 
 } // namespace
@@ -75,7 +69,7 @@ TEST_F(SettingsFile, NotJsonOrMissingLoadsAsDefaultsAndCreatesNothing)
 {
     EXPECT_EQ(VexelSettings::load(write("retentionDays = 30\n")), VexelSettings{});
     EXPECT_EQ(VexelSettings::load(write("[1, 2, 3]")), VexelSettings{});
-    const auto missing = m_dir / "nowhere" / "settings.json";
+    const auto missing = m_dir.path() / "nowhere" / "settings.json";
     EXPECT_EQ(VexelSettings::load(missing), VexelSettings{});
     EXPECT_FALSE(fs::exists(missing.parent_path()));
 }
@@ -88,7 +82,7 @@ TEST_F(SettingsFile, SaveCreatesTheFolderAndReadsBackTheSame)
     settings.menuItems = {{MenuItemKind::battery, true, MenuItemStyle::graph}};
     settings.spikes.batteryDrop = 20;
     settings.lastSeen = 1795300000.25;
-    const auto file = m_dir / "a" / "b" / "settings.json";
+    const auto file = m_dir.path() / "a" / "b" / "settings.json";
     settings.save(file);
     EXPECT_EQ(VexelSettings::load(file), settings);
     // Saving again replaces the file and leaves no temporary behind.
@@ -103,7 +97,7 @@ TEST_F(SettingsFile, SaveReportsFileSystemErrors)
     const auto blocker = write("{}");
     EXPECT_THROW(VexelSettings{}.save(blocker / "settings.json"), fs::filesystem_error);
     if (::geteuid() != 0) {
-        const auto locked = m_dir / "locked";
+        const auto locked = m_dir.path() / "locked";
         fs::create_directories(locked);
         ::chmod(locked.c_str(), 0500);
         EXPECT_THROW(VexelSettings{}.save(locked / "settings.json"), fs::filesystem_error);

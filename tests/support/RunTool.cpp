@@ -47,29 +47,27 @@ std::string readAll(int fd)
 
 // Standard input and standard error go through unnamed temporary files, so
 // only standard output needs a pipe and nothing can block on a full one.
-ToolResult spawn(const std::vector<std::string>& argv, const RunOptions* options)
+ToolResult spawn(const std::vector<std::string>& argv, const RunOptions& options)
 {
     ToolResult result;
     int pipeFds[2];
     if (argv.empty() || ::pipe(pipeFds) != 0)
         return result;
-    std::FILE* input = options ? std::tmpfile() : nullptr;
-    std::FILE* errors = options ? std::tmpfile() : nullptr;
+    std::FILE* input = std::tmpfile();
+    std::FILE* errors = std::tmpfile();
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, pipeFds[1], 1);
     posix_spawn_file_actions_addclose(&actions, pipeFds[0]);
     if (input != nullptr && errors != nullptr) {
-        std::fwrite(options->input.data(), 1, options->input.size(), input);
+        std::fwrite(options.input.data(), 1, options.input.size(), input);
         std::fflush(input);
         std::rewind(input);
         posix_spawn_file_actions_adddup2(&actions, ::fileno(input), 0);
         posix_spawn_file_actions_adddup2(&actions, ::fileno(errors), 2);
-    } else {
-        posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", 0, 0);
     }
     const auto args = pointers(argv);
-    const auto environment = environmentWith(options ? options->environment : std::map<std::string, std::string>{});
+    const auto environment = environmentWith(options.environment);
     const auto envp = pointers(environment);
     pid_t pid = 0;
     const int spawned = posix_spawnp(&pid, args[0], &actions, nullptr, args.data(), envp.data());
@@ -95,14 +93,9 @@ ToolResult spawn(const std::vector<std::string>& argv, const RunOptions* options
 
 } // namespace
 
-ToolResult runTool(const std::vector<std::string>& argv)
-{
-    return spawn(argv, nullptr);
-}
-
 ToolResult runTool(const std::vector<std::string>& argv, const RunOptions& options)
 {
-    return spawn(argv, &options);
+    return spawn(argv, options);
 }
 
 } // namespace vexel::testing
