@@ -51,91 +51,66 @@ TEST(CliArguments, OptionsAreTakenAnywhereAndATrailingOneStays)
     EXPECT_EQ(first, (std::vector<std::string>{"-n", "5"}));
 }
 
-TEST_F(CliOnDemoWorld, CommandsOptionsAndExitStatuses)
+TEST_F(CliOnDemoWorld, RefusalsAndFailuresGoToErrOnly)
 {
-    const auto topTen = run({"top"});
-    ASSERT_EQ(topTen.status, 0);
-    ASSERT_EQ(topTen.out.size(), 1u);
-    EXPECT_EQ(lineCount(topTen.out[0]), 12u); // heading, ten apps, footer
-
-    const auto before = run({"-n", "3", "top"});
-    EXPECT_EQ(before.status, 0);
-    EXPECT_EQ(lineCount(before.out.at(0)), 5u);
-    EXPECT_EQ(run({"top", "-n", "3"}).out, before.out);
-    EXPECT_EQ(run({"top", "--limit", "3"}).out, before.out);
-    EXPECT_EQ(run({"top", "-n"}).out, topTen.out); // "-n" stays as an argument top ignores
-    EXPECT_EQ(run({"-n", "ten", "top"}).out, topTen.out);
-    EXPECT_EQ(run({"top", "-n", "0"}).out.size(), 1u);
-    EXPECT_EQ(lineCount(run({"top", "-n", "0"}).out[0]), 3u);
-
-    const auto apps = run({"apps", "--json"});
-    const auto report = nlohmann::json::parse(apps.out.at(0));
-    EXPECT_EQ(report["apps"].size(), std::min<size_t>(report["app_count"].get<size_t>(), 200));
-    EXPECT_GT(report["apps"].size(), 10u);
-
-    const auto badSort = run({"top", "--sort", "CPU"});
-    EXPECT_EQ(badSort.status, 2);
-    EXPECT_EQ(badSort.err, std::vector<std::string>{unknownSort});
-    EXPECT_TRUE(badSort.out.empty());
-    EXPECT_EQ(run({"top", "-s", "memory", "--json"}).status, 0);
-
-    const auto json = run({"--json"});
-    EXPECT_EQ(json.status, 0);
-    EXPECT_TRUE(nlohmann::json::parse(json.out.at(0)).contains("cpu"));
-    EXPECT_EQ(run({}).out.at(0).rfind("CPU       ", 0), 0u);
-
-    const auto help = run({"help", "--json"});
-    EXPECT_EQ(help.status, 0);
-    EXPECT_EQ(help.out, std::vector<std::string>{VexelCLI::usage(Platform::macOS)});
-    EXPECT_EQ(run({"-h"}).out, help.out);
-    EXPECT_EQ(run({"--help"}).out, help.out);
-    EXPECT_EQ(run({"version"}).out, std::vector<std::string>{"vexel 9.9"});
-    EXPECT_EQ(run({"--version"}).status, 0);
-
-    const auto cli = run({"--cli", "status"});
-    EXPECT_EQ(cli.status, 2);
-    EXPECT_EQ(cli.err, std::vector<std::string>{"Unknown command \"--cli\".\n\n" + VexelCLI::usage(Platform::macOS)});
-
-    for (const char* word : {"stop", "kill", "quit"}) {
-        const auto refused = run({word, "node"});
-        EXPECT_EQ(refused.status, 2) << word;
-        EXPECT_EQ(refused.err, std::vector<std::string>{readOnly}) << word;
+    using Args = std::vector<std::string>;
+    const std::string noHistory = "Vexel has no history yet. Open Vexel and leave it running.";
+    const struct {
+        Args args;
+        bool withHistory;
+        int status;
+        std::string err;
+    } cases[] = {
+        {{"top", "--sort", "CPU"}, true, 2, unknownSort}, // sort keys are case-sensitive
+        {{"--cli", "status"}, true, 2, "Unknown command \"--cli\".\n\n" + VexelCLI::usage(Platform::macOS)},
+        {{"stop", "node"}, true, 2, readOnly},
+        {{"kill", "1"}, true, 2, readOnly},
+        {{"quit"}, true, 2, readOnly},
+        {{"app"}, true, 2, "Which app? e.g. vexel app \"Google Chrome\""},
+        {{"app", "Nothing", "Here"}, true, 1, "No running app matches \"Nothing Here\"."},
+        {{"history", "fortnight"}, true, 2, "Use today, week, month or year."},
+        {{"history"}, false, 1, noHistory},
+        {{"spikes", "--json"}, false, 1, noHistory},
+    };
+    for (const auto& c : cases) {
+        const auto result = run(c.args, c.withHistory);
+        EXPECT_EQ(result.status, c.status) << c.args[0];
+        EXPECT_EQ(result.err, std::vector<std::string>{c.err}) << c.args[0];
+        EXPECT_TRUE(result.out.empty()) << c.args[0];
     }
 }
 
-TEST_F(CliOnDemoWorld, AppHistoryAndSpikesArguments)
+TEST_F(CliOnDemoWorld, OptionsStandAnywhereAndBadValuesFallBack)
 {
-    const auto noName = run({"app"});
-    EXPECT_EQ(noName.status, 2);
-    EXPECT_EQ(noName.err, std::vector<std::string>{"Which app? e.g. vexel app \"Google Chrome\""});
-    const auto chrome = run({"app", "Google", "Chrome"});
-    EXPECT_EQ(chrome.status, 0);
-    EXPECT_EQ(chrome.out.at(0).rfind("Google Chrome  ", 0), 0u);
-    const auto missing = run({"app", "Nothing", "Here"});
-    EXPECT_EQ(missing.status, 1);
-    EXPECT_EQ(missing.err, std::vector<std::string>{"No running app matches \"Nothing Here\"."});
-    EXPECT_TRUE(missing.out.empty());
+    using Args = std::vector<std::string>;
+    const std::pair<Args, Args> same[] = {
+        {{"-n", "3", "top"}, {"top", "-n", "3"}}, {{"top", "--limit", "3"}, {"top", "-n", "3"}},
+        {{"top", "-n"}, {"top"}}, // "-n" stays as an argument top ignores
+        {{"-n", "ten", "top"}, {"top"}}, {{"history", "week", "extra"}, {"history", "week"}},
+        {{"spikes", "--hours", "x"}, {"spikes"}}, // back to 24 hours
+        {{"spikes", "--hours", "nan", "--json"}, {"spikes", "--json"}},
+        {{"help", "--json"}, {"--help"}}, // help, not JSON
+        {{"-h"}, {"--help"}},
+        {{"--version"}, {"version"}},
+        {{"top", "-s", "memory"}, {"--sort", "memory", "top"}}, {{"--json"}, {"status", "--json"}}, // the flag goes before the command is chosen
+    };
+    for (const auto& [one, other] : same)
+        EXPECT_EQ(run(one).out, run(other).out) << one[0] << " " << one.back();
 
-    EXPECT_EQ(run({"history", "week", "extra"}).out, run({"history", "week"}).out);
-    EXPECT_EQ(run({"history", "week"}).out.at(0).rfind("Week since ", 0), 0u);
-    const auto badRange = run({"history", "fortnight"});
-    EXPECT_EQ(badRange.status, 2);
-    EXPECT_EQ(badRange.err, std::vector<std::string>{"Use today, week, month or year."});
-
+    EXPECT_EQ(lineCount(run({"top"}).out.at(0)), 12u); // heading, ten apps, footer
+    EXPECT_EQ(lineCount(run({"top", "-n", "3"}).out.at(0)), 5u);
+    EXPECT_EQ(lineCount(run({"top", "-n", "0"}).out.at(0)), 3u);
+    const auto apps = nlohmann::json::parse(run({"apps", "--json"}).out.at(0));
+    EXPECT_EQ(apps["apps"].size(), std::min<size_t>(apps["app_count"].get<size_t>(), 200));
+    EXPECT_GT(apps["apps"].size(), 10u);
+    EXPECT_EQ(run({}).out.at(0).rfind("CPU       ", 0), 0u);
+    EXPECT_EQ(run({"--help"}).out, std::vector<std::string>{VexelCLI::usage(Platform::macOS)});
+    EXPECT_EQ(run({"version"}).out, std::vector<std::string>{"vexel 9.9"});
+    EXPECT_EQ(run({"app", "Google", "Chrome"}).out.at(0).rfind("Google Chrome  ", 0), 0u);
     EXPECT_EQ(
         run({"spikes", "--hours", "1.5"}).out, std::vector<std::string>{"Nothing unusual in the last 1.5 hours."});
     EXPECT_EQ(run({"--hours", "1", "spikes"}).out, std::vector<std::string>{"Nothing unusual in the last 1 hours."});
-    EXPECT_EQ(run({"spikes", "--hours", "x"}).out, run({"spikes"}).out); // back to 24 hours
-    EXPECT_EQ(run({"spikes", "--hours", "nan", "--json"}).out, run({"spikes", "--json"}).out);
-    EXPECT_EQ(run({"spikes"}).out.size(), 1u);
     EXPECT_NE(run({"spikes"}).out.at(0).find("Google Chrome"), std::string::npos);
-
-    for (const auto& args : {std::vector<std::string>{"history"}, std::vector<std::string>{"spikes", "--json"}}) {
-        const auto none = run(args, false);
-        EXPECT_EQ(none.status, 1);
-        EXPECT_EQ(none.err, std::vector<std::string>{"Vexel has no history yet. Open Vexel and leave it running."});
-        EXPECT_TRUE(none.out.empty());
-    }
 }
 
 TEST(CliUsage, NamesTheMachineItRunsOn)
