@@ -90,9 +90,8 @@ TEST_F(CliOnDemoWorld, OptionsStandAnywhereAndBadValuesFallBack)
         {{"spikes", "--hours", "x"}, {"spikes"}}, // back to 24 hours
         {{"spikes", "--hours", "nan", "--json"}, {"spikes", "--json"}},
         {{"help", "--json"}, {"--help"}}, // help, not JSON
-        {{"-h"}, {"--help"}},
-        {{"--version"}, {"version"}},
-        {{"top", "-s", "memory"}, {"--sort", "memory", "top"}}, {{"--json"}, {"status", "--json"}}, // the flag goes before the command is chosen
+        {{"-h"}, {"--help"}}, {{"--version"}, {"version"}}, {{"top", "-s", "memory"}, {"--sort", "memory", "top"}},
+        {{"--json"}, {"status", "--json"}}, // the flag goes before the command is chosen
     };
     for (const auto& [one, other] : same)
         EXPECT_EQ(run(one).out, run(other).out) << one[0] << " " << one.back();

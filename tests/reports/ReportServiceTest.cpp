@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-
 using namespace vexel;
 using namespace vexel::testing;
 using nlohmann::json;
@@ -97,7 +96,6 @@ TEST_F(ReportService, TopAppsSortsAndCuts)
     EXPECT_EQ(service.topApps(AppSort::cpu, 0)["apps"].size(), 1u);
     EXPECT_EQ(service.topApps(AppSort::cpu, -4)["apps"].size(), 1u);
     EXPECT_EQ(service.topApps(AppSort::cpu, 3)["app_count"], appCount); // counted before the cut
-
 }
 
 TEST_F(ReportService, PortsAreOrderedByPortThenPid)
