@@ -25,7 +25,6 @@ constexpr const char* schema
       "INSERT OR IGNORE INTO meta(key, value) VALUES('schema', '1');";
 
 constexpr int writableFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX;
-constexpr int busyMilliseconds = 2000;
 constexpr int capDaysPerCompaction = 400;
 
 long long tierValue(HistoryTier tier)
@@ -47,7 +46,7 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     if (!readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());
     sqlite3* handle = nullptr;
-    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle, busyMilliseconds)
+    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle, Sqlite::waitMilliseconds)
                                 : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
     if (result != SQLITE_OK) {
         const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
@@ -55,7 +54,7 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
         throw HistoryError(HistoryError::Kind::open, message);
     }
     m_db = Sqlite::Database(handle);
-    ::sqlite3_busy_timeout(handle, busyMilliseconds);
+    ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
     if (readOnly)
         return;
     // The log and its index stay when the last writer closes, so that readers,
@@ -165,6 +164,27 @@ std::vector<AppPoint> HistoryStore::appPoints(HistoryTier tier, double from, dou
     while (query.next()) {
         result.push_back(AppPoint{query.real(0), query.real(3), query.text(1), query.text(2), query.real(4),
             query.real(5), query.real(6), query.real(7), query.real(8), query.real(9)});
+    }
+    return result;
+}
+
+std::vector<AppPoint> HistoryStore::appSums(HistoryTier tier, double from, double to) const
+{
+    // max(t) is the only min/max aggregate, so SQLite takes `name` from each
+    // app's latest row; a negative or missing length weighs nothing.
+    const Sqlite::Statement query(m_db.get(),
+        "SELECT max(t),app,name,total(max(dur,0)),total(cpu*max(dur,0)),total(mem*max(dur,0)),"
+        "ifnull(max(cpu_max),0),total(energy),total(disk),total(net) FROM apps WHERE tier = ? AND t >= ? AND t < ? "
+        "GROUP BY app ORDER BY app");
+    query.bind(1, tierValue(tier));
+    query.bind(2, from);
+    query.bind(3, to);
+    std::vector<AppPoint> result;
+    while (query.next()) {
+        const double weight = query.real(3);
+        const auto mean = [&](int column) { return weight > 0 ? query.real(column) / weight : 0; };
+        result.push_back(AppPoint{query.real(0), weight, query.text(1), query.text(2), mean(4), query.real(6), mean(5),
+            query.real(7), query.real(8), query.real(9)});
     }
     return result;
 }

@@ -33,6 +33,10 @@ public:
     // Rows of a tier with from ≤ t < to, ascending t.
     [[nodiscard]] std::vector<SysPoint> points(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> appPoints(HistoryTier tier, double from, double to) const;
+    // One point per app over a tier's rows with from ≤ t < to, in key order:
+    // t and name of its latest row, dur the summed lengths, CPU and memory
+    // their means over that time, the peak CPU, amounts summed.
+    [[nodiscard]] std::vector<AppPoint> appSums(HistoryTier tier, double from, double to) const;
 
     // Removes the rows of a tier older than `before`; a cutoff that is not finite removes nothing.
     void erase(HistoryTier tier, double before);
@@ -57,6 +61,12 @@ public:
     // failing read gives what could be read.
     [[nodiscard]] std::vector<SysPoint> series(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> appSeries(HistoryTier tier, double from, double to) const;
+    // The same app points summed per app, fit for Downsample::rollupApps over
+    // the whole period: stored rows come summed by SQLite, one point per app
+    // in key order with the name of its latest row and its length as `dur`,
+    // then the points past the watermark as appSeries gives them. A year of
+    // hourly rows is summed without reading each of them.
+    [[nodiscard]] std::vector<AppPoint> appTotals(HistoryTier tier, double from, double to) const;
     // The finest rolled tier whose data reaches back to `from` (minute, ten minutes, else hour).
     [[nodiscard]] HistoryTier coveringTier(double from) const;
 

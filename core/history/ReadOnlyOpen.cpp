@@ -1,6 +1,7 @@
 #include "history/ReadOnlyOpen.h"
 
 #include "format/CFormat.h"
+#include "history/Sqlite.h"
 #include "io/Files.h"
 
 #include <chrono>
@@ -41,14 +42,6 @@ int open(const std::string& uri, sqlite3** handle)
 {
     constexpr int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_FULLMUTEX;
     return ::sqlite3_open_v2(uri.c_str(), handle, flags, vfsName);
-}
-
-// While a writer starts it may be recovering its log, which a reader that
-// cannot write the index waits out ("readonly" answers), as it waits out locks.
-bool transient(int result)
-{
-    const int primary = result & 0xff;
-    return primary == SQLITE_BUSY || primary == SQLITE_LOCKED || primary == SQLITE_READONLY;
 }
 
 int openThroughLog(const std::string& uri, sqlite3** handle, int busyMilliseconds)

@@ -10,6 +10,15 @@
 
 namespace vexel::Sqlite {
 
+// How long a connection waits for another one: a writer holding its locks, or
+// recovering its log after a crash.
+constexpr int waitMilliseconds = 2000;
+
+// Answers that mean another connection holds the file for a moment. A reader
+// that cannot write the log's index answers "read-only" while a writer
+// recovers, and waits that out as it waits out locks.
+[[nodiscard]] bool transient(int result);
+
 // Owns a connection: closed when it goes.
 class Database {
 public:
@@ -49,11 +58,13 @@ public:
     ~Statement() { ::sqlite3_finalize(m_statement); }
     Statement(Statement&& other) noexcept
         : m_statement(std::exchange(other.m_statement, nullptr))
+        , m_stepped(other.m_stepped)
     {
     }
     Statement& operator=(Statement&& other) noexcept
     {
         std::swap(m_statement, other.m_statement);
+        std::swap(m_stepped, other.m_stepped);
         return *this;
     }
     Statement(const Statement&) = delete;
@@ -69,7 +80,9 @@ public:
     void bind(int index, std::optional<double> value) const;
     // Steps a write and resets; raises sql "step N" for anything but a row or done.
     void run() const;
-    // Steps a read: true while there is a row.
+    // Steps a read: true while there is a row. A read that cannot start for a
+    // moment (see `transient`) is tried again for up to `waitMilliseconds`;
+    // once rows came, any failure ends them.
     [[nodiscard]] bool next() const;
 
     [[nodiscard]] double real(int column) const { return ::sqlite3_column_double(m_statement, column); }
@@ -80,6 +93,7 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
+    mutable bool m_stepped = false;
 };
 
 } // namespace vexel::Sqlite

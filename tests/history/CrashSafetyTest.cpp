@@ -83,7 +83,7 @@ TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
     int readerFailures = 0;
     for (int kill = 0; kill < 200; ++kill) {
         const pid_t writer = spawnWorker({"write", file.string()});
-        const pid_t reader = spawnWorker({"read", file.string(), "20"});
+        const pid_t reader = spawnWorker({"read", file.string(), "10"});
         std::this_thread::sleep_for(std::chrono::milliseconds(wait(random)));
         ::kill(writer, SIGKILL);
         int status = 0;

@@ -45,12 +45,13 @@ double samplesUpTo(const HistoryStore& store)
 }
 
 // Polls the stitched hourly series: every byte ever written is in it exactly
-// once, however far the writer's compactions have got.
+// once, however far the writer's compactions have got. Each poll opens the
+// file afresh, as each report of the command line and the MCP server does.
 int read(const char* file, int times)
 {
     try {
-        HistoryStore store(file, true);
         for (int i = 0; i < times; ++i) {
+            const HistoryStore store(file, true);
             const double before = samplesUpTo(store);
             double bytes = 0;
             for (const auto& hour : store.series(HistoryTier::hour, 0, 1e12))
