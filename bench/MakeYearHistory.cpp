@@ -1,8 +1,8 @@
 // Writes a full year of history as the desktop app leaves it after running
 // all year: hourly points for 365 days, ten-minute points for 35 days, minutes
 // for 49 hours and 5-second samples for 3 hours, eight apps with every point,
-// watermarks at the edges between tiers. For timing the history and spikes
-// reports on a full file.
+// each tier rolled up to its current bucket. For timing the history and
+// spikes reports on a full file.
 // Usage: vexel_make_year_history <data folder> [now]
 
 #include "history/HistoryStore.h"
@@ -66,17 +66,18 @@ int main(int argc, char** argv)
     const double now = argc > 2 ? std::strtod(argv[2], nullptr) : currentTime();
     const std::string file = std::string(argv[1]) + "/history.sqlite";
     HistoryStore store(file, false);
-    const double hourEdge = std::floor((now - 35 * 86400.0) / 3600) * 3600;
-    const double tenEdge = std::floor((now - 49 * 3600.0) / 600) * 600;
-    const double minuteEdge = std::floor((now - 3 * 3600.0) / 60) * 60;
+    // Compaction rolls every ended bucket up at once, so each tier runs up to
+    // the start of its current bucket (its watermark) and back as far as it is
+    // kept; only the raw samples reach the present.
     store.batch([&] {
-        writeTier(store, HistoryTier::hour, hourEdge - 330 * 86400.0, hourEdge, 3600);
-        writeTier(store, HistoryTier::tenMinutes, hourEdge - 86400.0, tenEdge, 600);
-        writeTier(store, HistoryTier::minute, tenEdge - 3600, minuteEdge, 60);
-        writeTier(store, HistoryTier::raw, minuteEdge - 600, now, 5);
-        store.setMeta("rolled3", hourEdge);
-        store.setMeta("rolled2", tenEdge);
-        store.setMeta("rolled1", minuteEdge);
+        for (const auto tier : {HistoryTier::hour, HistoryTier::tenMinutes, HistoryTier::minute}) {
+            const double size = bucketSeconds(tier);
+            const double edge = std::floor(now / size) * size;
+            writeTier(store, tier, edge - std::floor(keepSeconds(tier, 365) / size) * size, edge, size);
+            store.setMeta("rolled" + std::to_string(static_cast<int>(tier)), edge);
+        }
+        const double rawStart = std::floor((now - keepSeconds(HistoryTier::raw, 365)) / 5) * 5;
+        writeTier(store, HistoryTier::raw, rawStart, now, 5);
     });
     std::printf("%s: %lld hourly, %lld ten-minute, %lld minute, %lld raw points; %lld bytes\n", file.c_str(),
         static_cast<long long>(store.rowCount(HistoryTier::hour, false)),
