@@ -119,14 +119,21 @@ void HistoryStore::insert(HistoryTier tier, const SysPoint& sys, const std::vect
     }
 }
 
-std::vector<SysPoint> HistoryStore::points(HistoryTier tier, double from, double to) const
+Sqlite::Statement HistoryStore::rangeQuery(const std::string& sql, HistoryTier tier, double from, double to) const
 {
-    const Sqlite::Statement query(m_db.get(),
-        "SELECT t,dur,cpu,cpu_max,mem,mem_max,pressure,swap,disk_r,disk_w,net_in,net_out,gpu,gpu_max,power,battery,"
-        "thermal FROM sys WHERE tier = ? AND t >= ? AND t < ? ORDER BY t");
+    Sqlite::Statement query(m_db.get(), sql);
     query.bind(1, tierValue(tier));
     query.bind(2, from);
     query.bind(3, to);
+    return query;
+}
+
+std::vector<SysPoint> HistoryStore::points(HistoryTier tier, double from, double to) const
+{
+    const auto query = rangeQuery(
+        "SELECT t,dur,cpu,cpu_max,mem,mem_max,pressure,swap,disk_r,disk_w,net_in,net_out,gpu,gpu_max,power,battery,"
+        "thermal FROM sys WHERE tier = ? AND t >= ? AND t < ? ORDER BY t",
+        tier, from, to);
     std::vector<SysPoint> result;
     while (query.next()) {
         SysPoint p;
@@ -154,37 +161,14 @@ std::vector<SysPoint> HistoryStore::points(HistoryTier tier, double from, double
 
 std::vector<AppPoint> HistoryStore::appPoints(HistoryTier tier, double from, double to) const
 {
-    const Sqlite::Statement query(m_db.get(),
+    const auto query = rangeQuery(
         "SELECT t,app,name,dur,cpu,cpu_max,mem,energy,disk,net FROM apps WHERE tier = ? AND t >= ? AND t < ? ORDER BY "
-        "t");
-    query.bind(1, tierValue(tier));
-    query.bind(2, from);
-    query.bind(3, to);
+        "t",
+        tier, from, to);
     std::vector<AppPoint> result;
     while (query.next()) {
         result.push_back(AppPoint{query.real(0), query.real(3), query.text(1), query.text(2), query.real(4),
             query.real(5), query.real(6), query.real(7), query.real(8), query.real(9)});
-    }
-    return result;
-}
-
-std::vector<AppPoint> HistoryStore::appSums(HistoryTier tier, double from, double to) const
-{
-    // max(t) is the only min/max aggregate, so SQLite takes `name` from each
-    // app's latest row; a negative or missing length weighs nothing.
-    const Sqlite::Statement query(m_db.get(),
-        "SELECT max(t),app,name,total(max(dur,0)),total(cpu*max(dur,0)),total(mem*max(dur,0)),"
-        "ifnull(max(cpu_max),0),total(energy),total(disk),total(net) FROM apps WHERE tier = ? AND t >= ? AND t < ? "
-        "GROUP BY app ORDER BY app");
-    query.bind(1, tierValue(tier));
-    query.bind(2, from);
-    query.bind(3, to);
-    std::vector<AppPoint> result;
-    while (query.next()) {
-        const double weight = query.real(3);
-        const auto mean = [&](int column) { return weight > 0 ? query.real(column) / weight : 0; };
-        result.push_back(AppPoint{query.real(0), weight, query.text(1), query.text(2), mean(4), query.real(6), mean(5),
-            query.real(7), query.real(8), query.real(9)});
     }
     return result;
 }

@@ -33,10 +33,6 @@ public:
     // Rows of a tier with from ≤ t < to, ascending t.
     [[nodiscard]] std::vector<SysPoint> points(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> appPoints(HistoryTier tier, double from, double to) const;
-    // One point per app over a tier's rows with from ≤ t < to, in key order:
-    // t and name of its latest row, dur the summed lengths, CPU and memory
-    // their means over that time, the peak CPU, amounts summed.
-    [[nodiscard]] std::vector<AppPoint> appSums(HistoryTier tier, double from, double to) const;
 
     // Removes the rows of a tier older than `before`; a cutoff that is not finite removes nothing.
     void erase(HistoryTier tier, double before);
@@ -61,12 +57,6 @@ public:
     // failing read gives what could be read.
     [[nodiscard]] std::vector<SysPoint> series(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> appSeries(HistoryTier tier, double from, double to) const;
-    // The same app points summed per app, fit for Downsample::rollupApps over
-    // the whole period: stored rows come summed by SQLite, one point per app
-    // in key order with the name of its latest row and its length as `dur`,
-    // then the points past the watermark as appSeries gives them. A year of
-    // hourly rows is summed without reading each of them.
-    [[nodiscard]] std::vector<AppPoint> appTotals(HistoryTier tier, double from, double to) const;
     // The finest rolled tier whose data reaches back to `from` (minute, ten minutes, else hour).
     [[nodiscard]] HistoryTier coveringTier(double from) const;
 
@@ -101,6 +91,8 @@ private:
     // for no row, NULL or any failure (the readers that report 0 or absent).
     [[nodiscard]] std::optional<double> scalar(const std::string& sql, std::optional<HistoryTier> tier) const;
     [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
+    // A query of a tier's rows with from ≤ t < to: tier, from and to are its parameters 1, 2 and 3.
+    [[nodiscard]] Sqlite::Statement rangeQuery(const std::string& sql, HistoryTier tier, double from, double to) const;
     void rollUp(HistoryTier target, double now);
     [[nodiscard]] std::vector<SysPoint> stitchedSeries(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> stitchedAppSeries(HistoryTier tier, double from, double to) const;

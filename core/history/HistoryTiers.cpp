@@ -155,24 +155,6 @@ std::vector<AppPoint> HistoryStore::appSeries(HistoryTier tier, double from, dou
     return stitchedAppSeries(tier, from, to);
 }
 
-std::vector<AppPoint> HistoryStore::appTotals(HistoryTier tier, double from, double to) const
-{
-    const ReadSnapshot snapshot(*this);
-    try {
-        if (tier == HistoryTier::raw)
-            return appSums(HistoryTier::raw, from, to);
-        const double edge = watermark(tier).value_or(from);
-        auto result = appSums(tier, from, std::min(edge, to));
-        if (edge < to) {
-            const auto live = stitchedAppSeries(tier, std::max(edge, from), to);
-            result.insert(result.end(), live.begin(), live.end());
-        }
-        return result;
-    } catch (const HistoryError&) {
-        return {};
-    }
-}
-
 HistoryStore::ReadSnapshot::ReadSnapshot(const HistoryStore& store)
     : m_store(store)
 {

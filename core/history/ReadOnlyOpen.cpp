@@ -41,7 +41,12 @@ void registerVfs()
 int open(const std::string& uri, sqlite3** handle)
 {
     constexpr int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_FULLMUTEX;
-    return ::sqlite3_open_v2(uri.c_str(), handle, flags, vfsName);
+    const int result = ::sqlite3_open_v2(uri.c_str(), handle, flags, vfsName);
+    // Sorting or grouping more rows than the page cache holds would spill to
+    // temporary files, which the layer above cannot create: keep them in memory.
+    if (result == SQLITE_OK)
+        ::sqlite3_exec(*handle, "PRAGMA temp_store=MEMORY", nullptr, nullptr, nullptr);
+    return result;
 }
 
 int openThroughLog(const std::string& uri, sqlite3** handle, int busyMilliseconds)

@@ -63,7 +63,7 @@ json VexelService::history(HistoryRange range)
         {"memory_avg_percent", percent(whole.mem)}, {"memory_peak_percent", percent(whole.memMax)},
         {"disk_written_bytes", wholeBytes(whole.diskW)}, {"disk_read_bytes", wholeBytes(whole.diskR)},
         {"network_in_bytes", wholeBytes(whole.netIn)}, {"network_out_bytes", wholeBytes(whole.netOut)},
-        {"busiest_apps", busiestApps(store->appTotals(tier(range), from, to), from, whole.dur)},
+        {"busiest_apps", busiestApps(store->appSeries(tier(range), from, to), from, whole.dur)},
         {"note",
             "CPU is the share of the whole machine; averages weigh each sample by its length. Busiest apps are "
             "ranked by CPU core-hours (one core fully busy for an hour is 1)."}};

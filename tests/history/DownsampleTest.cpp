@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <filesystem>
 
 using namespace vexel;
@@ -159,44 +158,6 @@ TEST_F(Compaction, NothingExpiresBeforeItIsRolledUp)
     EXPECT_EQ(m_store->rowCount(HistoryTier::tenMinutes, false), 1);
     EXPECT_EQ(m_store->rowCount(HistoryTier::hour, false), 1);
     EXPECT_EQ(m_store->points(HistoryTier::hour, 0, 1e9).front().diskW, 120 * 1000.0);
-}
-
-// Summing stored rows in SQL must give what rolling up every row gives: the
-// same CPU, memory, peaks and amounts per app, and the name of its latest row.
-TEST_F(Compaction, AppTotalsRollUpLikeTheWholeSeries)
-{
-    const double start = 3600 * 100;
-    m_store->batch([&] {
-        for (double t = start; t < start + 3 * 3600 + 600; t += 5) {
-            const bool late = t >= start + 5400;
-            AppPoint renamed = app(t, 5, "app:y", late ? 0.9 : 0.1, late ? 4e8 : 1e8);
-            renamed.name = late ? "Y new" : "Y old";
-            m_store->append(at(t, 5, 0.5), {app(t, 5, "app:x", std::fmod(t, 60) / 60, 2e8), renamed});
-        }
-    });
-    m_store->compact(start + 3 * 3600 + 600, 365);
-    ASSERT_EQ(m_store->watermark(HistoryTier::hour), start + 3 * 3600); // three stored hours and a live part
-    for (const double from : {start, start + 3600}) {
-        const double to = start + 4 * 3600;
-        const double covered = 3 * 3600 + 600 - (from - start);
-        const auto whole = Downsample::rollupApps(m_store->appSeries(HistoryTier::hour, from, to), from, covered, 8);
-        const auto summed = Downsample::rollupApps(m_store->appTotals(HistoryTier::hour, from, to), from, covered, 8);
-        ASSERT_EQ(summed.size(), whole.size());
-        for (size_t i = 0; i < whole.size(); ++i) {
-            EXPECT_EQ(summed[i].app, whole[i].app);
-            EXPECT_EQ(summed[i].name, whole[i].name);
-            EXPECT_NEAR(summed[i].cpu, whole[i].cpu, 1e-9);
-            EXPECT_NEAR(summed[i].mem, whole[i].mem, 1e-3);
-            EXPECT_EQ(summed[i].cpuMax, whole[i].cpuMax);
-            EXPECT_NEAR(summed[i].disk, whole[i].disk, 1e-6);
-            EXPECT_EQ(summed[i].dur, whole[i].dur);
-        }
-        EXPECT_EQ(whole.front().name, "Y new");
-    }
-    const auto stored = m_store->appTotals(HistoryTier::hour, start, start + 3 * 3600);
-    ASSERT_EQ(stored.size(), 2u); // one point per app
-    EXPECT_EQ(stored[1].name, "Y new");
-    EXPECT_EQ(stored[1].t, start + 2 * 3600);
 }
 
 TEST(HistoryRange, PeriodsTiersAndBars)

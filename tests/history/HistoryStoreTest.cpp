@@ -1,5 +1,6 @@
 #include "history/HistoryStore.h"
 #include "history/Downsample.h"
+#include "history/ReadOnlyOpen.h"
 
 #include "support/TempFolder.h"
 
@@ -226,4 +227,33 @@ TEST(Downsample, SelectStoresEachAppOnce)
     EXPECT_EQ(chosen[0].app, "a");
     EXPECT_EQ(chosen[1].app, "b");
     EXPECT_TRUE(Downsample::select({}, 8).empty());
+}
+
+// Grouping a year of hourly rows for eight apps sorts more than the page
+// cache holds; a reader, which may not create temporary files, still does it.
+TEST_F(StoreFile, AReaderSortsMoreRowsThanItsCacheHolds)
+{
+    constexpr int hours = 8760;
+    {
+        HistoryStore writer(file(), false);
+        writer.batch([&] {
+            for (int h = 0; h < hours; ++h) {
+                std::vector<AppPoint> apps;
+                for (int a = 0; a < 8; ++a)
+                    apps.push_back(AppPoint{h * 3600.0, 3600, "app:" + std::to_string(a), "App", 0.5, 1, 1e8, 0, 1, 0});
+                writer.insert(HistoryTier::hour, sysAt(h * 3600.0), apps);
+            }
+        });
+    }
+    sqlite3* handle = nullptr;
+    ASSERT_EQ(Sqlite::openReadOnly(file(), &handle, Sqlite::waitMilliseconds), SQLITE_OK);
+    const Sqlite::Database reader(handle);
+    const Sqlite::Statement grouped(
+        reader.get(), "SELECT app, count(*), total(dur * cpu), total(mem), total(disk) FROM apps GROUP BY app");
+    int apps = 0;
+    while (grouped.next()) {
+        ++apps;
+        EXPECT_EQ(grouped.integer(1), hours);
+    }
+    EXPECT_EQ(apps, 8);
 }
