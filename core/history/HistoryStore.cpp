@@ -42,21 +42,14 @@ int64_t sizeOf(const std::string& path)
 
 HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     : m_file(std::move(file))
+    , m_readOnly(readOnly)
 {
     if (!readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());
-    sqlite3* handle = nullptr;
-    const int result = readOnly ? Sqlite::openReadOnly(m_file, &handle, Sqlite::waitMilliseconds)
-                                : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
-    if (result != SQLITE_OK) {
-        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
-        ::sqlite3_close(handle);
-        throw HistoryError(HistoryError::Kind::open, message);
-    }
-    m_db = Sqlite::Database(handle);
-    ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
+    connect();
     if (readOnly)
         return;
+    sqlite3* handle = m_db.get();
     // The log and its index stay when the last writer closes, so that readers,
     // which open nothing for writing, can always read through them.
     int persist = 1;
@@ -65,6 +58,37 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
     m_db.exec("PRAGMA journal_mode=WAL");
     m_db.exec("PRAGMA synchronous=NORMAL");
     m_db.exec(schema);
+}
+
+void HistoryStore::connect() const
+{
+    sqlite3* handle = nullptr;
+    const int result = m_readOnly ? Sqlite::openReadOnly(m_file, &handle, Sqlite::waitMilliseconds)
+                                  : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
+    if (result != SQLITE_OK) {
+        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
+        ::sqlite3_close(handle);
+        throw HistoryError(HistoryError::Kind::open, message);
+    }
+    m_db = Sqlite::Database(handle);
+    ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
+}
+
+void HistoryStore::reconnectIfRefused() const
+{
+    if (!m_readOnly || m_txDepth > 0)
+        return;
+    const int result = ::sqlite3_exec(m_db.get(), "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+    if (!Sqlite::transient(result))
+        return;
+    // The old connection goes first: a second one in this process would
+    // share its view of the index.
+    m_db = Sqlite::Database();
+    try {
+        connect();
+    } catch (const HistoryError&) {
+        // Without a connection every read fails, and the readers give nothing.
+    }
 }
 
 void HistoryStore::append(const SysPoint& sys, std::vector<AppPoint> apps)

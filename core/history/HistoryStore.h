@@ -112,8 +112,19 @@ private:
     void expire(double now, int retentionDays);
     [[nodiscard]] int64_t pragma(const char* name) const;
 
+    // Opens the connection; raises HistoryError (open) when SQLite cannot.
+    void connect() const;
+    // A reader's connection opened while the app was running trusts the app's
+    // shared index of its log. If the app died while rewriting that index,
+    // the connection is refused from then on ("read-only" answers), while a
+    // new one, with no writer alive, reads the log itself. So a read-only
+    // store whose next read would be refused opens its connection again.
+    void reconnectIfRefused() const;
+
     std::filesystem::path m_file;
-    Sqlite::Database m_db;
+    bool m_readOnly = false;
+    // Replaced, never changed, when a reader reconnects: the rows it reads stay the same.
+    mutable Sqlite::Database m_db;
     int m_txDepth = 0;
     Sqlite::Statement m_insertSys;
     Sqlite::Statement m_insertApp;

@@ -4,11 +4,13 @@
 
 #include "history/HistoryStore.h"
 #include "history/Sqlite.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <random>
 #include <set>
@@ -103,4 +105,35 @@ TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
     expectWatermarksMatchRows(store);
     EXPECT_GT(store.rowCount(HistoryTier::raw, false), 0);
     fs::remove_all(folder);
+}
+
+// A writer killed while it rewrites the shared index of its log leaves the
+// index unusable. A reader that opened while the writer lived trusts that
+// index and cannot repair it; it must still read every committed row.
+TEST(CrashSafety, AReaderOutlivesAWriterThatDiedRewritingItsIndex)
+{
+    const vexel::testing::TempFolder folder("vexel-index");
+    const auto file = folder.path() / "history.sqlite";
+    {
+        HistoryStore create(file, false);
+    }
+    const pid_t writer = spawnWorker({"write", file.string()});
+    std::unique_ptr<HistoryStore> reader;
+    for (int tries = 0; tries < 500 && (!reader || reader->series(HistoryTier::raw, 0, 1e12).empty()); ++tries) {
+        reader.reset();
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        reader = std::make_unique<HistoryStore>(file, true);
+    }
+    ::kill(writer, SIGKILL);
+    int status = 0;
+    ::waitpid(writer, &status, 0);
+    const auto before = reader->series(HistoryTier::raw, 0, 1e12).size();
+    ASSERT_GT(before, 0u);
+    // Both copies of the index header, as a writer killed mid-way may leave them.
+    const int index = ::open((file.string() + "-shm").c_str(), O_WRONLY);
+    ASSERT_GE(index, 0);
+    const std::string zeros(96, '\0');
+    ASSERT_EQ(::pwrite(index, zeros.data(), zeros.size(), 0), static_cast<ssize_t>(zeros.size()));
+    ::close(index);
+    EXPECT_GE(reader->series(HistoryTier::raw, 0, 1e12).size(), before);
 }

@@ -40,7 +40,7 @@ int write(const char* file)
 // Samples written so far, from the newest raw sample (raw rows outlive every roll-up).
 double samplesUpTo(const HistoryStore& store)
 {
-    const auto raw = store.points(HistoryTier::raw, 0, 1e12);
+    const auto raw = store.series(HistoryTier::raw, 0, 1e12);
     return raw.empty() ? 0 : (raw.back().t - firstSample) / 5 + 1;
 }
 
