@@ -74,21 +74,31 @@ void HistoryStore::connect() const
     ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
 }
 
-void HistoryStore::reconnectIfRefused() const
+int HistoryStore::tryStartRead() const
 {
-    if (!m_readOnly || m_txDepth > 0)
-        return;
-    const int result = ::sqlite3_exec(m_db.get(), "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
-    if (!Sqlite::transient(result))
-        return;
+    const int result
+        = ::sqlite3_exec(m_db.get(), "BEGIN; SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK)
+        ::sqlite3_exec(m_db.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    return result;
+}
+
+bool HistoryStore::startRead() const
+{
+    const int result = tryStartRead();
+    if (result == SQLITE_OK)
+        return true;
+    if (!m_readOnly || !Sqlite::transient(result))
+        return false;
     // The old connection goes first: a second one in this process would
-    // share its view of the index.
+    // share its view of the index. The new one waits out a writer's recovery.
     m_db = Sqlite::Database();
     try {
         connect();
     } catch (const HistoryError&) {
-        // Without a connection every read fails, and the readers give nothing.
+        return false; // without a connection every read fails, and the readers give nothing
     }
+    return tryStartRead() == SQLITE_OK;
 }
 
 void HistoryStore::append(const SysPoint& sys, std::vector<AppPoint> apps)

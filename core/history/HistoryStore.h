@@ -114,12 +114,16 @@ private:
 
     // Opens the connection; raises HistoryError (open) when SQLite cannot.
     void connect() const;
-    // A reader's connection opened while the app was running trusts the app's
-    // shared index of its log. If the app died while rewriting that index,
-    // the connection is refused from then on ("read-only" answers), while a
-    // new one, with no writer alive, reads the log itself. So a read-only
-    // store whose next read would be refused opens its connection again.
-    void reconnectIfRefused() const;
+    // Starts a read transaction and takes its snapshot at once, so that no
+    // later read in it can be refused; false when it cannot (read without).
+    // A read-only connection can be refused in two ways ("read-only"
+    // answers): while the app recovers its log after a crash, and, for a
+    // connection opened while the app was running and so trusting its shared
+    // index, for good once the app died rewriting that index. A new
+    // connection waits out the first and, with no writer alive, reads the log
+    // itself in the second; so a refused reader connects again.
+    [[nodiscard]] bool startRead() const;
+    [[nodiscard]] int tryStartRead() const;
 
     std::filesystem::path m_file;
     bool m_readOnly = false;

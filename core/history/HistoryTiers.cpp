@@ -162,13 +162,7 @@ HistoryStore::ReadSnapshot::ReadSnapshot(const HistoryStore& store)
     // read after it; one read transaction sees them all from one moment.
     if (m_store.m_txDepth > 0)
         return;
-    m_store.reconnectIfRefused();
-    try {
-        m_store.m_db.exec("BEGIN");
-        m_open = true;
-    } catch (const HistoryError&) {
-        // Read without the snapshot rather than not at all.
-    }
+    m_open = m_store.startRead(); // without the snapshot, the reads still run
 }
 
 HistoryStore::ReadSnapshot::~ReadSnapshot()

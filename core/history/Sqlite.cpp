@@ -1,8 +1,5 @@
 #include "history/Sqlite.h"
 
-#include <chrono>
-#include <thread>
-
 namespace vexel::Sqlite {
 
 bool transient(int result)
@@ -35,7 +32,6 @@ void Statement::reset() const
 {
     ::sqlite3_reset(m_statement);
     ::sqlite3_clear_bindings(m_statement);
-    m_stepped = false;
 }
 
 void Statement::bind(int index, double value) const
@@ -71,15 +67,7 @@ void Statement::run() const
 
 bool Statement::next() const
 {
-    constexpr int pauseMilliseconds = 5;
-    int result = ::sqlite3_step(m_statement);
-    for (int waited = 0; !m_stepped && transient(result) && waited < waitMilliseconds; waited += pauseMilliseconds) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(pauseMilliseconds));
-        ::sqlite3_reset(m_statement);
-        result = ::sqlite3_step(m_statement);
-    }
-    m_stepped = true;
-    return result == SQLITE_ROW;
+    return ::sqlite3_step(m_statement) == SQLITE_ROW;
 }
 
 std::optional<double> Statement::optionalReal(int column) const

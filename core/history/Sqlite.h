@@ -58,13 +58,11 @@ public:
     ~Statement() { ::sqlite3_finalize(m_statement); }
     Statement(Statement&& other) noexcept
         : m_statement(std::exchange(other.m_statement, nullptr))
-        , m_stepped(other.m_stepped)
     {
     }
     Statement& operator=(Statement&& other) noexcept
     {
         std::swap(m_statement, other.m_statement);
-        std::swap(m_stepped, other.m_stepped);
         return *this;
     }
     Statement(const Statement&) = delete;
@@ -80,9 +78,7 @@ public:
     void bind(int index, std::optional<double> value) const;
     // Steps a write and resets; raises sql "step N" for anything but a row or done.
     void run() const;
-    // Steps a read: true while there is a row. A read that cannot start for a
-    // moment (see `transient`) is tried again for up to `waitMilliseconds`;
-    // once rows came, any failure ends them.
+    // Steps a read: true while there is a row; a failure ends the rows.
     [[nodiscard]] bool next() const;
 
     [[nodiscard]] double real(int column) const { return ::sqlite3_column_double(m_statement, column); }
@@ -93,7 +89,6 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
-    mutable bool m_stepped = false;
 };
 
 } // namespace vexel::Sqlite
