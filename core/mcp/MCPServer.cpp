@@ -143,15 +143,10 @@ json MCPServer::toolsCall(const json& id, const json& params)
     const json arguments
         = argumentsField != params.end() && argumentsField->is_object() ? *argumentsField : json::object();
     try {
-        return success(id, textResult(compact(call(name, arguments)), false));
+        return success(id, textResult(compact(MCPTools::call(m_service, name, arguments)), false));
     } catch (const std::exception& error) {
         return success(id, textResult(error.what(), true));
     }
-}
-
-json MCPServer::call(const std::string& name, const json& arguments)
-{
-    return MCPTools::call(m_service, name, arguments);
 }
 
 } // namespace vexel

@@ -33,9 +33,6 @@ public:
     // The JSON-RPC response to one message; nothing for a notification.
     [[nodiscard]] std::optional<nlohmann::json> respond(const nlohmann::json& message);
 
-    // The report of a tool; raises ReportError (or the report's own error).
-    [[nodiscard]] nlohmann::json call(const std::string& name, const nlohmann::json& arguments);
-
     // Named in "serverInfo"; the entry sets it to the program's version.
     std::string version = "1.0";
 
