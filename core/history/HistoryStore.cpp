@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <sys/stat.h>
 
 namespace vexel {
@@ -30,6 +31,18 @@ constexpr int capDaysPerCompaction = 400;
 long long tierValue(HistoryTier tier)
 {
     return static_cast<long long>(tier);
+}
+
+// SQLite's words for a failed open, with the system's reason when there is
+// one ("unable to open database file (Permission denied)").
+std::string openFailure(sqlite3* handle, int result)
+{
+    if (handle == nullptr)
+        return ::sqlite3_errstr(result);
+    std::string message = ::sqlite3_errmsg(handle);
+    if (const int error = ::sqlite3_system_errno(handle); error != 0)
+        message += std::string(" (") + std::strerror(error) + ")";
+    return message;
 }
 
 int64_t sizeOf(const std::string& path)
@@ -63,10 +76,14 @@ HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
 void HistoryStore::connect() const
 {
     sqlite3* handle = nullptr;
-    const int result = m_readOnly ? Sqlite::openReadOnly(m_file, &handle, Sqlite::waitMilliseconds)
-                                  : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
+    int result = m_readOnly ? Sqlite::openReadOnly(m_file, &handle, Sqlite::waitMilliseconds)
+                            : ::sqlite3_open_v2(m_file.c_str(), &handle, writableFlags, nullptr);
+    if (result == SQLITE_OK && !m_readOnly) {
+        ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
+        result = ::sqlite3_exec(handle, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+    }
     if (result != SQLITE_OK) {
-        const std::string message = handle != nullptr ? ::sqlite3_errmsg(handle) : ::sqlite3_errstr(result);
+        const std::string message = openFailure(handle, result);
         ::sqlite3_close(handle);
         throw HistoryError(HistoryError::Kind::open, message);
     }
@@ -74,31 +91,23 @@ void HistoryStore::connect() const
     ::sqlite3_busy_timeout(handle, Sqlite::waitMilliseconds);
 }
 
-int HistoryStore::tryStartRead() const
+void HistoryStore::startRead() const
 {
-    const int result
-        = ::sqlite3_exec(m_db.get(), "BEGIN; SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
-    if (result != SQLITE_OK)
+    for (int attempt = 0;; ++attempt) {
+        const int result
+            = ::sqlite3_exec(m_db.get(), "BEGIN; SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+        if (result == SQLITE_OK)
+            return;
+        const HistoryError error = Sqlite::failure(m_db.get(), result);
         ::sqlite3_exec(m_db.get(), "ROLLBACK", nullptr, nullptr, nullptr);
-    return result;
-}
-
-bool HistoryStore::startRead() const
-{
-    const int result = tryStartRead();
-    if (result == SQLITE_OK)
-        return true;
-    if (!m_readOnly || !Sqlite::transient(result))
-        return false;
-    // The old connection goes first: a second one in this process would
-    // share its view of the index. The new one waits out a writer's recovery.
-    m_db = Sqlite::Database();
-    try {
+        if (attempt > 0 || !m_readOnly || !Sqlite::transient(result))
+            throw error;
+        // The old connection goes first: a second one in this process would
+        // share its view of the index. The new one waits out a writer's
+        // recovery; when it cannot connect, that error is the answer.
+        m_db = Sqlite::Database();
         connect();
-    } catch (const HistoryError&) {
-        return false; // without a connection every read fails, and the readers give nothing
     }
-    return tryStartRead() == SQLITE_OK;
 }
 
 void HistoryStore::append(const SysPoint& sys, std::vector<AppPoint> apps)
@@ -221,15 +230,11 @@ void HistoryStore::erase(HistoryTier tier, double before)
 
 std::optional<double> HistoryStore::meta(const std::string& key) const
 {
-    try {
-        const Sqlite::Statement query(m_db.get(), "SELECT value FROM meta WHERE key = ?");
-        query.bind(1, key);
-        if (!query.next() || query.isNull(0))
-            return std::nullopt;
-        return TextScan::toDouble(query.text(0));
-    } catch (const HistoryError&) {
+    const Sqlite::Statement query(m_db.get(), "SELECT value FROM meta WHERE key = ?");
+    query.bind(1, key);
+    if (!query.next() || query.isNull(0))
         return std::nullopt;
-    }
+    return TextScan::toDouble(query.text(0));
 }
 
 void HistoryStore::setMeta(const std::string& key, double value)
@@ -281,16 +286,12 @@ void HistoryStore::batch(const std::function<void()>& body)
 
 std::optional<double> HistoryStore::scalar(const std::string& sql, std::optional<HistoryTier> tier) const
 {
-    try {
-        const Sqlite::Statement query(m_db.get(), sql);
-        if (tier)
-            query.bind(1, tierValue(*tier));
-        if (!query.next() || query.isNull(0))
-            return std::nullopt;
-        return query.real(0);
-    } catch (const HistoryError&) {
+    const Sqlite::Statement query(m_db.get(), sql);
+    if (tier)
+        query.bind(1, tierValue(*tier));
+    if (!query.next() || query.isNull(0))
         return std::nullopt;
-    }
+    return query.real(0);
 }
 
 std::optional<double> HistoryStore::earliest(HistoryTier tier) const
@@ -301,7 +302,7 @@ std::optional<double> HistoryStore::earliest(HistoryTier tier) const
 void HistoryStore::enforceCap()
 {
     for (int day = 0; day < capDaysPerCompaction; ++day) {
-        if (maxBytes >= usedBytes())
+        if (maxBytes >= pageBytes())
             return;
         const auto oldest = earliest(HistoryTier::hour);
         if (!oldest)
@@ -315,9 +316,18 @@ int64_t HistoryStore::pragma(const char* name) const
     return static_cast<int64_t>(scalar(std::string("PRAGMA ") + name, std::nullopt).value_or(0));
 }
 
-int64_t HistoryStore::usedBytes() const
+int64_t HistoryStore::pageBytes() const
 {
     return (pragma("page_count") - pragma("freelist_count")) * pragma("page_size");
+}
+
+int64_t HistoryStore::usedBytes() const
+{
+    try {
+        return pageBytes();
+    } catch (const HistoryError&) {
+        return 0;
+    }
 }
 
 int64_t HistoryStore::fileBytes() const
@@ -334,9 +344,13 @@ void HistoryStore::eraseAll()
 std::optional<double> HistoryStore::firstSample() const
 {
     std::optional<double> first;
-    for (const auto tier : {HistoryTier::raw, HistoryTier::minute, HistoryTier::tenMinutes, HistoryTier::hour}) {
-        if (const auto t = earliest(tier); t && (!first || *t < *first))
-            first = t;
+    try {
+        for (const auto tier : allHistoryTiers) {
+            if (const auto t = earliest(tier); t && (!first || *t < *first))
+                first = t;
+        }
+    } catch (const HistoryError&) {
+        return std::nullopt;
     }
     return first;
 }
@@ -344,7 +358,11 @@ std::optional<double> HistoryStore::firstSample() const
 int64_t HistoryStore::rowCount(HistoryTier tier, bool apps) const
 {
     const std::string table = apps ? "apps" : "sys";
-    return static_cast<int64_t>(scalar("SELECT COUNT(*) FROM " + table + " WHERE tier = ?", tier).value_or(0));
+    try {
+        return static_cast<int64_t>(scalar("SELECT COUNT(*) FROM " + table + " WHERE tier = ?", tier).value_or(0));
+    } catch (const HistoryError&) {
+        return 0;
+    }
 }
 
 } // namespace vexel

@@ -37,7 +37,7 @@ public:
     // Removes the rows of a tier older than `before`; a cutoff that is not finite removes nothing.
     void erase(HistoryTier tier, double before);
 
-    // A stored number; absent when missing, unreadable or the read fails.
+    // A stored number; absent when missing or not a number. Raises when the read fails.
     [[nodiscard]] std::optional<double> meta(const std::string& key) const;
     void setMeta(const std::string& key, double value);
     // How far the tier below has been rolled into `tier` ("rolled1"…).
@@ -53,8 +53,9 @@ public:
     void compact(double now, int retentionDays);
 
     // A tier's points from `from` to `to`, completed past the tier's watermark
-    // by regrouping the finer tiers, down to raw samples. Never raises: a
-    // failing read gives what could be read.
+    // by regrouping the finer tiers, down to raw samples, all read in one read
+    // transaction. A failing read raises HistoryError: a history that cannot
+    // be read never passes for an empty one.
     [[nodiscard]] std::vector<SysPoint> series(HistoryTier tier, double from, double to) const;
     [[nodiscard]] std::vector<AppPoint> appSeries(HistoryTier tier, double from, double to) const;
     // The finest rolled tier whose data reaches back to `from` (minute, ten minutes, else hour).
@@ -66,7 +67,7 @@ public:
         double netIn = 0;
         double netOut = 0;
     };
-    // Bytes read, written, received and sent over a period.
+    // Bytes read, written, received and sent over a period; raises as series does.
     [[nodiscard]] Totals totals(double from, double to) const;
 
     // Trims the oldest day of hourly data while the file uses more than
@@ -79,8 +80,9 @@ public:
     [[nodiscard]] int64_t fileBytes() const;
     // Deletes every point and watermark (the schema mark stays) and gives the space back.
     void eraseAll();
-    // The earliest point of any tier.
+    // The earliest point of any tier; absent when there is none or it cannot be read.
     [[nodiscard]] std::optional<double> firstSample() const;
+    // The rows of a tier in `sys`, or in `apps`; 0 when they cannot be counted.
     [[nodiscard]] int64_t rowCount(HistoryTier tier, bool apps) const;
 
     int64_t maxBytes = 64'000'000;
@@ -88,7 +90,7 @@ public:
 
 private:
     // The first column of a one-row query, bound to `tier` when given; nothing
-    // for no row, NULL or any failure (the readers that report 0 or absent).
+    // for no row or NULL. Raises when the query fails.
     [[nodiscard]] std::optional<double> scalar(const std::string& sql, std::optional<HistoryTier> tier) const;
     [[nodiscard]] std::optional<double> earliest(HistoryTier tier) const;
     // A query of a tier's rows with from ≤ t < to: tier, from and to are its parameters 1, 2 and 3.
@@ -111,19 +113,20 @@ private:
     };
     void expire(double now, int retentionDays);
     [[nodiscard]] int64_t pragma(const char* name) const;
+    // usedBytes, raising when a size cannot be read.
+    [[nodiscard]] int64_t pageBytes() const;
 
     // Opens the connection; raises HistoryError (open) when SQLite cannot.
     void connect() const;
     // Starts a read transaction and takes its snapshot at once, so that no
-    // later read in it can be refused; false when it cannot (read without).
+    // later read in it can be refused; raises when it cannot.
     // A read-only connection can be refused in two ways ("read-only"
     // answers): while the app recovers its log after a crash, and, for a
     // connection opened while the app was running and so trusting its shared
     // index, for good once the app died rewriting that index. A new
     // connection waits out the first and, with no writer alive, reads the log
     // itself in the second; so a refused reader connects again.
-    [[nodiscard]] bool startRead() const;
-    [[nodiscard]] int tryStartRead() const;
+    void startRead() const;
 
     std::filesystem::path m_file;
     bool m_readOnly = false;

@@ -84,40 +84,32 @@ void HistoryStore::compact(double now, int retentionDays)
 
 std::vector<SysPoint> HistoryStore::stitchedSeries(HistoryTier tier, double from, double to) const
 {
-    try {
-        if (tier == HistoryTier::raw)
-            return points(HistoryTier::raw, from, to);
-        const double edge = watermark(tier).value_or(from);
-        auto result = points(tier, from, std::min(edge, to));
-        if (edge < to) {
-            const auto live
-                = Downsample::regroup(stitchedSeries(*finer(tier), std::max(edge, from), to), bucketSeconds(tier));
-            result.insert(result.end(), live.begin(), live.end());
-        }
-        return result;
-    } catch (const HistoryError&) {
-        return {};
+    if (tier == HistoryTier::raw)
+        return points(HistoryTier::raw, from, to);
+    const double edge = watermark(tier).value_or(from);
+    auto result = points(tier, from, std::min(edge, to));
+    if (edge < to) {
+        const auto live
+            = Downsample::regroup(stitchedSeries(*finer(tier), std::max(edge, from), to), bucketSeconds(tier));
+        result.insert(result.end(), live.begin(), live.end());
     }
+    return result;
 }
 
 std::vector<AppPoint> HistoryStore::stitchedAppSeries(HistoryTier tier, double from, double to) const
 {
-    try {
-        if (tier == HistoryTier::raw)
-            return appPoints(HistoryTier::raw, from, to);
-        const double edge = watermark(tier).value_or(from);
-        auto result = appPoints(tier, from, std::min(edge, to));
-        if (edge < to) {
-            const HistoryTier source = *finer(tier);
-            const double start = std::max(edge, from);
-            const auto live = Downsample::regroupApps(stitchedAppSeries(source, start, to),
-                stitchedSeries(source, start, to), bucketSeconds(tier), appsPerSample);
-            result.insert(result.end(), live.begin(), live.end());
-        }
-        return result;
-    } catch (const HistoryError&) {
-        return {};
+    if (tier == HistoryTier::raw)
+        return appPoints(HistoryTier::raw, from, to);
+    const double edge = watermark(tier).value_or(from);
+    auto result = appPoints(tier, from, std::min(edge, to));
+    if (edge < to) {
+        const HistoryTier source = *finer(tier);
+        const double start = std::max(edge, from);
+        const auto live = Downsample::regroupApps(stitchedAppSeries(source, start, to),
+            stitchedSeries(source, start, to), bucketSeconds(tier), appsPerSample);
+        result.insert(result.end(), live.begin(), live.end());
     }
+    return result;
 }
 
 HistoryTier HistoryStore::coveringTier(double from) const
@@ -162,7 +154,8 @@ HistoryStore::ReadSnapshot::ReadSnapshot(const HistoryStore& store)
     // read after it; one read transaction sees them all from one moment.
     if (m_store.m_txDepth > 0)
         return;
-    m_open = m_store.startRead(); // without the snapshot, the reads still run
+    m_store.startRead();
+    m_open = true;
 }
 
 HistoryStore::ReadSnapshot::~ReadSnapshot()

@@ -13,6 +13,8 @@ namespace vexel::Sqlite {
 namespace {
 
 constexpr const char* vfsName = "vexel-read-only";
+// A first read: it fails on a file that is not a database, and waits out a writer's recovery.
+constexpr const char* probe = "SELECT count(*) FROM sqlite_schema";
 
 sqlite3_vfs* baseVfs = nullptr;
 
@@ -57,7 +59,7 @@ int openThroughLog(const std::string& uri, sqlite3** handle, int busyMillisecond
         if (result == SQLITE_OK) {
             ::sqlite3_extended_result_codes(*handle, 1);
             ::sqlite3_busy_timeout(*handle, busyMilliseconds);
-            result = ::sqlite3_exec(*handle, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+            result = ::sqlite3_exec(*handle, probe, nullptr, nullptr, nullptr);
             if (result == SQLITE_OK)
                 return SQLITE_OK;
         }
@@ -101,7 +103,9 @@ int openReadOnly(const std::filesystem::path& file, sqlite3** handle, int busyMi
         ::sqlite3_close(*handle);
         *handle = nullptr;
     }
-    return open(uri + "?immutable=1", handle);
+    const int result = open(uri + "?immutable=1", handle);
+    // Opening reads nothing yet; the first read tells a database from other bytes.
+    return result == SQLITE_OK ? ::sqlite3_exec(*handle, probe, nullptr, nullptr, nullptr) : result;
 }
 
 } // namespace vexel::Sqlite

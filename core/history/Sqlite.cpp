@@ -1,6 +1,27 @@
 #include "history/Sqlite.h"
 
+#include <algorithm>
+#include <climits>
+
 namespace vexel::Sqlite {
+
+namespace {
+
+StepFunction stepFunction = ::sqlite3_step;
+
+} // namespace
+
+void replaceStep(StepFunction step)
+{
+    stepFunction = step != nullptr ? step : ::sqlite3_step;
+}
+
+HistoryError failure(sqlite3* db, int result)
+{
+    // The connection's message belongs to the latest call on it, which may not be this failure.
+    const bool hasMessage = db != nullptr && (::sqlite3_errcode(db) & 0xff) == (result & 0xff);
+    return HistoryError(HistoryError::Kind::sql, hasMessage ? ::sqlite3_errmsg(db) : ::sqlite3_errstr(result));
+}
 
 bool transient(int result)
 {
@@ -34,32 +55,37 @@ void Statement::reset() const
     ::sqlite3_clear_bindings(m_statement);
 }
 
+void Statement::check(int result) const
+{
+    if (result != SQLITE_OK)
+        throw failure(::sqlite3_db_handle(m_statement), result);
+}
+
 void Statement::bind(int index, double value) const
 {
-    ::sqlite3_bind_double(m_statement, index, value);
+    check(::sqlite3_bind_double(m_statement, index, value));
 }
 
 void Statement::bind(int index, long long value) const
 {
-    ::sqlite3_bind_int64(m_statement, index, value);
+    check(::sqlite3_bind_int64(m_statement, index, value));
 }
 
 void Statement::bind(int index, const std::string& value) const
 {
-    ::sqlite3_bind_text(m_statement, index, value.c_str(), static_cast<int>(value.size()), SQLITE_TRANSIENT);
+    // Text longer than SQLite's limit (a billion bytes) is refused: "string or blob too big".
+    const auto length = static_cast<int>(std::min<size_t>(value.size(), INT_MAX));
+    check(::sqlite3_bind_text(m_statement, index, value.c_str(), length, SQLITE_TRANSIENT));
 }
 
 void Statement::bind(int index, std::optional<double> value) const
 {
-    if (value)
-        ::sqlite3_bind_double(m_statement, index, *value);
-    else
-        ::sqlite3_bind_null(m_statement, index);
+    check(value ? ::sqlite3_bind_double(m_statement, index, *value) : ::sqlite3_bind_null(m_statement, index));
 }
 
 void Statement::run() const
 {
-    const int result = ::sqlite3_step(m_statement);
+    const int result = stepFunction(m_statement);
     ::sqlite3_reset(m_statement);
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         throw HistoryError(HistoryError::Kind::sql, "step " + std::to_string(result));
@@ -67,7 +93,12 @@ void Statement::run() const
 
 bool Statement::next() const
 {
-    return ::sqlite3_step(m_statement) == SQLITE_ROW;
+    const int result = stepFunction(m_statement);
+    if (result == SQLITE_ROW)
+        return true;
+    if (result == SQLITE_DONE)
+        return false;
+    throw failure(::sqlite3_db_handle(m_statement), result);
 }
 
 std::optional<double> Statement::optionalReal(int column) const

@@ -19,6 +19,17 @@ constexpr int waitMilliseconds = 2000;
 // recovers, and waits that out as it waits out locks.
 [[nodiscard]] bool transient(int result);
 
+// Every statement steps through this function. It is sqlite3_step; tests
+// put a function of their own here to make a chosen step fail, and give
+// nullptr to restore it. Not for use while statements run on other threads.
+using StepFunction = int (*)(sqlite3_stmt*);
+void replaceStep(StepFunction step);
+
+// The error of a statement that failed with `result` on `db`: SQLite's
+// message for the connection, or the text of `result` when the connection's
+// latest error is another one.
+[[nodiscard]] HistoryError failure(sqlite3* db, int result);
+
 // Owns a connection: closed when it goes.
 class Database {
 public:
@@ -72,13 +83,16 @@ public:
     [[nodiscard]] explicit operator bool() const { return m_statement != nullptr; }
 
     void reset() const;
+    // Binds a parameter; raises sql when SQLite refuses (a bad index, too much text).
     void bind(int index, double value) const;
     void bind(int index, long long value) const;
     void bind(int index, const std::string& value) const;
     void bind(int index, std::optional<double> value) const;
     // Steps a write and resets; raises sql "step N" for anything but a row or done.
     void run() const;
-    // Steps a read: true while there is a row; a failure ends the rows.
+    // Steps a read: true at a row, false when the rows are done; raises sql
+    // with SQLite's message when the step fails, so that a failed read never
+    // passes for the end of the rows.
     [[nodiscard]] bool next() const;
 
     [[nodiscard]] double real(int column) const { return ::sqlite3_column_double(m_statement, column); }
@@ -88,6 +102,8 @@ public:
     [[nodiscard]] bool isNull(int column) const { return ::sqlite3_column_type(m_statement, column) == SQLITE_NULL; }
 
 private:
+    void check(int result) const;
+
     sqlite3_stmt* m_statement = nullptr;
 };
 

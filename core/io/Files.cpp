@@ -92,6 +92,12 @@ bool exists(const std::string& path)
     return ::stat(path.c_str(), &info) == 0;
 }
 
+bool missing(const std::string& path)
+{
+    struct stat info { };
+    return ::stat(path.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
 std::optional<std::string> readLink(const std::string& path)
 {
     char target[PATH_MAX];

@@ -25,6 +25,11 @@ namespace vexel::Files {
 // Whether anything (a file, folder or a link to one) exists at `path`.
 [[nodiscard]] bool exists(const std::string& path);
 
+// Whether `path` is known not to exist: true only when the system says there
+// is no such file, not when the path could not be looked at (a folder without
+// permission), so that "nothing there" and "couldn't look" stay apart.
+[[nodiscard]] bool missing(const std::string& path);
+
 // The target of a symbolic link; nothing when `path` is not a readable link.
 [[nodiscard]] std::optional<std::string> readLink(const std::string& path);
 

@@ -68,6 +68,22 @@ size_t readableCount(const std::vector<ProcRecord>& records)
 
 } // namespace
 
+json VexelService::todayPart() const
+{
+    try {
+        const auto store = openStore();
+        if (!store)
+            return nullptr;
+        const double to = m_now();
+        const auto totals = store->totals(start(HistoryRange::today, to, m_calendar), to);
+        return {{"disk_written_bytes", wholeBytes(totals.diskW)}, {"disk_read_bytes", wholeBytes(totals.diskR)},
+            {"network_in_bytes", wholeBytes(totals.netIn)}, {"network_out_bytes", wholeBytes(totals.netOut)}};
+    } catch (const HistoryError&) {
+        // The status stands without today's totals; `history` says what is wrong with the file.
+        return nullptr;
+    }
+}
+
 json VexelService::status()
 {
     const Frame& now = frame();
@@ -86,13 +102,8 @@ json VexelService::status()
         report["gpu"] = {{"percent", percent(system.gpu->utilisation)}, {"name", system.gpu->name}};
     if (system.battery)
         report["battery"] = batteryPart(*system.battery);
-    if (const auto store = openStore()) {
-        const double to = m_now();
-        const auto totals = store->totals(start(HistoryRange::today, to, m_calendar), to);
-        report["today"]
-            = {{"disk_written_bytes", wholeBytes(totals.diskW)}, {"disk_read_bytes", wholeBytes(totals.diskR)},
-                {"network_in_bytes", wholeBytes(totals.netIn)}, {"network_out_bytes", wholeBytes(totals.netOut)}};
-    }
+    if (auto today = todayPart(); !today.is_null())
+        report["today"] = std::move(today);
     report["not_measured"] = ReportTexts::notMeasured(m_platform);
     return report;
 }

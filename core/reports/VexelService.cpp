@@ -1,5 +1,6 @@
 #include "reports/VexelService.h"
 
+#include "io/Files.h"
 #include "reports/ReportError.h"
 
 #include <chrono>
@@ -48,11 +49,9 @@ const Frame& VexelService::frame()
 
 std::unique_ptr<HistoryStore> VexelService::openStore() const
 {
-    try {
-        return std::make_unique<HistoryStore>(m_paths.history(), true);
-    } catch (const HistoryError&) {
+    if (Files::missing(m_paths.history().string()))
         return nullptr;
-    }
+    return std::make_unique<HistoryStore>(m_paths.history(), true);
 }
 
 std::unique_ptr<HistoryStore> VexelService::requireStore() const

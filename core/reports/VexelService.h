@@ -38,7 +38,8 @@ public:
     [[nodiscard]] VexelSettings settings() const;
     // The one frame every report of this service reads, taken on first use.
     [[nodiscard]] const Frame& frame();
-    // The history opened read-only; nothing when there is no file or it will not open.
+    // The history opened read-only; nothing when there is no history file.
+    // Raises HistoryError when the file is there but will not open.
     [[nodiscard]] std::unique_ptr<HistoryStore> openStore() const;
 
     [[nodiscard]] nlohmann::json status();
@@ -49,7 +50,7 @@ public:
     [[nodiscard]] nlohmann::json portsReport();
     [[nodiscard]] nlohmann::json serversReport();
     [[nodiscard]] nlohmann::json dockerReport();
-    // Raise ReportError without history, HistoryError when it cannot be read.
+    // Raise ReportError without history, HistoryError when it will not open or cannot be read.
     [[nodiscard]] nlohmann::json history(HistoryRange range);
     [[nodiscard]] nlohmann::json spikes(double hours);
 
@@ -60,6 +61,8 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<HistoryStore> requireStore() const;
+    // Today's byte totals for the status report; null without a readable history.
+    [[nodiscard]] nlohmann::json todayPart() const;
     // The listening sockets, read once beside the frame; empty when unreadable.
     [[nodiscard]] const std::vector<ListenSocket>& listeners();
 

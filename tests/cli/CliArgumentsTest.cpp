@@ -55,29 +55,39 @@ TEST_F(CliOnDemoWorld, RefusalsAndFailuresGoToErrOnly)
 {
     using Args = std::vector<std::string>;
     const std::string noHistory = "Vexel has no history yet. Open Vexel and leave it running.";
+    const std::string notADatabase = "Couldn't open the history: file is not a database";
     const struct {
         Args args;
-        bool withHistory;
+        History history;
         int status;
         std::string err;
     } cases[] = {
-        {{"top", "--sort", "CPU"}, true, 2, unknownSort}, // sort keys are case-sensitive
-        {{"--cli", "status"}, true, 2, "Unknown command \"--cli\".\n\n" + VexelCLI::usage(Platform::macOS)},
-        {{"stop", "node"}, true, 2, readOnly},
-        {{"kill", "1"}, true, 2, readOnly},
-        {{"quit"}, true, 2, readOnly},
-        {{"app"}, true, 2, "Which app? e.g. vexel app \"Google Chrome\""},
-        {{"app", "Nothing", "Here"}, true, 1, "No running app matches \"Nothing Here\"."},
-        {{"history", "fortnight"}, true, 2, "Use today, week, month or year."},
-        {{"history"}, false, 1, noHistory},
-        {{"spikes", "--json"}, false, 1, noHistory},
+        {{"top", "--sort", "CPU"}, History::recorded, 2, unknownSort}, // sort keys are case-sensitive
+        {{"--cli", "status"}, History::recorded, 2,
+            "Unknown command \"--cli\".\n\n" + VexelCLI::usage(Platform::macOS)},
+        {{"stop", "node"}, History::recorded, 2, readOnly},
+        {{"kill", "1"}, History::recorded, 2, readOnly},
+        {{"quit"}, History::recorded, 2, readOnly},
+        {{"app"}, History::recorded, 2, "Which app? e.g. vexel app \"Google Chrome\""},
+        {{"app", "Nothing", "Here"}, History::recorded, 1, "No running app matches \"Nothing Here\"."},
+        {{"history", "fortnight"}, History::recorded, 2, "Use today, week, month or year."},
+        {{"history"}, History::none, 1, noHistory},
+        {{"spikes", "--json"}, History::none, 1, noHistory},
+        // A broken file is an error, never a quiet day.
+        {{"history", "--json"}, History::corrupt, 1, notADatabase},
+        {{"spikes"}, History::corrupt, 1, notADatabase},
     };
     for (const auto& c : cases) {
-        const auto result = run(c.args, c.withHistory);
+        const auto result = run(c.args, c.history);
         EXPECT_EQ(result.status, c.status) << c.args[0];
         EXPECT_EQ(result.err, std::vector<std::string>{c.err}) << c.args[0];
         EXPECT_TRUE(result.out.empty()) << c.args[0];
     }
+    // The status stands without today's totals when the history is broken.
+    const auto status = run({"status"}, History::corrupt);
+    EXPECT_EQ(status.status, 0);
+    EXPECT_EQ(status.out.at(0).find("Today"), std::string::npos);
+    EXPECT_NE(run({"status"}).out.at(0).find("Today"), std::string::npos);
 }
 
 TEST_F(CliOnDemoWorld, OptionsStandAnywhereAndBadValuesFallBack)

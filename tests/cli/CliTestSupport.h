@@ -28,12 +28,19 @@ protected:
         ::tzset();
     }
 
+    // What the data folder holds.
+    enum class History { recorded, none, corrupt };
+
     // Each run gets a fresh service, as each start of the program does.
-    CliResult run(const std::vector<std::string>& args, bool withHistory = true)
+    CliResult run(const std::vector<std::string>& args, History history = History::recorded)
     {
-        if (withHistory && !std::filesystem::exists(folder.path() / "history.sqlite"))
+        if (history == History::recorded && !std::filesystem::exists(folder.path() / "history.sqlite"))
             writeHistory(folder.path() / "history.sqlite", DemoService(folder.path()).now);
-        DemoService demo(withHistory ? folder.path() : empty.path());
+        if (history == History::corrupt)
+            writeCorruptHistory(corrupt.path() / "history.sqlite");
+        DemoService demo(history == History::recorded ? folder.path()
+                : history == History::none            ? empty.path()
+                                                      : corrupt.path());
         CliResult result;
         result.status = VexelCLI::run(
             args, demo.service, "9.9", [&](const std::string& line) { result.out.push_back(line); },
@@ -43,6 +50,7 @@ protected:
 
     TempFolder folder{"vexel-cli"};
     TempFolder empty{"vexel-cli-empty"};
+    TempFolder corrupt{"vexel-cli-corrupt"};
 };
 
 } // namespace vexel::testing

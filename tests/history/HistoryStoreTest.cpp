@@ -83,8 +83,8 @@ TEST_F(StoreFile, OpenFailuresSayWhy)
         HistoryStore store(file(), false);
         FAIL() << "a file that is not a database must fail";
     } catch (const HistoryError& error) {
-        EXPECT_EQ(error.kind(), HistoryError::Kind::sql);
-        EXPECT_EQ(std::string(error.what()), "History error: file is not a database");
+        EXPECT_EQ(error.kind(), HistoryError::Kind::open);
+        EXPECT_EQ(std::string(error.what()), "Couldn't open the history: file is not a database");
     }
 }
 

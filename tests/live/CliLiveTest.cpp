@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <ctime>
+#include <fstream>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -211,6 +212,39 @@ TEST(CliLive, ExitStatusesAndStreams)
     EXPECT_EQ(mcp.status, 0);
     EXPECT_EQ(mcp.out, "{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":{}}\n");
     EXPECT_TRUE(mcp.err.empty());
+}
+
+// A history that is there but cannot be read is an error with exit status 1,
+// over the command line and the MCP server alike; never a quiet day.
+TEST(CliLive, ABrokenHistoryIsAnErrorNotAQuietDay)
+{
+    TempFolder corrupt("vexel-live");
+    std::ofstream(corrupt.path() / "history.sqlite") << std::string(10000, 'Z');
+    const std::string notADatabase = "Couldn't open the history: file is not a database\n";
+    for (const auto& command : std::vector<std::vector<std::string>>{{"history", "--json"}, {"spikes"}}) {
+        const auto result = vexelIn(corrupt.path(), command);
+        EXPECT_EQ(result.status, 1) << command[0];
+        EXPECT_TRUE(result.out.empty()) << result.out;
+        EXPECT_EQ(result.err, notADatabase);
+    }
+    const auto mcp = vexelIn(corrupt.path(), {"mcp"},
+        R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":"history"}})"
+        "\n");
+    const json answer = jsonOf(mcp);
+    EXPECT_EQ(answer["result"]["isError"], true);
+    EXPECT_EQ(answer["result"]["content"][0]["text"], "Couldn't open the history: file is not a database");
+
+    // Unreadable: as root, without the capabilities that pass over file permissions.
+    TempFolder locked("vexel-live");
+    writeHistoryFile(locked.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
+    std::filesystem::permissions(locked.path() / "history.sqlite", std::filesystem::perms::none);
+    std::vector<std::string> argv{vexelBinary, "history"};
+    if (::geteuid() == 0)
+        argv.insert(argv.begin(), {"setpriv", "--bounding-set=-dac_override,-dac_read_search", "--"});
+    const auto unreadable = runTool(argv, {{{"VEXEL_DATA_DIR", locked.path().string()}}, ""});
+    EXPECT_EQ(unreadable.status, 1);
+    EXPECT_EQ(unreadable.err, "Couldn't open the history: unable to open database file (Permission denied)\n");
+    EXPECT_TRUE(unreadable.out.empty());
 }
 
 TEST(TraceLog, TellsTheProgramFromTheToolsItRuns)

@@ -62,6 +62,14 @@ TEST_F(MCP, EveryErrorRow)
         = answer(R"({"jsonrpc":"2.0","id":12,"method":"tools/call","params":{"name":"history","arguments":[]}})");
     EXPECT_EQ(history["result"]["isError"], true);
     EXPECT_EQ(history["result"]["content"][0]["text"], "Vexel has no history yet. Open Vexel and leave it running.");
+    // A broken history file is a tool error that says so, never an empty history.
+    writeCorruptHistory(folder.path() / "history.sqlite");
+    for (const char* tool : {"history", "spikes"}) {
+        const json broken = answer(
+            R"({"jsonrpc":"2.0","id":13,"method":"tools/call","params":{"name":")" + std::string(tool) + R"("}})");
+        EXPECT_EQ(broken["result"]["isError"], true) << tool;
+        EXPECT_EQ(broken["result"]["content"][0]["text"], "Couldn't open the history: file is not a database");
+    }
 }
 
 TEST_F(MCP, IdsEchoedNotificationsAndBlankLinesSilent)

@@ -1,6 +1,8 @@
 #include "history/HistoryStore.h"
+#include "reports/ReportError.h"
 #include "reports/ReportValues.h"
 #include "support/DemoService.h"
+#include "support/FailingSteps.h"
 #include "support/HistoryFixture.h"
 #include "support/TempFolder.h"
 
@@ -206,4 +208,24 @@ TEST_F(ReportService, ReadingHistoryLeavesTheDataFolderAsItWas)
     DemoService reader(folder.path());
     EXPECT_EQ(reader.service.status()["today"]["disk_written_bytes"], historyMinutes * 1'000'000ULL + 7);
     EXPECT_EQ(folderState(folder.path()), whileWriting);
+}
+
+// A read that fails halfway is the store's error, passed through; only a
+// missing file is "no history yet".
+TEST_F(ReportService, HistoryErrorsArePassedThrough)
+{
+    EXPECT_THROW((void)service.history(HistoryRange::today), ReportError);
+    writeHistory(folder.path() / "history.sqlite", demo.now);
+    {
+        const FailingSteps failing("SELECT t,", 30);
+        try {
+            (void)service.history(HistoryRange::today);
+            FAIL() << "a failed read passed for the end of the history";
+        } catch (const HistoryError& error) {
+            EXPECT_STREQ(error.what(), "History error: disk I/O error");
+        }
+        EXPECT_THROW((void)service.spikes(24), HistoryError);
+        EXPECT_FALSE(service.status().contains("today"));
+    }
+    EXPECT_TRUE(service.status().contains("today"));
 }

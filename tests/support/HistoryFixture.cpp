@@ -3,6 +3,7 @@
 #include "history/HistoryStore.h"
 
 #include <cmath>
+#include <fstream>
 
 namespace vexel::testing {
 
@@ -33,6 +34,12 @@ void writeHistory(const std::filesystem::path& file, double now)
     });
     // As the app leaves it: rolled up into the coarser tiers, old samples expired.
     store.compact(now, 365);
+}
+
+void writeCorruptHistory(const std::filesystem::path& file)
+{
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << std::string(8192, '\x5a');
 }
 
 } // namespace vexel::testing

@@ -11,6 +11,9 @@ namespace vexel::testing {
 // minute: Google Chrome (0.8 cores), node (0.2 cores).
 void writeHistory(const std::filesystem::path& file, double now);
 
+// A history file of bytes that are not a database (as a broken disk or a stray copy leaves it).
+void writeCorruptHistory(const std::filesystem::path& file);
+
 inline constexpr int historyMinutes = 360;
 inline constexpr int spikeStartsMinutesAgo = 120;
 inline constexpr int spikeMinutes = 20;
