@@ -166,8 +166,9 @@ std::vector<ProjectGroup> build(const Inputs& in, ActivityLog& log)
     });
     std::vector<ProjectGroup> groups;
     for (auto& server : servers) {
-        auto group = std::find_if(
-            groups.begin(), groups.end(), [&](const auto& g) { return g.project.path == server.project.path; });
+        // A server whose folder could not be read has no project to share.
+        auto group = std::find_if(groups.begin(), groups.end(),
+            [&](const auto& g) { return !server.project.path.empty() && g.project.path == server.project.path; });
         if (group == groups.end()) {
             groups.push_back(ProjectGroup{server.project, {}});
             group = groups.end() - 1;

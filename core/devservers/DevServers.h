@@ -91,7 +91,9 @@ struct Inputs {
 };
 
 // The developer servers grouped by project (by project name, then path; the
-// servers of a project by first port). Updates and prunes the activity log.
+// servers of a project by first port); a server whose working folder can't
+// be read is a group of its own, named after itself. Updates and prunes the
+// activity log.
 [[nodiscard]] std::vector<ProjectGroup> build(const Inputs& inputs, ActivityLog& log);
 
 } // namespace DevServers

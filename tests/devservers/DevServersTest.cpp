@@ -185,6 +185,31 @@ TEST(DevServers, BuildGroupsByProjectAndFlagsIdleServers)
     EXPECT_TRUE(log.entries().contains("12@1000"));
 }
 
+// A working folder that can't be read names no project: each such server
+// stands alone under its own name instead of sharing the project "".
+TEST(DevServers, ServersWithoutAReadableFolderStandAlone)
+{
+    const std::vector<ListenSocket> listeners{{20, "node", ListenSocket::Family::v4, "127.0.0.1", 3000},
+        {21, "postgres", ListenSocket::Family::v4, "127.0.0.1", 5432},
+        {22, "node", ListenSocket::Family::v4, "127.0.0.1", 3001}};
+    const auto node = proc(20, "node", "/usr/bin/node");
+    const auto postgres = proc(21, "postgres", "/usr/lib/postgresql/15/bin/postgres");
+    const auto otherNode = proc(22, "node", std::nullopt);
+    ActivityLog log;
+    const DevServers::Inputs inputs{listeners, {node, postgres, otherNode}, {},
+        [](int32_t) -> std::optional<std::string> { return std::nullopt; }, home, 501,
+        [](const std::string&) { return false; }, 5000, 2 * 86400};
+    const auto groups = DevServers::build(inputs, log);
+    ASSERT_EQ(groups.size(), 3u);
+    std::vector<std::pair<std::string, int32_t>> seen;
+    for (const auto& group : groups) {
+        ASSERT_EQ(group.servers.size(), 1u) << group.project.name;
+        EXPECT_EQ(group.project.name, group.servers[0].name);
+        seen.emplace_back(group.project.name, group.servers[0].pid);
+    }
+    EXPECT_EQ(seen, (std::vector<std::pair<std::string, int32_t>>{{"node", 20}, {"node", 22}, {"postgres", 21}}));
+}
+
 TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
 {
     const auto tempHome = fs::temp_directory_path() / ("vexel-home-" + std::to_string(::getpid()));
