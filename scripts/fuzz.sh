@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXEL_FUZZ=ON \
+cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXEL_FUZZ=ON -DVEXEL_WERROR=ON \
   -DCMAKE_CXX_COMPILER=clang++-14 >/dev/null
 cmake --build build-fuzz
 

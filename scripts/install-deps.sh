@@ -1,22 +1,36 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages Vexel needs to build, run and test, and only
-# those that are missing. Run as root or with sudo available.
+# Installs the Debian 12 packages Vexel needs, and only those that are
+# missing. Run as root or with sudo available.
+#   install-deps.sh run    what building and running Vexel needs
+#   install-deps.sh test   that, and what the tests, benchmarks, fuzzers and
+#                          the format check need (the default)
 set -euo pipefail
 
-packages=(
+run_packages=(
   # build
   cmake ninja-build g++ pkg-config
   # libraries
   nlohmann-json3-dev libsqlite3-dev qt6-base-dev
   # the app's font and the GPU name database
   fonts-inter pci.ids
-  # the tools Vexel runs: ss (iproute2) and lsof for listening ports, ps for tests
-  iproute2 lsof procps python3
-  # the read-only check watches a whole session under strace
-  strace
+  # the tools Vexel runs: ss (iproute2), with lsof as the fallback, for listening ports
+  iproute2 lsof
+)
+test_packages=(
   # tests, benchmarks, fuzzing and formatting
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
+  # tests run ps and python3 servers, and watch a whole session under strace
+  procps python3 strace
 )
+
+case "${1:-test}" in
+  run) packages=("${run_packages[@]}") ;;
+  test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  *)
+    echo "usage: $0 [run|test]" >&2
+    exit 2
+    ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
