@@ -3,20 +3,17 @@
 #include "io/Files.h"
 #include "processes/Shell.h"
 #include "processes/linux/LiveProcessSource.h"
+#include "support/ChildProcess.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <csignal>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <set>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <thread>
 
 using namespace vexel;
+using namespace vexel::testing;
 namespace fs = std::filesystem;
 
 namespace {
@@ -122,8 +119,8 @@ TEST(ActivityLog, ActivityIdlenessAndPruning)
 
 TEST(ActivityLog, SavesAndLoads)
 {
-    const auto file
-        = fs::temp_directory_path() / ("vexel-activity-" + std::to_string(::getpid())) / "server-activity.json";
+    const TempFolder folder("vexel-activity");
+    const auto file = folder.path() / "data" / "server-activity.json";
     ActivityLog log;
     (void)log.observe(ProcKey{1, 2}, 3.5, 2, 100);
     log.save(file);
@@ -137,7 +134,6 @@ TEST(ActivityLog, SavesAndLoads)
     std::ofstream(file) << "not json";
     EXPECT_TRUE(ActivityLog::load(file).entries().empty());
     EXPECT_TRUE(ActivityLog::load(file.parent_path() / "missing.json").entries().empty());
-    fs::remove_all(file.parent_path());
 }
 
 TEST(DevServers, BuildGroupsByProjectAndFlagsIdleServers)
@@ -212,36 +208,22 @@ TEST(DevServers, ServersWithoutAReadableFolderStandAlone)
 
 TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
 {
-    const auto tempHome = fs::temp_directory_path() / ("vexel-home-" + std::to_string(::getpid()));
+    const TempFolder home("vexel-home");
+    const auto& tempHome = home.path();
     const auto project = tempHome / "code" / "shop";
     fs::create_directories(project / "src");
     std::ofstream(project / "package.json") << "{}";
     const auto python = Shell::find("python3");
     ASSERT_TRUE(python);
-    // A real python3 -m http.server on a free loopback port, in src/.
+    // A real python3 -m http.server on a free loopback port, in src/; it
+    // names its port once it listens.
     const std::string script = "import http.server, socketserver, sys\n"
                                "s = socketserver.TCPServer(('127.0.0.1', 0), http.server.SimpleHTTPRequestHandler)\n"
                                "print(s.server_address[1], flush=True)\ns.serve_forever()\n";
-    const auto portFile = project / "port.txt";
-    pid_t pid = 0;
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addchdir_np(&actions, (project / "src").c_str());
-    posix_spawn_file_actions_addopen(&actions, 1, portFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    std::vector<std::string> argv{*python, "-c", script};
-    std::vector<char*> args;
-    for (auto& arg : argv)
-        args.push_back(arg.data());
-    args.push_back(nullptr);
-    ASSERT_EQ(posix_spawn(&pid, python->c_str(), &actions, nullptr, args.data(), environ), 0);
-    posix_spawn_file_actions_destroy(&actions);
-    uint16_t port = 0;
-    for (int i = 0; i < 100 && port == 0; ++i) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        std::ifstream in(portFile);
-        in >> port;
-    }
+    ChildProcess server({*python, "-c", script}, {project / "src", true});
+    const auto port = static_cast<uint16_t>(std::atoi(server.readLine().c_str()));
     ASSERT_NE(port, 0);
+    const pid_t pid = server.pid();
 
     LiveProcessSource processes;
     const auto records = processes.snapshot(false);
@@ -252,9 +234,6 @@ TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
         tempHome.string(), static_cast<uint32_t>(::geteuid()),
         [](const std::string& path) { return Files::exists(path); }, 1e10, 172800};
     const auto groups = DevServers::build(inputs, log);
-    ::kill(pid, SIGTERM);
-    ::waitpid(pid, nullptr, 0);
-    fs::remove_all(tempHome);
     const auto shop = std::find_if(groups.begin(), groups.end(), [](auto& g) { return g.project.name == "shop"; });
     ASSERT_NE(shop, groups.end());
     ASSERT_EQ(shop->servers.size(), 1u);

@@ -1,6 +1,8 @@
 #include "monitor/BundleNames.h"
 #include "monitor/PlistReader.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -29,7 +31,8 @@ TEST(PlistReader, TopLevelStringsOfAnInfoPlist)
 
 TEST(BundleNames, BundlesAndDesktopFilesAreReadOnceAndCached)
 {
-    const auto folder = fs::temp_directory_path() / ("vexel-bundles-" + std::to_string(::getpid()));
+    const vexel::testing::TempFolder temp("vexel-bundles");
+    const auto& folder = temp.path();
     fs::create_directories(folder / "Code.app/Contents");
     fs::copy_file(fs::path(VEXEL_FIXTURES) / "plist/Info.plist", folder / "Code.app/Contents/Info.plist");
     std::ofstream(folder / "app.desktop") << "[Desktop Entry]\nType=Application\nName=Editor\nExec=ed\n";
@@ -51,5 +54,4 @@ TEST(BundleNames, BundlesAndDesktopFilesAreReadOnceAndCached)
     std::ofstream(folder / "Missing.app/Contents/Info.plist") << "<plist><dict><key>CFBundleName</key>"
                                                                  "<string>Late</string></dict></plist>";
     EXPECT_FALSE(names.name((folder / "Missing.app").string()));
-    fs::remove_all(folder);
 }

@@ -4,6 +4,7 @@
 
 #include "history/HistoryStore.h"
 #include "history/Sqlite.h"
+#include "support/ChildProcess.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -14,29 +15,23 @@
 #include <filesystem>
 #include <random>
 #include <set>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <thread>
 
 using namespace vexel;
+using vexel::testing::ChildProcess;
 namespace fs = std::filesystem;
-
-extern char** environ;
 
 namespace {
 
-const std::string worker = std::string(VEXEL_BINARY_DIR) + "/tests/history_worker";
+const std::string workerBinary = std::string(VEXEL_BINARY_DIR) + "/tests/history_worker";
 
-pid_t spawnWorker(std::vector<std::string> args)
+// The worker in one of its parts; its output comes to the test.
+ChildProcess worker(const std::string& part, const fs::path& file, std::vector<std::string> more = {})
 {
-    args.insert(args.begin(), worker);
-    std::vector<char*> argv;
-    for (auto& arg : args)
-        argv.push_back(arg.data());
-    argv.push_back(nullptr);
-    pid_t pid = 0;
-    EXPECT_EQ(posix_spawn(&pid, worker.c_str(), nullptr, nullptr, argv.data(), environ), 0);
-    return pid;
+    std::vector<std::string> argv{workerBinary, part, file.string()};
+    argv.insert(argv.end(), more.begin(), more.end());
+    return ChildProcess(argv, {{}, true});
 }
 
 std::string integrity(const fs::path& file)
@@ -74,24 +69,21 @@ void expectWatermarksMatchRows(const HistoryStore& store)
 
 TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
 {
-    const auto folder = fs::temp_directory_path() / ("vexel-crash-" + std::to_string(::getpid()));
-    fs::remove_all(folder);
-    const auto file = folder / "history.sqlite";
+    const vexel::testing::TempFolder folder("vexel-crash");
+    const auto file = folder.path() / "history.sqlite";
     {
         HistoryStore create(file, false);
     }
+    // Kills at random moments, the same ones each run.
     std::mt19937 random(20261122);
     std::uniform_int_distribution<int> wait(2, 40);
     int readerFailures = 0;
     for (int kill = 0; kill < 200; ++kill) {
-        const pid_t writer = spawnWorker({"write", file.string()});
-        const pid_t reader = spawnWorker({"read", file.string(), "10"});
+        ChildProcess writer = worker("write", file);
+        ChildProcess reader = worker("read", file, {"10"});
         std::this_thread::sleep_for(std::chrono::milliseconds(wait(random)));
-        ::kill(writer, SIGKILL);
-        int status = 0;
-        ::waitpid(writer, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "the writer must still be running when it is killed";
-        ::waitpid(reader, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(writer.stop(SIGKILL))) << "the writer must still be running when it is killed";
+        const int status = reader.wait();
         readerFailures += WIFEXITED(status) && WEXITSTATUS(status) == 0 ? 0 : 1;
         if (kill % 20 == 19) {
             ASSERT_EQ(integrity(file), "ok") << "after kill " << kill + 1;
@@ -104,7 +96,6 @@ TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
     EXPECT_EQ(integrity(file), "ok");
     expectWatermarksMatchRows(store);
     EXPECT_GT(store.rowCount(HistoryTier::raw, false), 0);
-    fs::remove_all(folder);
 }
 
 // A writer killed while it rewrites the shared index of its log leaves the
@@ -117,17 +108,12 @@ TEST(CrashSafety, AReaderOutlivesAWriterThatDiedRewritingItsIndex)
     {
         HistoryStore create(file, false);
     }
-    const pid_t writer = spawnWorker({"write", file.string()});
-    std::unique_ptr<HistoryStore> reader;
-    for (int tries = 0; tries < 500 && (!reader || reader->series(HistoryTier::raw, 0, 1e12).empty()); ++tries) {
-        reader.reset();
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        reader = std::make_unique<HistoryStore>(file, true);
-    }
-    ::kill(writer, SIGKILL);
-    int status = 0;
-    ::waitpid(writer, &status, 0);
-    const auto before = reader->series(HistoryTier::raw, 0, 1e12).size();
+    ChildProcess writer = worker("write", file);
+    ASSERT_EQ(writer.readLine(), "committed");
+    const HistoryStore reader(file, true);
+    ASSERT_FALSE(reader.series(HistoryTier::raw, 0, 1e12).empty()); // read through the live writer's index
+    (void)writer.stop(SIGKILL);
+    const auto before = reader.series(HistoryTier::raw, 0, 1e12).size();
     ASSERT_GT(before, 0u);
     // Both copies of the index header, as a writer killed mid-way may leave them.
     const int index = ::open((file.string() + "-shm").c_str(), O_WRONLY);
@@ -135,5 +121,5 @@ TEST(CrashSafety, AReaderOutlivesAWriterThatDiedRewritingItsIndex)
     const std::string zeros(96, '\0');
     ASSERT_EQ(::pwrite(index, zeros.data(), zeros.size(), 0), static_cast<ssize_t>(zeros.size()));
     ::close(index);
-    EXPECT_GE(reader->series(HistoryTier::raw, 0, 1e12).size(), before);
+    EXPECT_GE(reader.series(HistoryTier::raw, 0, 1e12).size(), before);
 }

@@ -1,7 +1,8 @@
 // A second process for the crash-safety test: "write FILE" appends minutes of
 // 5-second samples and compacts after each, forever, resuming the simulated
-// clock where the file ends; "read FILE N" polls the series N times and exits
-// 1 on any error. The test kills the writer at random moments.
+// clock where the file ends, and says "committed" on its output once its
+// first minute is in the file; "read FILE N" polls the series N times and
+// exits 1 on any error. The test kills the writer at random moments.
 
 #include "history/HistoryStore.h"
 
@@ -22,6 +23,7 @@ int write(const char* file)
     const auto last = store.points(HistoryTier::raw, 0, 1e12);
     // Resume at the next whole minute after the last sample that was committed.
     double t = last.empty() ? firstSample : std::ceil((last.back().t + 5) / 60) * 60;
+    bool announced = false;
     while (true) {
         store.batch([&] {
             for (int i = 0; i < 12; ++i, t += 5) {
@@ -34,6 +36,11 @@ int write(const char* file)
             }
         });
         store.compact(t, 365);
+        if (!announced) {
+            std::puts("committed");
+            std::fflush(stdout);
+            announced = true;
+        }
     }
 }
 

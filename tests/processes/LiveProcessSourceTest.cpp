@@ -94,7 +94,13 @@ TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
     const pid_t zombie = ::fork();
     if (zombie == 0)
         ::_exit(0);
-    ::usleep(50'000); // let it exit; it stays a zombie until we wait
+    // Wait until it has exited, leaving it unreaped: a zombie until the end of the test.
+    siginfo_t exited{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(zombie), &exited, WEXITED | WNOWAIT), 0);
+    struct Reaper {
+        pid_t pid;
+        ~Reaper() { ::waitpid(pid, nullptr, 0); }
+    } const reaper{zombie};
     const auto records = source.snapshot(false);
     const auto* self = byPid(records, ::getpid());
     ASSERT_NE(self, nullptr);
@@ -111,7 +117,6 @@ TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
     EXPECT_EQ(source.cwd(::getpid()), fs::current_path().string());
     const auto kernel = std::count_if(records.begin(), records.end(), [](const auto& r) { return r.kernelThread; });
     EXPECT_GT(kernel, 0) << "kernel threads are listed";
-    ::waitpid(zombie, nullptr, 0);
 
     // The start time is stable from reading to reading: the key must not drift.
     const auto again = source.snapshot(false);

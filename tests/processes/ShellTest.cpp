@@ -1,12 +1,18 @@
 #include "processes/Shell.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <poll.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 using namespace vexel;
 namespace fs = std::filesystem;
@@ -29,9 +35,27 @@ private:
     fs::path m_path;
 };
 
-bool processExists(pid_t pid)
+// Whether the process `pid` ends (or has ended) within `seconds`, waited for
+// on its pidfd, which turns readable when the process exits: an event, not a nap.
+bool ends(pid_t pid, int seconds)
 {
-    return ::kill(pid, 0) == 0;
+    const int fd = static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
+    if (fd < 0)
+        return errno == ESRCH; // gone already
+    pollfd exited{fd, POLLIN, 0};
+    const bool ended = ::poll(&exited, 1, seconds * 1000) == 1;
+    ::close(fd);
+    return ended;
+}
+
+// The process ids a script wrote into `file`, one per line.
+std::vector<pid_t> pidsIn(const std::string& file)
+{
+    std::ifstream in(file);
+    std::vector<pid_t> pids;
+    for (pid_t pid = 0; in >> pid;)
+        pids.push_back(pid);
+    return pids;
 }
 
 } // namespace
@@ -65,26 +89,42 @@ TEST(Shell, NothingForWhatCannotRun)
     EXPECT_FALSE(Shell::run("/usr/bin", {}, 1)); // a folder
 }
 
-TEST(Shell, ATimeOutEndsTheToolAndItsChildrenWithinBounds)
-{
-    const Script hang("hang", "echo $$; sleep 30 & echo $!; wait");
-    const auto started = std::chrono::steady_clock::now();
-    EXPECT_FALSE(Shell::run(hang.path(), {}, 0.3));
-    const auto took = std::chrono::steady_clock::now() - started;
-    EXPECT_LT(took, std::chrono::seconds(3));
-    // No child of ours is left: not a zombie, not the script, not its sleep.
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+namespace {
 
-    const Script stubborn("stubborn", "trap '' TERM; echo $$ > " + hang.path() + ".pid; sleep 30");
-    const auto before = std::chrono::steady_clock::now();
-    EXPECT_FALSE(Shell::run(stubborn.path(), {}, 0.2));
-    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(4));
-    std::ifstream pidFile(hang.path() + ".pid");
-    pid_t pid = 0;
-    pidFile >> pid;
-    ASSERT_GT(pid, 0);
-    EXPECT_FALSE(processExists(pid)) << "a tool that ignores SIGTERM is killed";
-    fs::remove(hang.path() + ".pid");
+// Runs `script` with time-outs growing until it had the time to write
+// `count` process ids into `file` before being stopped; those ids.
+std::vector<pid_t> runUntilStopped(const Script& script, const std::string& file, size_t count)
+{
+    std::vector<pid_t> pids;
+    for (const double timeout : {0.3, 1.0, 3.0, 10.0}) {
+        fs::remove(file);
+        EXPECT_FALSE(Shell::run(script.path(), {}, timeout)) << "the time-out ends it without output";
+        pids = pidsIn(file);
+        if (pids.size() >= count)
+            break;
+    }
+    return pids;
+}
+
+} // namespace
+
+TEST(Shell, ATimeOutEndsTheToolAndItsChildren)
+{
+    const vexel::testing::TempFolder folder("vexel-shell");
+    const std::string pids = (folder.path() / "pids").string();
+    // The script and its child write their ids, then hold the output open for long.
+    const Script hang("hang", "echo $$ >> " + pids + "; sleep 300 & echo $! >> " + pids + "; wait");
+    const auto hung = runUntilStopped(hang, pids, 2);
+    ASSERT_EQ(hung.size(), 2u);
+    // No child of ours is left: not a zombie, not the script, and its sleep ends too.
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    for (const pid_t pid : hung)
+        EXPECT_TRUE(ends(pid, 30)) << pid;
+
+    const Script stubborn("stubborn", "trap '' TERM; echo $$ > " + pids + "; sleep 300");
+    const auto ignored = runUntilStopped(stubborn, pids, 1);
+    ASSERT_EQ(ignored.size(), 1u);
+    EXPECT_TRUE(ends(ignored[0], 30)) << "a tool that ignores SIGTERM is killed";
 }
 
 TEST(Shell, FindsToolsInTheUsualFolders)
@@ -92,11 +132,10 @@ TEST(Shell, FindsToolsInTheUsualFolders)
     EXPECT_EQ(Shell::find("sh"), "/usr/bin/sh");
     EXPECT_FALSE(Shell::find("no-such-tool-anywhere"));
     EXPECT_FALSE(Shell::find("../bin/sh"));
-    const auto folder = fs::temp_directory_path() / ("vexel-find-" + std::to_string(::getpid()));
-    fs::create_directories(folder);
+    const vexel::testing::TempFolder temp("vexel-find");
+    const auto& folder = temp.path();
     const Script mine("x", "true");
     fs::copy_file(mine.path(), folder / "sh");
     fs::permissions(folder / "sh", fs::perms::owner_all);
     EXPECT_EQ(Shell::find("sh", {folder.string()}), (folder / "sh").string()); // extra folders come first
-    fs::remove_all(folder);
 }

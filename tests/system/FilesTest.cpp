@@ -1,5 +1,7 @@
 #include "io/Files.h"
 
+#include "support/TempFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -10,7 +12,8 @@ namespace fs = std::filesystem;
 
 TEST(Files, ReadsWholeFilesUpToTheCap)
 {
-    const auto folder = fs::temp_directory_path() / ("vexel-files-" + std::to_string(::getpid()));
+    const vexel::testing::TempFolder temp("vexel-files");
+    const auto& folder = temp.path();
     fs::create_directories(folder);
     const std::string big(100000, 'z');
     std::ofstream(folder / "big") << big;
@@ -38,7 +41,6 @@ TEST(Files, ReadsWholeFilesUpToTheCap)
     std::sort(names.begin(), names.end());
     EXPECT_EQ(names, (std::vector<std::string>{"big", "dangling", "empty", "link"}));
     EXPECT_TRUE(Files::list((folder / "big").string()).empty());
-    fs::remove_all(folder);
 }
 
 TEST(Files, ProcFilesReportNoSizeButStillReadWhole)
