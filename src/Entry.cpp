@@ -62,4 +62,11 @@ int run(const std::vector<std::string>& args, const DesktopLauncher& desktop)
         [](const std::string& line) { writeLine(STDERR_FILENO, line); });
 }
 
+std::optional<std::string> desktopProgram(const std::optional<std::string>& self)
+{
+    if (!self || !self->starts_with('/'))
+        return std::nullopt;
+    return self->substr(0, self->rfind('/') + 1) + "vexel-app";
+}
+
 } // namespace vexel

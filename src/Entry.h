@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,12 @@ struct Dispatch {
 
 // The version the program reports: the build's, else "1.0".
 [[nodiscard]] std::string programVersion();
+
+// The desktop program beside this one: "vexel-app" in the folder of `self`,
+// the absolute path this program runs from (/proc/self/exe). Nothing when
+// that path is unknown or not absolute: the program is never looked for in
+// the current folder or on PATH.
+[[nodiscard]] std::optional<std::string> desktopProgram(const std::optional<std::string>& self);
 
 // Starts the desktop app with the program's arguments; returns its exit status.
 using DesktopLauncher = std::function<int(const std::vector<std::string>& args)>;

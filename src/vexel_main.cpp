@@ -16,10 +16,12 @@ namespace {
 // vexel-app in its own folder, with the same arguments.
 int handOverToDesktop(const std::vector<std::string>& args)
 {
-    const auto self = vexel::Files::readLink("/proc/self/exe");
-    std::string folder = self ? *self : (args.empty() ? std::string() : args[0]);
-    folder = folder.substr(0, folder.rfind('/') + 1);
-    const std::string app = folder + "vexel-app";
+    const auto program = vexel::desktopProgram(vexel::Files::readLink("/proc/self/exe"));
+    if (!program) {
+        std::fprintf(stderr, "vexel: couldn't tell which folder this program runs from; start vexel-app itself\n");
+        return 1;
+    }
+    const std::string& app = *program;
     std::vector<char*> argv;
     for (const auto& arg : args)
         argv.push_back(const_cast<char*>(arg.c_str()));

@@ -41,17 +41,26 @@ std::string instructions(Platform platform)
           "should be stopped, tell the user and let them do it in Vexel (it asks first).";
 }
 
-// One line of input without its newline; false at the end of input.
-bool readLine(std::FILE* input, std::string& line)
+enum class LineRead { line, tooLong, end };
+
+// One line of input without its newline, kept only up to the cap: the rest
+// of a longer line is read and dropped.
+LineRead readLine(std::FILE* input, std::string& line)
 {
     line.clear();
+    bool tooLong = false;
     int c = 0;
     while ((c = std::fgetc(input)) != EOF) {
         if (c == '\n')
-            return true;
-        line += static_cast<char>(c);
+            return tooLong ? LineRead::tooLong : LineRead::line;
+        if (line.size() < MCPServer::lineCap)
+            line += static_cast<char>(c);
+        else
+            tooLong = true;
     }
-    return !line.empty();
+    if (tooLong)
+        return LineRead::tooLong;
+    return line.empty() ? LineRead::end : LineRead::line;
 }
 
 } // namespace
@@ -70,10 +79,17 @@ const std::vector<std::string>& MCPServer::supportedVersions()
 void MCPServer::runStdio(std::FILE* input, std::FILE* output)
 {
     std::string line;
-    while (readLine(input, line)) {
-        if (const auto answer = handle(line))
+    for (LineRead read = readLine(input, line); read != LineRead::end; read = readLine(input, line)) {
+        const auto answer = read == LineRead::tooLong ? std::optional(tooLong()) : handle(line);
+        if (answer)
             Output::writeAll(::fileno(output), *answer + "\n");
     }
+}
+
+std::string MCPServer::tooLong()
+{
+    return compact(failure(
+        nullptr, -32600, "Invalid Request: a message longer than " + std::to_string(lineCap) + " bytes is not read"));
 }
 
 std::optional<std::string> MCPServer::handle(const std::string& line)

@@ -22,8 +22,14 @@ public:
     // The protocol revisions it speaks, newest first.
     static const std::vector<std::string>& supportedVersions();
 
+    // The longest message read, in bytes: far more than any request of the
+    // protocol, far less than would strain memory.
+    static constexpr size_t lineCap = 4 * 1024 * 1024;
+
     // Reads `input` line by line until it ends and writes each answer as one
-    // line (one write) to `output`.
+    // line (one write) to `output`. A line longer than lineCap is answered
+    // with an error (id null, -32600) and its bytes past the cap are dropped
+    // as they are read.
     void runStdio(std::FILE* input = stdin, std::FILE* output = stdout);
 
     // The answer to one line, as compact JSON with sorted keys; nothing for a
@@ -37,6 +43,8 @@ public:
     std::string version = "1.0";
 
 private:
+    // The answer to a line past the cap.
+    [[nodiscard]] static std::string tooLong();
     [[nodiscard]] nlohmann::json initialize(const nlohmann::json& params) const;
     [[nodiscard]] nlohmann::json toolsCall(const nlohmann::json& id, const nlohmann::json& params);
 

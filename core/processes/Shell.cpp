@@ -1,5 +1,6 @@
 #include "processes/Shell.h"
 
+#include "format/CFormat.h"
 #include "settings/VexelPaths.h"
 
 #include <atomic>
@@ -8,6 +9,7 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <mutex>
 #include <poll.h>
@@ -59,11 +61,13 @@ std::vector<char*> pointers(std::vector<std::string>& strings)
     return result;
 }
 
-// Collects a pipe's bytes until its end, or until told to stop.
+// Collects a pipe's bytes until its end, until there are more than `cap`,
+// or until told to stop.
 class PipeReader {
 public:
-    explicit PipeReader(int fd)
+    PipeReader(int fd, size_t cap)
         : m_fd(fd)
+        , m_cap(cap)
         , m_thread([this] { drain(); })
     {
     }
@@ -76,11 +80,19 @@ public:
     PipeReader(const PipeReader&) = delete;
     PipeReader& operator=(const PipeReader&) = delete;
 
-    // Waits until the pipe has ended or `deadline` passes; true when it ended.
+    // Waits until the pipe has ended, the cap was passed or `deadline`
+    // passes; true unless the deadline passed first.
     bool waitUntil(Clock::time_point deadline)
     {
         std::unique_lock lock(m_mutex);
         return m_ended.wait_until(lock, deadline, [this] { return m_done; });
+    }
+
+    // Whether the output went past the cap (and reading stopped there).
+    bool overflowed()
+    {
+        std::lock_guard lock(m_mutex);
+        return m_overflowed;
     }
 
     std::string takeOutput()
@@ -107,6 +119,10 @@ private:
             if (got <= 0)
                 break;
             std::lock_guard lock(m_mutex);
+            if (m_output.size() + static_cast<size_t>(got) > m_cap) {
+                m_overflowed = true;
+                break;
+            }
             m_output.append(buffer, static_cast<size_t>(got));
         }
         std::lock_guard lock(m_mutex);
@@ -115,11 +131,13 @@ private:
     }
 
     int m_fd;
+    size_t m_cap;
     std::atomic<bool> m_stop{false};
     std::mutex m_mutex;
     std::condition_variable m_ended;
     std::string m_output;
     bool m_done = false;
+    bool m_overflowed = false;
     std::thread m_thread;
 };
 
@@ -139,60 +157,110 @@ void reap(pid_t pid, std::chrono::milliseconds grace)
     while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) { }
 }
 
-pid_t spawn(const std::string& path, const std::vector<std::string>& args,
+// Owns what posix_spawn is given, so that every way out frees it.
+struct SpawnSetup {
+    posix_spawn_file_actions_t actions{};
+    posix_spawnattr_t attributes{};
+    int failure = 0; // the first error of the set-up calls
+
+    SpawnSetup()
+    {
+        check(posix_spawn_file_actions_init(&actions));
+        check(posix_spawnattr_init(&attributes));
+    }
+    ~SpawnSetup()
+    {
+        posix_spawn_file_actions_destroy(&actions);
+        posix_spawnattr_destroy(&attributes);
+    }
+    SpawnSetup(const SpawnSetup&) = delete;
+    SpawnSetup& operator=(const SpawnSetup&) = delete;
+
+    void check(int result)
+    {
+        if (failure == 0)
+            failure = result;
+    }
+};
+
+// A started tool's process id, or the error number of a start that failed.
+struct Spawned {
+    pid_t pid = -1;
+    int error = 0;
+};
+
+// Starts the tool with its output on `outputFd`.
+Spawned spawn(const std::string& path, const std::vector<std::string>& args,
     const std::map<std::string, std::string>& env, int outputFd, int pipeReadFd)
 {
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, outputFd, 1);
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addclose(&actions, pipeReadFd);
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
+    SpawnSetup setup;
+    setup.check(posix_spawn_file_actions_addopen(&setup.actions, 0, "/dev/null", O_RDONLY, 0));
+    setup.check(posix_spawn_file_actions_adddup2(&setup.actions, outputFd, 1));
+    setup.check(posix_spawn_file_actions_addopen(&setup.actions, 2, "/dev/null", O_WRONLY, 0));
+    setup.check(posix_spawn_file_actions_addclose(&setup.actions, pipeReadFd));
     // A process group of its own, so that a time-out ends the tool's children too.
-    posix_spawnattr_setpgroup(&attributes, 0);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    setup.check(posix_spawnattr_setpgroup(&setup.attributes, 0));
+    setup.check(posix_spawnattr_setflags(&setup.attributes, POSIX_SPAWN_SETPGROUP));
+    if (setup.failure != 0)
+        return {-1, setup.failure};
     std::vector<std::string> argv{path};
     argv.insert(argv.end(), args.begin(), args.end());
     auto envp = environment(env);
     auto argvPointers = pointers(argv);
     auto envPointers = pointers(envp);
     pid_t pid = 0;
-    const int failed = posix_spawn(&pid, path.c_str(), &actions, &attributes, argvPointers.data(), envPointers.data());
-    posix_spawn_file_actions_destroy(&actions);
-    posix_spawnattr_destroy(&attributes);
-    return failed == 0 ? pid : -1;
+    const int failed
+        = posix_spawn(&pid, path.c_str(), &setup.actions, &setup.attributes, argvPointers.data(), envPointers.data());
+    if (failed != 0)
+        return {-1, failed};
+    return {pid, 0};
+}
+
+// Ends a tool that is still writing or running: its whole group is asked to
+// stop, the output is left to end, and the tool is reaped (killed if need be).
+void stop(pid_t pid, PipeReader& reader)
+{
+    ::kill(-pid, SIGTERM);
+    (void)reader.waitUntil(Clock::now() + std::chrono::seconds(1));
+    reap(pid, std::chrono::milliseconds(1000));
+}
+
+Result failure(std::string error)
+{
+    return Result{std::nullopt, std::move(error)};
 }
 
 } // namespace
 
-std::optional<std::string> run(const std::string& path, const std::vector<std::string>& args, double timeoutSeconds,
-    const std::map<std::string, std::string>& env)
+Result run(const std::string& path, const std::vector<std::string>& args, double timeoutSeconds,
+    const std::map<std::string, std::string>& env, size_t outputCap)
 {
     if (!isExecutableFile(path))
-        return std::nullopt;
+        return failure(path + " is not an executable file");
     int fds[2];
     if (::pipe2(fds, O_CLOEXEC) != 0)
-        return std::nullopt;
-    const pid_t pid = spawn(path, args, env, fds[1], fds[0]);
+        return failure("couldn't start " + path + ": " + std::strerror(errno));
+    const auto spawned = spawn(path, args, env, fds[1], fds[0]);
     ::close(fds[1]);
-    if (pid < 0) {
+    if (spawned.error != 0) {
         ::close(fds[0]);
-        return std::nullopt;
+        return failure("couldn't start " + path + ": " + std::strerror(spawned.error));
     }
-    PipeReader reader(fds[0]);
+    const pid_t pid = spawned.pid;
+    PipeReader reader(fds[0], outputCap);
     const auto timeout = std::chrono::duration<double>(std::max(timeoutSeconds, 0.0));
     const bool finished = reader.waitUntil(Clock::now() + std::chrono::duration_cast<Clock::duration>(timeout));
     if (!finished) {
-        ::kill(-pid, SIGTERM);
-        (void)reader.waitUntil(Clock::now() + std::chrono::seconds(1));
-        reap(pid, std::chrono::milliseconds(1000));
-        return std::nullopt;
+        stop(pid, reader);
+        return failure(path + " didn't finish within " + cformat("%g", timeoutSeconds) + " seconds");
+    }
+    if (reader.overflowed()) {
+        stop(pid, reader);
+        return failure(path + " wrote more than " + std::to_string(outputCap) + " bytes and was stopped");
     }
     // The output has ended; a well-behaved tool exits right after.
     reap(pid, std::chrono::milliseconds(1000));
-    return reader.takeOutput();
+    return Result{reader.takeOutput(), {}};
 }
 
 std::optional<std::string> find(const std::string& name, const std::vector<std::string>& extra)

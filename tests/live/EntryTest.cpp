@@ -53,3 +53,12 @@ TEST(Entry, DesktopRoleGoesToTheLauncher)
     EXPECT_EQ(status, 7);
     EXPECT_EQ(seen, (Args{"/opt/vexel/vexel-app", "--hidden"}));
 }
+
+// The desktop program is only ever the one beside this program's own file.
+TEST(Entry, TheDesktopProgramIsTheOneBesideThisOne)
+{
+    EXPECT_EQ(desktopProgram("/usr/local/bin/vexel"), "/usr/local/bin/vexel-app");
+    EXPECT_EQ(desktopProgram("/opt/vexel/vexel (deleted)"), "/opt/vexel/vexel-app");
+    EXPECT_FALSE(desktopProgram(std::nullopt)) << "never ./vexel-app when /proc/self/exe can't be read";
+    EXPECT_FALSE(desktopProgram("vexel"));
+}

@@ -164,3 +164,26 @@ TEST_F(MCP, TranscriptMatchesTheGoldenFile)
     }
     EXPECT_EQ(compareGolden("mcp/transcript.txt", transcript), "");
 }
+
+// A line past the cap is answered with an error and dropped as it is read;
+// the next line is served as usual.
+TEST_F(MCP, ALineTooLongIsRefusedAndTheServerGoesOn)
+{
+    std::FILE* input = std::tmpfile();
+    std::FILE* output = std::tmpfile();
+    ASSERT_TRUE(input && output);
+    const std::string huge = R"({"jsonrpc":"2.0","id":1,"method":"ping","params":{"pad":")"
+        + std::string(MCPServer::lineCap, 'x') + "\"}}\n";
+    std::fputs(huge.c_str(), input);
+    std::fputs(R"({"jsonrpc":"2.0","id":2,"method":"ping"})", input);
+    std::rewind(input);
+    server.runStdio(input, output);
+    std::rewind(output);
+    std::string written;
+    for (int c = 0; (c = std::fgetc(output)) != EOF;)
+        written += static_cast<char>(c);
+    std::fclose(input);
+    std::fclose(output);
+    const json refused = error(nullptr, -32600, "Invalid Request: a message longer than 4194304 bytes is not read");
+    EXPECT_EQ(written, refused.dump() + "\n" + R"({"id":2,"jsonrpc":"2.0","result":{}})" + "\n");
+}

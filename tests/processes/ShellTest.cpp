@@ -1,5 +1,6 @@
 #include "processes/Shell.h"
 
+#include "format/CFormat.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -62,31 +63,45 @@ std::vector<pid_t> pidsIn(const std::string& file)
 
 TEST(Shell, RunsWithArgumentsAndCollectsStandardOutput)
 {
-    EXPECT_EQ(Shell::run("/bin/echo", {"a b", "c"}, 5), "a b c\n");
+    EXPECT_EQ(Shell::run("/bin/echo", {"a b", "c"}, 5).output, "a b c\n");
     // Arguments are never interpreted by a shell.
-    EXPECT_EQ(Shell::run("/bin/echo", {"$HOME;", "`id`"}, 5), "$HOME; `id`\n");
+    EXPECT_EQ(Shell::run("/bin/echo", {"$HOME;", "`id`"}, 5).output, "$HOME; `id`\n");
     const Script both("both", "echo out; echo err >&2; exit 3");
-    EXPECT_EQ(Shell::run(both.path(), {}, 5), "out\n"); // standard error is dropped, the exit status not judged
+    EXPECT_EQ(Shell::run(both.path(), {}, 5).output, "out\n"); // standard error is dropped, the exit status not judged
     const Script reads("reads", "cat; echo done");
-    EXPECT_EQ(Shell::run(reads.path(), {}, 5), "done\n"); // standard input is empty
+    EXPECT_EQ(Shell::run(reads.path(), {}, 5).output, "done\n"); // standard input is empty
     const std::string big(200000, 'x');
     const Script large("large", "head -c 200000 /dev/zero | tr '\\0' x");
-    EXPECT_EQ(Shell::run(large.path(), {}, 5), big);
+    EXPECT_EQ(Shell::run(large.path(), {}, 5).output, big);
 }
 
 TEST(Shell, ToolsSpeakTheCLocaleUnlessToldOtherwise)
 {
     const Script locale("locale", "echo \"$LC_ALL|$EXTRA\"");
     ::unsetenv("LC_ALL");
-    EXPECT_EQ(Shell::run(locale.path(), {}, 5), "C|\n");
-    EXPECT_EQ(Shell::run(locale.path(), {}, 5, {{"EXTRA", "1"}, {"LC_ALL", "fr_FR.UTF-8"}}), "fr_FR.UTF-8|1\n");
+    EXPECT_EQ(Shell::run(locale.path(), {}, 5).output, "C|\n");
+    EXPECT_EQ(Shell::run(locale.path(), {}, 5, {{"EXTRA", "1"}, {"LC_ALL", "fr_FR.UTF-8"}}).output, "fr_FR.UTF-8|1\n");
 }
 
 TEST(Shell, NothingForWhatCannotRun)
 {
-    EXPECT_FALSE(Shell::run("/nonexistent/tool", {}, 1));
+    EXPECT_EQ(Shell::run("/nonexistent/tool", {}, 1).error, "/nonexistent/tool is not an executable file");
     EXPECT_FALSE(Shell::run("/etc/hostname", {}, 1)); // not executable
     EXPECT_FALSE(Shell::run("/usr/bin", {}, 1)); // a folder
+}
+
+// A tool that writes without end is stopped at the cap with an error that
+// says so, instead of filling memory.
+TEST(Shell, OutputPastTheCapIsAnError)
+{
+    const auto yes = Shell::find("yes");
+    ASSERT_TRUE(yes);
+    const auto endless = Shell::run(*yes, {}, 60, {}, 1 << 20);
+    EXPECT_FALSE(endless.output);
+    EXPECT_EQ(endless.error, *yes + " wrote more than 1048576 bytes and was stopped");
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left behind";
+    const Script exact("exact", "head -c 1048576 /dev/zero");
+    EXPECT_EQ(Shell::run(exact.path(), {}, 60, {}, 1 << 20).output, std::string(1 << 20, '\0'));
 }
 
 namespace {
@@ -98,7 +113,9 @@ std::vector<pid_t> runUntilStopped(const Script& script, const std::string& file
     std::vector<pid_t> pids;
     for (const double timeout : {0.3, 1.0, 3.0, 10.0}) {
         fs::remove(file);
-        EXPECT_FALSE(Shell::run(script.path(), {}, timeout)) << "the time-out ends it without output";
+        const auto stopped = Shell::run(script.path(), {}, timeout);
+        EXPECT_FALSE(stopped.output) << "the time-out ends it without output";
+        EXPECT_EQ(stopped.error, script.path() + " didn't finish within " + cformat("%g", timeout) + " seconds");
         pids = pidsIn(file);
         if (pids.size() >= count)
             break;

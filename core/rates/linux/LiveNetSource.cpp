@@ -17,7 +17,7 @@ LiveNetSource::LiveNetSource()
         static const auto ss = Shell::find("ss");
         if (!ss)
             return std::nullopt;
-        return Shell::run(*ss, {"-tinpHeO"}, ssTimeoutSeconds);
+        return Shell::run(*ss, {"-tinpHeO"}, ssTimeoutSeconds).output;
     })
 {
 }
