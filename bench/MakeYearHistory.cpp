@@ -65,7 +65,7 @@ int main(int argc, char** argv)
     }
     const double now = argc > 2 ? std::strtod(argv[2], nullptr) : currentTime();
     const std::string file = std::string(argv[1]) + "/history.sqlite";
-    HistoryStore store(file, false);
+    HistoryStore store(file, HistoryAccess::readWrite);
     // Compaction rolls every ended bucket up at once, so each tier runs up to
     // the start of its current bucket (its watermark) and back as far as it is
     // kept; only the raw samples reach the present.
@@ -80,9 +80,10 @@ int main(int argc, char** argv)
         writeTier(store, HistoryTier::raw, rawStart, now, 5);
     });
     std::printf("%s: %lld hourly, %lld ten-minute, %lld minute, %lld raw points; %lld bytes\n", file.c_str(),
-        static_cast<long long>(store.rowCount(HistoryTier::hour, false)),
-        static_cast<long long>(store.rowCount(HistoryTier::tenMinutes, false)),
-        static_cast<long long>(store.rowCount(HistoryTier::minute, false)),
-        static_cast<long long>(store.rowCount(HistoryTier::raw, false)), static_cast<long long>(store.fileBytes()));
+        static_cast<long long>(store.rowCount(HistoryTier::hour, HistoryTable::sys)),
+        static_cast<long long>(store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys)),
+        static_cast<long long>(store.rowCount(HistoryTier::minute, HistoryTable::sys)),
+        static_cast<long long>(store.rowCount(HistoryTier::raw, HistoryTable::sys)),
+        static_cast<long long>(store.fileBytes()));
     return 0;
 }

@@ -33,7 +33,7 @@ double writtenBytes()
 // the bytes written to storage.
 int measure(const char* file, bool batched)
 {
-    HistoryStore store(file, false);
+    HistoryStore store(file, HistoryAccess::readWrite);
     const double before = writtenBytes();
     double t = 1'767'225'600;
     for (int minute = 0; minute < 60; ++minute) {

@@ -13,9 +13,9 @@ void BM_Monitor_SampleLive(benchmark::State& state)
     auto monitor = vexel::Monitor::live();
     double now = vexel::currentTime();
     for (int i = 0; i < 2; ++i)
-        benchmark::DoNotOptimize(monitor->sample(now += 1, false, false));
+        benchmark::DoNotOptimize(monitor->sample(now += 1, {}));
     for (auto _ : state)
-        benchmark::DoNotOptimize(monitor->sample(now += 1, false, false));
+        benchmark::DoNotOptimize(monitor->sample(now += 1, {}));
 }
 BENCHMARK(BM_Monitor_SampleLive)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly(true);
 

@@ -39,13 +39,13 @@ void BM_ProcessPipeline_Steady(benchmark::State& state)
     size_t processes = 0;
     // Two warm-up refreshes fill the caches; then each refresh is one tick.
     for (int i = 0; i < 2; ++i) {
-        const auto records = source.snapshot(true);
+        const auto records = source.snapshot(vexel::ProcessScope::everyone);
         benchmark::DoNotOptimize(
             vexel::AppGrouper::group(records, tracker.update(records, std::nullopt, now()), rules, &cache));
     }
     const size_t heapWarm = ::mallinfo2().uordblks;
     for (auto _ : state) {
-        const auto records = source.snapshot(true);
+        const auto records = source.snapshot(vexel::ProcessScope::everyone);
         const auto rates = tracker.update(records, std::nullopt, now());
         const auto groups = vexel::AppGrouper::group(records, rates, rules, &cache);
         benchmark::DoNotOptimize(groups);

@@ -3,6 +3,7 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
+#include "json/JsonFields.h"
 
 #include <vector>
 
@@ -12,24 +13,27 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
+using JsonFields::field;
+using JsonFields::value;
 using TextColumns::Align;
 using TextColumns::cell;
 
 std::string energyCell(const json& app)
 {
-    const auto watts = number(app, "energy_watts");
-    const auto estimated = number(app, "energy_watts_estimated");
+    const auto watts = value<double>(app, "energy_watts");
+    const auto estimated = value<double>(app, "energy_watts_estimated");
     return watts ? Fmt::watts(*watts) : estimated ? Fmt::watts(*estimated) : std::string();
 }
 
 std::string appLine(const json& app)
 {
-    return cell(text(app, "name").value_or(""), 30)
-        + cell(cformat("%.0f", number(app, "processes").value_or(0)), 7, Align::right)
-        + cell(cformat("%.1f%%", number(app, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
+    return cell(value<std::string>(app, "name").value_or(""), 30)
+        + cell(cformat("%.0f", value<double>(app, "processes").value_or(0)), 7, Align::right)
+        + cell(cformat("%.1f%%", value<double>(app, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
         + cell(Fmt::memory(byteCount(app, "memory_bytes")), 11, Align::right) + cell(energyCell(app), 10, Align::right)
-        + cell(Fmt::rate(number(app, "disk_bytes_per_s").value_or(0), false), 12, Align::right)
-        + cell(Fmt::rate(number(app, "network_bytes_per_s").value_or(0), false), 12, Align::right);
+        + cell(Fmt::rate(value<double>(app, "disk_bytes_per_s").value_or(0), Fmt::RateUnit::bytes), 12, Align::right)
+        + cell(
+            Fmt::rate(value<double>(app, "network_bytes_per_s").value_or(0), Fmt::RateUnit::bytes), 12, Align::right);
 }
 
 } // namespace
@@ -42,22 +46,22 @@ std::string appsText(const json& report)
     for (const auto& app : list(report, "apps"))
         lines.push_back(appLine(app));
     lines.push_back(cformat("%.0f processes in %.0f apps. CPU is %% of one core.",
-        number(report, "process_count").value_or(0), number(report, "app_count").value_or(0)));
+        value<double>(report, "process_count").value_or(0), value<double>(report, "app_count").value_or(0)));
     return TextColumns::joinLines(lines);
 }
 
 std::string appText(const json& report)
 {
-    std::vector<std::string> lines{text(report, "name").value_or("")
-        + cformat("  %.0f processes, %.1f%% CPU, ", number(report, "processes").value_or(0),
-            number(report, "cpu_percent_of_one_core").value_or(0))
+    std::vector<std::string> lines{value<std::string>(report, "name").value_or("")
+        + cformat("  %.0f processes, %.1f%% CPU, ", value<double>(report, "processes").value_or(0),
+            value<double>(report, "cpu_percent_of_one_core").value_or(0))
         + Fmt::memory(byteCount(report, "memory_bytes"))};
     for (const auto& process : list(report, "process_list")) {
-        std::string line = cell(cformat("%.0f", number(process, "pid").value_or(0)), 9, Align::right) + "  "
-            + cell(text(process, "name").value_or(""), 34)
-            + cell(cformat("%.1f%%", number(process, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
+        std::string line = cell(cformat("%.0f", value<double>(process, "pid").value_or(0)), 9, Align::right) + "  "
+            + cell(value<std::string>(process, "name").value_or(""), 34)
+            + cell(cformat("%.1f%%", value<double>(process, "cpu_percent_of_one_core").value_or(0)), 9, Align::right)
             + cell(Fmt::memory(byteCount(process, "memory_bytes")), 11, Align::right);
-        if (flag(process, "zombie").value_or(false))
+        if (value<bool>(process, "zombie").value_or(false))
             line += "  (zombie)";
         lines.push_back(line);
     }

@@ -3,6 +3,7 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
+#include "json/JsonFields.h"
 
 #include <vector>
 
@@ -12,14 +13,16 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
+using JsonFields::field;
+using JsonFields::value;
 using TextColumns::Align;
 using TextColumns::cell;
 
 // IPv6 addresses in brackets, as in URLs; the wildcard says which family it covers.
 std::string addressText(const json& socket)
 {
-    const std::string address = text(socket, "address").value_or("");
-    const bool v6 = text(socket, "family").value_or("") == "IPv6";
+    const std::string address = value<std::string>(socket, "address").value_or("");
+    const bool v6 = value<std::string>(socket, "family").value_or("") == "IPv6";
     if (address == "*")
         return v6 ? "* (IPv6)" : "* (IPv4)";
     return v6 ? "[" + address + "]" : address;
@@ -27,7 +30,7 @@ std::string addressText(const json& socket)
 
 std::string whole(const json& object, const char* key)
 {
-    return cformat("%.0f", number(object, key).value_or(0));
+    return cformat("%.0f", value<double>(object, key).value_or(0));
 }
 
 std::string portList(const json& server)
@@ -41,12 +44,13 @@ std::string portList(const json& server)
 std::string serverLine(const json& server, const TimeZone& zone)
 {
     const auto ports = list(server, "ports");
-    std::string line = "  " + cell(text(server, "runtime").value_or("?"), 10) + cell("pid " + whole(server, "pid"), 12)
-        + (ports.size() == 1 ? "port " : "ports ") + portList(server);
-    if (flag(server, "reachable_from_network").value_or(false))
+    std::string line = "  " + cell(value<std::string>(server, "runtime").value_or("?"), 10)
+        + cell("pid " + whole(server, "pid"), 12) + (ports.size() == 1 ? "port " : "ports ") + portList(server);
+    if (value<bool>(server, "reachable_from_network").value_or(false))
         line += "  reachable from the network";
-    if (const auto since = text(server, "idle_since"); since && flag(server, "idle").value_or(false))
-        line += "  idle since " + localTime(*since, zone, true);
+    if (const auto since = value<std::string>(server, "idle_since");
+        since && value<bool>(server, "idle").value_or(false))
+        line += "  idle since " + localTime(*since, zone, TimeForm::date);
     return line;
 }
 
@@ -60,7 +64,7 @@ std::string portsText(const json& report)
     std::vector<std::string> lines{cell("PORT", 7) + cell("ADDRESS", 26) + cell("PID", 8) + cell("PROCESS", 22)};
     for (const auto& socket : listening)
         lines.push_back(cell(whole(socket, "port"), 7) + cell(addressText(socket), 26) + cell(whole(socket, "pid"), 8)
-            + cell(text(socket, "process").value_or(""), 22));
+            + cell(value<std::string>(socket, "process").value_or(""), 22));
     return TextColumns::joinLines(lines);
 }
 
@@ -71,8 +75,9 @@ std::string serversText(const json& report, const TimeZone& zone)
         return "No dev servers running.";
     std::vector<std::string> lines;
     for (const auto& project : projects) {
-        std::string heading = text(project, "name").value_or("?") + "  " + text(project, "path").value_or("");
-        if (flag(project, "all_idle").value_or(false))
+        std::string heading = value<std::string>(project, "name").value_or("?") + "  "
+            + value<std::string>(project, "path").value_or("");
+        if (value<bool>(project, "all_idle").value_or(false))
             heading += "  (idle)";
         lines.push_back(heading);
         for (const auto& server : list(project, "servers"))
@@ -83,22 +88,23 @@ std::string serversText(const json& report, const TimeZone& zone)
 
 std::string dockerText(const json& report)
 {
-    const std::string state = text(report, "state").value_or("");
+    const std::string state = value<std::string>(report, "state").value_or("");
     if (state == "not_installed" || state == "not_running")
-        return text(report, "message").value_or("");
+        return value<std::string>(report, "message").value_or("");
     const json& containers = list(report, "containers");
     if (containers.empty())
         return "No containers.";
     std::vector<std::string> lines{cell("NAME", 22) + cell("IMAGE", 26) + cell("STATE", 10)
         + cell("CPU", 8, Align::right) + cell("MEMORY", 11, Align::right) + "  PORTS"};
     for (const auto& container : containers) {
-        const auto cpu = number(container, "cpu_percent");
-        const bool measured = number(container, "memory_bytes").has_value();
-        lines.push_back(cell(text(container, "name").value_or(""), 22) + cell(text(container, "image").value_or(""), 26)
-            + cell(text(container, "state").value_or(""), 10)
+        const auto cpu = value<double>(container, "cpu_percent");
+        const bool measured = value<double>(container, "memory_bytes").has_value();
+        lines.push_back(cell(value<std::string>(container, "name").value_or(""), 22)
+            + cell(value<std::string>(container, "image").value_or(""), 26)
+            + cell(value<std::string>(container, "state").value_or(""), 10)
             + cell(cpu ? cformat("%.1f%%", *cpu) : "", 8, Align::right)
             + cell(measured ? Fmt::memory(byteCount(container, "memory_bytes")) : "", 11, Align::right) + "  "
-            + text(container, "ports").value_or(""));
+            + value<std::string>(container, "ports").value_or(""));
     }
     return TextColumns::joinLines(lines);
 }

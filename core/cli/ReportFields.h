@@ -3,22 +3,17 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
-#include <optional>
-#include <string>
+#include <string_view>
 
 namespace vexel::ReportFields {
 
-// Tolerant reads of a report: a missing key, or a value of another type, is
-// nothing, so that a renderer skips the line instead of failing.
+// Readings of a report that the renderers share, on top of JsonFields: a
+// missing key or a value of another kind reads as nothing, so that a
+// renderer skips the line instead of failing.
 
-// The value under `key` when `object` is an object holding it.
-[[nodiscard]] const nlohmann::json* field(const nlohmann::json& object, const char* key);
-[[nodiscard]] std::optional<double> number(const nlohmann::json& object, const char* key);
 // A byte count: the number under `key` as a whole, unsigned count; 0 when missing or negative.
-[[nodiscard]] uint64_t byteCount(const nlohmann::json& object, const char* key);
-[[nodiscard]] std::optional<std::string> text(const nlohmann::json& object, const char* key);
-[[nodiscard]] std::optional<bool> flag(const nlohmann::json& object, const char* key);
+[[nodiscard]] uint64_t byteCount(const nlohmann::json& object, std::string_view key);
 // The array under `key`; an empty array when there is none.
-[[nodiscard]] const nlohmann::json& list(const nlohmann::json& object, const char* key);
+[[nodiscard]] const nlohmann::json& list(const nlohmann::json& object, std::string_view key);
 
 } // namespace vexel::ReportFields

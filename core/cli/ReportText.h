@@ -22,8 +22,10 @@ namespace vexel::VexelCLI {
 [[nodiscard]] std::string historyText(const nlohmann::json& report, const TimeZone& zone = TimeZone::current());
 [[nodiscard]] std::string spikesText(const nlohmann::json& report, const TimeZone& zone = TimeZone::current());
 
-// An ISO 8601 time of a report in `zone`: "Sun 14:05" (`withDate` false) or
-// "2026-11-22 14:05"; the text itself when it is not a time.
-[[nodiscard]] std::string localTime(const std::string& iso, const TimeZone& zone, bool withDate);
+// How a report's time is shown: "2026-11-22 14:05", or "Sun 14:05".
+enum class TimeForm { date, weekday };
+
+// An ISO 8601 time of a report in `zone`, in `form`; the text itself when it is not a time.
+[[nodiscard]] std::string localTime(const std::string& iso, const TimeZone& zone, TimeForm form);
 
 } // namespace vexel::VexelCLI

@@ -3,6 +3,7 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
+#include "json/JsonFields.h"
 
 #include <cmath>
 #include <vector>
@@ -13,6 +14,8 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
+using JsonFields::field;
+using JsonFields::value;
 
 constexpr size_t labelWidth = 10;
 
@@ -24,12 +27,12 @@ std::string labelled(const char* label, const std::string& content)
 std::optional<std::string> cpuLine(const json& report)
 {
     const json* cpu = field(report, "cpu");
-    const auto total = cpu ? number(*cpu, "percent") : std::nullopt;
+    const auto total = cpu ? value<double>(*cpu, "percent") : std::nullopt;
     if (!total)
         return std::nullopt;
     std::string line = cformat("%.0f%%", *total);
-    line += cformat("  (user %.0f%%, system %.0f%%)", number(*cpu, "user_percent").value_or(0),
-        number(*cpu, "system_percent").value_or(0));
+    line += cformat("  (user %.0f%%, system %.0f%%)", value<double>(*cpu, "user_percent").value_or(0),
+        value<double>(*cpu, "system_percent").value_or(0));
     line += "  load";
     for (const auto& load : list(*cpu, "load_average"))
         line += load.is_number() ? cformat(" %.2f", load.get<double>()) : std::string();
@@ -39,12 +42,12 @@ std::optional<std::string> cpuLine(const json& report)
 std::optional<std::string> memoryLine(const json& report)
 {
     const json* memory = field(report, "memory");
-    const auto used = memory ? number(*memory, "used_bytes") : std::nullopt;
-    const auto total = memory ? number(*memory, "total_bytes") : std::nullopt;
+    const auto used = memory ? value<double>(*memory, "used_bytes") : std::nullopt;
+    const auto total = memory ? value<double>(*memory, "total_bytes") : std::nullopt;
     if (!used || !total)
         return std::nullopt;
     return Fmt::memory(byteCount(*memory, "used_bytes")) + " of " + Fmt::memory(byteCount(*memory, "total_bytes"))
-        + "  pressure " + text(*memory, "pressure").value_or("?") + "  swap "
+        + "  pressure " + value<std::string>(*memory, "pressure").value_or("?") + "  swap "
         + Fmt::memory(byteCount(*memory, "swap_bytes"));
 }
 
@@ -56,10 +59,10 @@ std::optional<std::string> diskLine(const json& report)
     std::string line;
     const json& volumes = list(*disk, "volumes");
     if (!volumes.empty())
-        line = Fmt::bytes(number(volumes[0], "free_bytes").value_or(0), 1) + " free of "
-            + Fmt::bytes(number(volumes[0], "total_bytes").value_or(0), 1) + "  ";
-    return line + "read " + Fmt::rate(number(*disk, "read_bytes_per_s").value_or(0), false) + "  write "
-        + Fmt::rate(number(*disk, "write_bytes_per_s").value_or(0), false);
+        line = Fmt::bytes(value<double>(volumes[0], "free_bytes").value_or(0), 1) + " free of "
+            + Fmt::bytes(value<double>(volumes[0], "total_bytes").value_or(0), 1) + "  ";
+    return line + "read " + Fmt::rate(value<double>(*disk, "read_bytes_per_s").value_or(0), Fmt::RateUnit::bytes)
+        + "  write " + Fmt::rate(value<double>(*disk, "write_bytes_per_s").value_or(0), Fmt::RateUnit::bytes);
 }
 
 std::optional<std::string> networkLine(const json& report)
@@ -67,8 +70,8 @@ std::optional<std::string> networkLine(const json& report)
     const json* network = field(report, "network");
     if (network == nullptr)
         return std::nullopt;
-    return "down " + Fmt::rate(number(*network, "in_bytes_per_s").value_or(0), false) + "  up "
-        + Fmt::rate(number(*network, "out_bytes_per_s").value_or(0), false);
+    return "down " + Fmt::rate(value<double>(*network, "in_bytes_per_s").value_or(0), Fmt::RateUnit::bytes) + "  up "
+        + Fmt::rate(value<double>(*network, "out_bytes_per_s").value_or(0), Fmt::RateUnit::bytes);
 }
 
 std::optional<std::string> gpuLine(const json& report)
@@ -76,7 +79,8 @@ std::optional<std::string> gpuLine(const json& report)
     const json* gpu = field(report, "gpu");
     if (gpu == nullptr)
         return std::nullopt;
-    return cformat("%.0f%%", number(*gpu, "percent").value_or(0)) + "  " + text(*gpu, "name").value_or("");
+    return cformat("%.0f%%", value<double>(*gpu, "percent").value_or(0)) + "  "
+        + value<std::string>(*gpu, "name").value_or("");
 }
 
 std::optional<std::string> batteryLine(const json& report)
@@ -84,16 +88,16 @@ std::optional<std::string> batteryLine(const json& report)
     const json* battery = field(report, "battery");
     if (battery == nullptr)
         return std::nullopt;
-    std::string line = cformat("%.0f%%", number(*battery, "percent").value_or(0));
-    if (flag(*battery, "charging").value_or(false))
+    std::string line = cformat("%.0f%%", value<double>(*battery, "percent").value_or(0));
+    if (value<bool>(*battery, "charging").value_or(false))
         line += " charging";
-    else if (flag(*battery, "on_ac").value_or(false))
+    else if (value<bool>(*battery, "on_ac").value_or(false))
         line += " on power";
-    if (const auto watts = number(*battery, "power_watts"))
+    if (const auto watts = value<double>(*battery, "power_watts"))
         line += "  " + Fmt::watts(std::fabs(*watts));
-    if (const auto minutes = number(*battery, "minutes_left"))
+    if (const auto minutes = value<double>(*battery, "minutes_left"))
         line += "  " + Fmt::minutes(static_cast<int>(*minutes)) + " left";
-    if (const auto health = number(*battery, "health_percent"))
+    if (const auto health = value<double>(*battery, "health_percent"))
         line += cformat("  health %.0f%%", *health);
     return line;
 }
@@ -103,8 +107,8 @@ std::optional<std::string> processesLine(const json& report)
     const json* processes = field(report, "processes");
     if (processes == nullptr)
         return std::nullopt;
-    return cformat(
-        "%.0f in %.0f apps", number(*processes, "count").value_or(0), number(*processes, "apps").value_or(0));
+    return cformat("%.0f in %.0f apps", value<double>(*processes, "count").value_or(0),
+        value<double>(*processes, "apps").value_or(0));
 }
 
 std::optional<std::string> todayLine(const json& report)
@@ -112,9 +116,9 @@ std::optional<std::string> todayLine(const json& report)
     const json* today = field(report, "today");
     if (today == nullptr)
         return std::nullopt;
-    return Fmt::bytes(number(*today, "disk_written_bytes").value_or(0), 1) + " written  "
-        + Fmt::bytes(number(*today, "network_in_bytes").value_or(0), 1) + " down  "
-        + Fmt::bytes(number(*today, "network_out_bytes").value_or(0), 1) + " up";
+    return Fmt::bytes(value<double>(*today, "disk_written_bytes").value_or(0), 1) + " written  "
+        + Fmt::bytes(value<double>(*today, "network_in_bytes").value_or(0), 1) + " down  "
+        + Fmt::bytes(value<double>(*today, "network_out_bytes").value_or(0), 1) + " up";
 }
 
 } // namespace
@@ -129,7 +133,7 @@ std::string statusText(const json& report)
         {"Network", networkLine(report)},
         {"GPU", gpuLine(report)},
         {"Battery", batteryLine(report)},
-        {"Thermal", thermal ? text(*thermal, "state") : std::nullopt},
+        {"Thermal", thermal ? value<std::string>(*thermal, "state") : std::nullopt},
         {"Processes", processesLine(report)},
         {"Today", todayLine(report)},
     };

@@ -2,6 +2,7 @@
 
 #include "io/AtomicFile.h"
 #include "io/Files.h"
+#include "json/JsonFields.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -57,19 +58,13 @@ ActivityLog ActivityLog::load(const std::filesystem::path& file)
     if (!text)
         return log;
     const auto json = nlohmann::json::parse(*text, nullptr, false);
-    if (json.is_discarded() || !json.is_object() || !json.contains("entries") || !json["entries"].is_object())
+    const auto* entries = JsonFields::field(json, "entries");
+    if (entries == nullptr || !entries->is_object())
         return log;
-    for (const auto& item : json["entries"].items()) {
-        const auto& value = item.value();
-        if (!value.is_object())
-            continue;
-        const auto number = [&value](const char* field) -> std::optional<double> {
-            const auto it = value.find(field);
-            return it != value.end() && it->is_number() ? std::optional(it->get<double>()) : std::nullopt;
-        };
-        const auto cpu = number("cpu");
-        const auto lastActive = number("lastActive");
-        const auto firstSeen = number("firstSeen");
+    for (const auto& item : entries->items()) {
+        const auto cpu = JsonFields::value<double>(item.value(), "cpu");
+        const auto lastActive = JsonFields::value<double>(item.value(), "lastActive");
+        const auto firstSeen = JsonFields::value<double>(item.value(), "firstSeen");
         if (cpu && lastActive && firstSeen)
             log.m_entries.emplace(item.key(), Entry{*cpu, *lastActive, *firstSeen});
     }

@@ -183,44 +183,4 @@ std::vector<ProjectGroup> build(const Inputs& in, ActivityLog& log)
 
 } // namespace DevServers
 
-nlohmann::ordered_json toJson(const ProcKey& key)
-{
-    return nlohmann::ordered_json{{"pid", key.pid}, {"start", key.start}};
-}
-
-nlohmann::ordered_json toJson(const ProjectInfo& project)
-{
-    nlohmann::ordered_json json{{"name", project.name}, {"path", project.path}};
-    if (project.marker)
-        json["marker"] = *project.marker;
-    return json;
-}
-
-nlohmann::ordered_json toJson(const DevServer& server)
-{
-    nlohmann::ordered_json json;
-    json["key"] = toJson(server.key);
-    json["pid"] = server.pid;
-    json["name"] = server.name;
-    json["runtime"] = server.runtime;
-    if (server.commandPath)
-        json["commandPath"] = *server.commandPath;
-    if (server.cwd)
-        json["cwd"] = *server.cwd;
-    json["project"] = toJson(server.project);
-    json["ports"] = server.ports;
-    json["sockets"] = nlohmann::ordered_json::array();
-    for (const auto& socket : server.sockets)
-        json["sockets"].push_back(toJson(socket));
-    json["started"] = server.started;
-    json["cpu"] = server.cpu;
-    json["memory"] = server.memory;
-    if (server.lastActive)
-        json["lastActive"] = *server.lastActive;
-    if (server.idleSince)
-        json["idleSince"] = *server.idleSince;
-    json["isIdle"] = server.isIdle;
-    return json;
-}
-
 } // namespace vexel

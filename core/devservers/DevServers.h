@@ -5,8 +5,6 @@
 #include "processes/ProcRecord.h"
 #include "rates/RateTracker.h"
 
-#include <nlohmann/json.hpp>
-
 #include <functional>
 #include <optional>
 #include <string>
@@ -97,9 +95,5 @@ struct Inputs {
 [[nodiscard]] std::vector<ProjectGroup> build(const Inputs& inputs, ActivityLog& log);
 
 } // namespace DevServers
-
-[[nodiscard]] nlohmann::ordered_json toJson(const ProcKey& key);
-[[nodiscard]] nlohmann::ordered_json toJson(const ProjectInfo& project);
-[[nodiscard]] nlohmann::ordered_json toJson(const DevServer& server);
 
 } // namespace vexel

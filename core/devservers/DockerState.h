@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -53,7 +51,5 @@ public:
     virtual ~DockerSource() = default;
     [[nodiscard]] virtual DockerState read() = 0;
 };
-
-[[nodiscard]] nlohmann::ordered_json toJson(const Container& container);
 
 } // namespace vexel

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,10 +27,7 @@ struct ListenSocket {
 
 // "IPv4" or "IPv6".
 [[nodiscard]] std::string rawValue(ListenSocket::Family family);
-[[nodiscard]] std::optional<ListenSocket::Family> listenFamilyFromRaw(std::string_view raw);
 
 // The socket under its field names: pid, command, family, address, port.
-[[nodiscard]] nlohmann::ordered_json toJson(const ListenSocket& socket);
-[[nodiscard]] std::optional<ListenSocket> listenSocketFromJson(const nlohmann::ordered_json& json);
 
 } // namespace vexel

@@ -2,6 +2,7 @@
 
 #include "text/TextScan.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace vexel::LsofParser {

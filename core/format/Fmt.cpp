@@ -63,22 +63,22 @@ std::string bytes(uint64_t count)
     return bytes(static_cast<double>(count));
 }
 
-std::string rate(double bytesPerSecond, bool bits)
+std::string rate(double bytesPerSecond, RateUnit unit)
 {
     const double v = std::max(bytesPerSecond, 0.0);
-    if (!bits)
+    if (unit == RateUnit::bytes)
         return v < 1000 ? whole(v) + " B/s" : bytes(v) + "/s";
     double b = v * 8;
     if (b < 1000)
         return whole(b) + " b/s";
     static constexpr std::array<const char*, 3> units{"Kb/s", "Mb/s", "Gb/s"};
-    size_t unit = 0;
+    size_t prefix = 0;
     b /= 1000;
-    while (b >= 1000 && unit + 1 < units.size()) {
+    while (b >= 1000 && prefix + 1 < units.size()) {
         b /= 1000;
-        ++unit;
+        ++prefix;
     }
-    return b < 10 ? cformat("%.1f %s", b, units[unit]) : cformat("%.0f %s", b, units[unit]);
+    return b < 10 ? cformat("%.1f %s", b, units[prefix]) : cformat("%.0f %s", b, units[prefix]);
 }
 
 std::string watts(double value)

@@ -23,8 +23,11 @@ namespace vexel::Fmt {
 [[nodiscard]] std::string bytes(double value, std::optional<int> digits = std::nullopt);
 [[nodiscard]] std::string bytes(uint64_t count);
 
+// How a transfer rate is counted.
+enum class RateUnit { bytes, bits };
+
 // Transfer rate: 2500000 → "2.5 MB/s"; in bits, 1250000 → "10 Mb/s".
-[[nodiscard]] std::string rate(double bytesPerSecond, bool bits);
+[[nodiscard]] std::string rate(double bytesPerSecond, RateUnit unit);
 
 // Power: 0.25 → "250 mW", 3.14 → "3.1 W", 42 → "42 W".
 [[nodiscard]] std::string watts(double value);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <string>
 
 namespace vexel {
@@ -21,7 +19,5 @@ struct AppPoint {
 
     bool operator==(const AppPoint&) const = default;
 };
-
-[[nodiscard]] nlohmann::ordered_json toJson(const AppPoint& point);
 
 } // namespace vexel

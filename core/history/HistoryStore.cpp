@@ -53,14 +53,14 @@ int64_t sizeOf(const std::string& path)
 
 } // namespace
 
-HistoryStore::HistoryStore(std::filesystem::path file, bool readOnly)
+HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
     : m_file(std::move(file))
-    , m_readOnly(readOnly)
+    , m_readOnly(access == HistoryAccess::readOnly)
 {
-    if (!readOnly && m_file.has_parent_path())
+    if (!m_readOnly && m_file.has_parent_path())
         std::filesystem::create_directories(m_file.parent_path());
     connect();
-    if (readOnly)
+    if (m_readOnly)
         return;
     sqlite3* handle = m_db.get();
     // The log and its index stay when the last writer closes, so that readers,
@@ -355,11 +355,11 @@ std::optional<double> HistoryStore::firstSample() const
     return first;
 }
 
-int64_t HistoryStore::rowCount(HistoryTier tier, bool apps) const
+int64_t HistoryStore::rowCount(HistoryTier tier, HistoryTable table) const
 {
-    const std::string table = apps ? "apps" : "sys";
+    const std::string name = table == HistoryTable::apps ? "apps" : "sys";
     try {
-        return static_cast<int64_t>(scalar("SELECT COUNT(*) FROM " + table + " WHERE tier = ?", tier).value_or(0));
+        return static_cast<int64_t>(scalar("SELECT COUNT(*) FROM " + name + " WHERE tier = ?", tier).value_or(0));
     } catch (const HistoryError&) {
         return 0;
     }

@@ -14,6 +14,12 @@
 
 namespace vexel {
 
+// How a store opens its file: to record (creating it), or only to read.
+enum class HistoryAccess { readWrite, readOnly };
+
+// The table of a tier's system points, or of its app points.
+enum class HistoryTable { sys, apps };
+
 // The recorded history in one SQLite file: system points and the busiest
 // apps' points of every sample, in four tiers of resolution. The desktop app
 // writes; the command line and the MCP server open the same file read-only
@@ -22,7 +28,7 @@ class HistoryStore {
 public:
     // Opens (creating when writable) the file. Raises HistoryError (open or
     // sql), or the file system's error when the folder cannot be made.
-    HistoryStore(std::filesystem::path file, bool readOnly);
+    HistoryStore(std::filesystem::path file, HistoryAccess access);
 
     // Records one live sample in the raw tier: the system point and the
     // apps worth keeping (Downsample::select with appsPerSample).
@@ -83,7 +89,7 @@ public:
     // The earliest point of any tier; absent when there is none or it cannot be read.
     [[nodiscard]] std::optional<double> firstSample() const;
     // The rows of a tier in `sys`, or in `apps`; 0 when they cannot be counted.
-    [[nodiscard]] int64_t rowCount(HistoryTier tier, bool apps) const;
+    [[nodiscard]] int64_t rowCount(HistoryTier tier, HistoryTable table) const;
 
     int64_t maxBytes = 64'000'000;
     size_t appsPerSample = 8;

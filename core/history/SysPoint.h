@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <cstdint>
 #include <optional>
 
@@ -31,6 +29,5 @@ struct SysPoint {
 };
 
 // The point under its field names; absent optionals are left out.
-[[nodiscard]] nlohmann::ordered_json toJson(const SysPoint& point);
 
 } // namespace vexel

@@ -1,10 +1,9 @@
 #include "mcp/MCPTools.h"
 
 #include "reports/ReportError.h"
+#include "json/JsonFields.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdint>
 
 namespace vexel::MCPTools {
 
@@ -41,25 +40,7 @@ std::string statusDescription(Platform platform)
 
 std::string stringArgument(const json& arguments, const char* key)
 {
-    const auto found = arguments.find(key);
-    return found != arguments.end() && found->is_string() ? found->get<std::string>() : std::string();
-}
-
-// A whole number, also when written with a zero fraction ("5.0").
-std::optional<long long> integerArgument(const json& arguments, const char* key)
-{
-    constexpr double largest = 9.2e18;
-    const auto found = arguments.find(key);
-    if (found == arguments.end() || !found->is_number())
-        return std::nullopt;
-    if (found->is_number_unsigned())
-        return static_cast<long long>(std::min<uint64_t>(found->get<uint64_t>(), INT64_MAX));
-    if (found->is_number_integer())
-        return found->get<long long>();
-    const double value = found->get<double>();
-    if (std::floor(value) != value || std::fabs(value) > largest)
-        return std::nullopt;
-    return static_cast<long long>(value);
+    return JsonFields::value<std::string>(arguments, key).value_or("");
 }
 
 } // namespace
@@ -112,7 +93,7 @@ json call(VexelService& service, const std::string& name, const json& arguments)
         return service.status();
     if (name == "top_apps") {
         const auto sort = appSortFromRaw(stringArgument(arguments, "sort")).value_or(AppSort::cpu);
-        return service.topApps(sort, integerArgument(arguments, "limit").value_or(10));
+        return service.topApps(sort, JsonFields::value<long long>(arguments, "limit").value_or(10));
     }
     if (name == "app_processes") {
         const std::string app = stringArgument(arguments, "name");
@@ -123,8 +104,7 @@ json call(VexelService& service, const std::string& name, const json& arguments)
     if (name == "history")
         return service.history(historyRangeFromRaw(stringArgument(arguments, "range")).value_or(HistoryRange::today));
     if (name == "spikes") {
-        const auto hours = arguments.find("hours");
-        return service.spikes(hours != arguments.end() && hours->is_number() ? hours->get<double>() : 24.0);
+        return service.spikes(JsonFields::value<double>(arguments, "hours").value_or(24.0));
     }
     if (name == "dev_servers")
         return service.serversReport();

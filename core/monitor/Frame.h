@@ -1,15 +1,12 @@
 #pragma once
 
 #include "grouping/AppGroup.h"
-#include "history/AppPoint.h"
-#include "history/SysPoint.h"
 #include "processes/ProcRecord.h"
 #include "rates/RateTracker.h"
 #include "system/SystemSnapshot.h"
 
 #include <optional>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace vexel {
@@ -26,10 +23,6 @@ struct Frame {
     // The app named `query` ignoring case; failing that, the first whose name
     // contains it ignoring case; failing that, nothing.
     [[nodiscard]] const AppGroup* app(std::string_view query) const;
-
-    // The frame as history: the interval that ends at `time`, system-wide and
-    // per app; rates become amounts over the interval (bytes, joules).
-    [[nodiscard]] std::pair<SysPoint, std::vector<AppPoint>> historyPoints() const;
 };
 
 } // namespace vexel

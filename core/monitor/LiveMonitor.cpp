@@ -5,7 +5,7 @@
 
 #include "devservers/LiveDockerSource.h"
 #include "io/Files.h"
-#include "settings/VexelPaths.h"
+#include "platform/Environment.h"
 
 #include <cstdlib>
 #include <unistd.h>

@@ -17,15 +17,15 @@ Monitor::Monitor(MonitorSources sources)
 {
 }
 
-Frame Monitor::sample(double now, bool everyone, bool network)
+Frame Monitor::sample(double now, Readings readings)
 {
     Frame frame;
     frame.time = now;
-    frame.records = m_sources.processes->snapshot(everyone);
-    if (everyone)
+    frame.records = m_sources.processes->snapshot(readings.everyone ? ProcessScope::everyone : ProcessScope::own);
+    if (readings.everyone)
         m_lastEveryoneRun = now;
     std::optional<NetCounters> counters;
-    if (network) {
+    if (readings.network) {
         counters = m_sources.net->counters();
         m_lastNetRun = now;
     }

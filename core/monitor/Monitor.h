@@ -40,9 +40,14 @@ public:
     // The monitor of this machine with its live sources.
     [[nodiscard]] static std::unique_ptr<Monitor> live();
 
-    // One frame at `now`. `everyone` gathers other users' figures, `network`
-    // reads per-process network counters (else the previous rates carry over).
-    [[nodiscard]] Frame sample(double now, bool everyone, bool network);
+    // What one sample reads besides the user's own processes and the system.
+    struct Readings {
+        bool everyone = false; // other users' processor time and memory
+        bool network = false; // per-process network counters (else the previous rates carry over)
+    };
+
+    // One frame at `now`, e.g. sample(now, {.everyone = true, .network = true}).
+    [[nodiscard]] Frame sample(double now, Readings readings);
 
     [[nodiscard]] std::optional<std::vector<ListenSocket>> listeners();
     [[nodiscard]] std::vector<ProjectGroup> devServers(

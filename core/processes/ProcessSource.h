@@ -8,14 +8,17 @@
 
 namespace vexel {
 
+// Whose processes get their processor time and memory read: the user's own
+// only, or everyone's (it costs more).
+enum class ProcessScope { own, everyone };
+
 // Where the process table comes from. Used by one sampling thread at a time.
 class ProcessSource {
 public:
     virtual ~ProcessSource() = default;
 
-    // Every process. Other users' processor time and memory are gathered only
-    // when `everyone` is set (it costs more); the user's own always are.
-    [[nodiscard]] virtual std::vector<ProcRecord> snapshot(bool everyone) = 0;
+    // Every process, with processor time and memory of those in `scope`.
+    [[nodiscard]] virtual std::vector<ProcRecord> snapshot(ProcessScope scope) = 0;
 
     // The process's current working folder; nothing when it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> cwd(int32_t pid) = 0;

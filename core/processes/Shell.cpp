@@ -1,7 +1,7 @@
 #include "processes/Shell.h"
 
 #include "format/CFormat.h"
-#include "settings/VexelPaths.h"
+#include "platform/Environment.h"
 
 #include <atomic>
 #include <cerrno>

@@ -8,13 +8,20 @@
 
 namespace vexel {
 
+namespace {
+
+// Reports see every user's processes and their network use.
+constexpr Monitor::Readings everything{.everyone = true, .network = true};
+
+} // namespace
+
 VexelService::VexelService(
-    VexelPaths paths, TimeZone calendar, Clock now, MonitorFactory makeMonitor, bool settleSleeps, Platform platform)
+    VexelPaths paths, TimeZone calendar, Clock now, MonitorFactory makeMonitor, Settle settle, Platform platform)
     : m_paths(std::move(paths))
     , m_calendar(calendar)
     , m_now(std::move(now))
     , m_makeMonitor(std::move(makeMonitor))
-    , m_settleSleeps(settleSleeps)
+    , m_settle(settle)
     , m_platform(platform)
 {
 }
@@ -35,14 +42,14 @@ const Frame& VexelService::frame()
 {
     if (m_cachedFrame)
         return *m_cachedFrame;
-    if (m_settleSleeps) {
-        (void)monitor().sample(m_now(), true, true);
+    if (m_settle == Settle::sleeping) {
+        (void)monitor().sample(m_now(), everything);
         std::this_thread::sleep_for(std::chrono::seconds(1));
-        m_cachedFrame = monitor().sample(m_now(), true, true);
+        m_cachedFrame = monitor().sample(m_now(), everything);
     } else {
         const double now = m_now();
-        (void)monitor().sample(now - 1.0, true, true);
-        m_cachedFrame = monitor().sample(now, true, true);
+        (void)monitor().sample(now - 1.0, everything);
+        m_cachedFrame = monitor().sample(now, everything);
     }
     return *m_cachedFrame;
 }
@@ -51,7 +58,7 @@ std::unique_ptr<HistoryStore> VexelService::openStore() const
 {
     if (Files::missing(m_paths.history().string()))
         return nullptr;
-    return std::make_unique<HistoryStore>(m_paths.history(), true);
+    return std::make_unique<HistoryStore>(m_paths.history(), HistoryAccess::readOnly);
 }
 
 std::unique_ptr<HistoryStore> VexelService::requireStore() const

@@ -26,11 +26,15 @@ public:
     using Clock = std::function<double()>;
     using MonitorFactory = std::function<std::unique_ptr<Monitor>()>;
 
-    // `settleSleeps` true samples, sleeps a second and samples again (real
-    // use); false samples one second before `now()` and at it, without
-    // sleeping (fixture worlds). `platform` picks the words of the texts.
+    // How the frame gets its second sample, a second after the first: by
+    // sleeping that second (real use), or by sampling one second before
+    // `now()` and at it (fixture worlds, which move on their own clock).
+    enum class Settle { sleeping, onTheClock };
+
+    // `platform` picks the words of the texts.
     explicit VexelService(VexelPaths paths, TimeZone calendar = TimeZone::current(), Clock now = currentTime,
-        MonitorFactory makeMonitor = Monitor::live, bool settleSleeps = true, Platform platform = livePlatform());
+        MonitorFactory makeMonitor = Monitor::live, Settle settle = Settle::sleeping,
+        Platform platform = livePlatform());
 
     // The monitor, made on first use.
     [[nodiscard]] Monitor& monitor();
@@ -71,7 +75,7 @@ private:
     Clock m_now;
     std::unique_ptr<Monitor> m_monitorStorage;
     MonitorFactory m_makeMonitor;
-    bool m_settleSleeps;
+    Settle m_settle;
     std::optional<Frame> m_cachedFrame;
     std::optional<std::vector<ListenSocket>> m_listeners;
     Platform m_platform;

@@ -1,32 +1,8 @@
 #include "settings/VexelPaths.h"
 
-#include <cstdlib>
-#include <pwd.h>
-#include <unistd.h>
+#include "platform/Environment.h"
 
 namespace vexel {
-
-std::optional<std::string> environmentVariable(const char* name)
-{
-    const char* value = std::getenv(name);
-    if (value == nullptr)
-        return std::nullopt;
-    return std::string(value);
-}
-
-std::string homeFolder()
-{
-    return homeFolder(environmentVariable);
-}
-
-std::string homeFolder(const std::function<std::optional<std::string>(const char*)>& getenv)
-{
-    if (const auto home = getenv("HOME"); home && !home->empty())
-        return *home;
-    if (const passwd* entry = ::getpwuid(::getuid()); entry != nullptr && entry->pw_dir != nullptr)
-        return entry->pw_dir;
-    return "/";
-}
 
 VexelPaths VexelPaths::standard(const std::function<std::optional<std::string>(const char*)>& getenv)
 {

@@ -30,12 +30,4 @@ struct VexelPaths {
     [[nodiscard]] std::filesystem::path activity() const { return dir / "server-activity.json"; }
 };
 
-// The user's home folder: $HOME when set and non-empty, else the password database's entry.
-[[nodiscard]] std::string homeFolder(const std::function<std::optional<std::string>(const char*)>& getenv);
-// The same from this process's environment.
-[[nodiscard]] std::string homeFolder();
-
-// A variable of this process's environment; nothing when unset.
-[[nodiscard]] std::optional<std::string> environmentVariable(const char* name);
-
 } // namespace vexel

@@ -2,7 +2,9 @@
 
 #include "io/AtomicFile.h"
 #include "io/Files.h"
-#include "settings/JsonFields.h"
+#include "json/JsonFields.h"
+
+#include <variant>
 
 namespace vexel {
 
@@ -10,37 +12,88 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
+// One number or flag of a record under its JSON key: each table below is the
+// one place that names a record's keys, for writing and for reading.
+template <typename Record> struct Field {
+    const char* key;
+    std::variant<double Record::*, int Record::*, bool Record::*> member;
+};
+
+template <typename Record, size_t count>
+void writeFields(Json& json, const std::array<Field<Record>, count>& fields, const Record& record)
+{
+    for (const auto& field : fields)
+        std::visit([&](auto member) { json[field.key] = record.*member; }, field.member);
+}
+
+template <typename Record, size_t count>
+void readFields(const Json& json, const std::array<Field<Record>, count>& fields, Record& record)
+{
+    for (const auto& field : fields)
+        std::visit([&](auto member) { JsonFields::read(json, field.key, record.*member); }, field.member);
+}
+
+const std::array<Field<StrainRules>, 9> strainFields{{
+    {"cpuElevated", &StrainRules::cpuElevated},
+    {"cpuStrained", &StrainRules::cpuStrained},
+    {"batteryElevated", &StrainRules::batteryElevated},
+    {"batteryStrained", &StrainRules::batteryStrained},
+    {"diskFreeElevated", &StrainRules::diskFreeElevated},
+    {"diskFreeStrained", &StrainRules::diskFreeStrained},
+    {"gpuElevated", &StrainRules::gpuElevated},
+    {"gpuStrained", &StrainRules::gpuStrained},
+    {"netElevated", &StrainRules::netElevated},
+}};
+
+const std::array<Field<SpikeRules>, 8> spikeFields{{
+    {"cpu", &SpikeRules::cpu},
+    {"cpuMinutes", &SpikeRules::cpuMinutes},
+    {"diskPerMinute", &SpikeRules::diskPerMinute},
+    {"diskTotal", &SpikeRules::diskTotal},
+    {"netPerMinute", &SpikeRules::netPerMinute},
+    {"netTotal", &SpikeRules::netTotal},
+    {"batteryDrop", &SpikeRules::batteryDrop},
+    {"mergeGap", &SpikeRules::mergeGap},
+}};
+
+// The settings' plain numbers and flags; the rest is written out below.
+const std::array<Field<VexelSettings>, 6> plainFields{{
+    {"sampleSeconds", &VexelSettings::sampleSeconds},
+    {"networkBits", &VexelSettings::networkBits},
+    {"retentionDays", &VexelSettings::retentionDays},
+    {"maxHistoryMB", &VexelSettings::maxHistoryMB},
+    {"idleDays", &VexelSettings::idleDays},
+    {"onboarded", &VexelSettings::onboarded},
+}};
+
 template <typename Enum, typename FromRaw> void readEnum(const Json& json, const char* key, Enum& into, FromRaw fromRaw)
 {
-    std::string raw;
-    JsonFields::read(json, key, raw);
-    if (const auto value = fromRaw(raw))
-        into = *value;
+    if (const auto raw = JsonFields::value<std::string>(json, key))
+        if (const auto value = fromRaw(*raw))
+            into = *value;
 }
 
 std::optional<MenuItemConfig> menuItemFromJson(const Json& json)
 {
-    if (!json.is_object() || !json.contains("kind") || !json.contains("enabled") || !json.contains("style"))
+    const auto kind = JsonFields::value<std::string>(json, "kind");
+    const auto enabled = JsonFields::value<bool>(json, "enabled");
+    const auto style = JsonFields::value<std::string>(json, "style");
+    if (!kind || !enabled || !style)
         return std::nullopt;
-    const auto& kind = json["kind"];
-    const auto& enabled = json["enabled"];
-    const auto& style = json["style"];
-    if (!kind.is_string() || !enabled.is_boolean() || !style.is_string())
-        return std::nullopt;
-    const auto parsedKind = menuItemKindFromRaw(kind.get<std::string>());
-    const auto parsedStyle = menuItemStyleFromRaw(style.get<std::string>());
+    const auto parsedKind = menuItemKindFromRaw(*kind);
+    const auto parsedStyle = menuItemStyleFromRaw(*style);
     if (!parsedKind || !parsedStyle)
         return std::nullopt;
-    return MenuItemConfig{*parsedKind, enabled.get<bool>(), *parsedStyle};
+    return MenuItemConfig{*parsedKind, *enabled, *parsedStyle};
 }
 
 // The whole list, or nothing when any entry cannot be read.
-std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json& json)
+std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json* json)
 {
-    if (!json.is_array())
+    if (json == nullptr || !json->is_array())
         return std::nullopt;
     std::vector<MenuItemConfig> items;
-    for (const auto& entry : json) {
+    for (const auto& entry : *json) {
         const auto item = menuItemFromJson(entry);
         if (!item)
             return std::nullopt;
@@ -54,20 +107,15 @@ std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json& json)
 Json toJson(const VexelSettings& settings)
 {
     Json json;
-    json["sampleSeconds"] = settings.sampleSeconds;
+    writeFields(json, plainFields, settings);
     json["cpuScale"] = rawValue(settings.cpuScale);
-    json["networkBits"] = settings.networkBits;
-    json["retentionDays"] = settings.retentionDays;
-    json["maxHistoryMB"] = settings.maxHistoryMB;
     json["menuItems"] = Json::array();
     for (const auto& item : settings.menuItems)
         json["menuItems"].push_back(
             Json{{"kind", rawValue(item.kind)}, {"enabled", item.enabled}, {"style", rawValue(item.style)}});
-    json["strain"] = toJson(settings.strain);
-    json["spikes"] = toJson(settings.spikes);
-    json["idleDays"] = settings.idleDays;
+    writeFields(json["strain"], strainFields, settings.strain);
+    writeFields(json["spikes"], spikeFields, settings.spikes);
     json["appSort"] = rawValue(settings.appSort);
-    json["onboarded"] = settings.onboarded;
     if (settings.lastSeen)
         json["lastSeen"] = *settings.lastSeen;
     return json;
@@ -76,28 +124,17 @@ Json toJson(const VexelSettings& settings)
 VexelSettings settingsFromJson(const Json& json)
 {
     VexelSettings settings;
-    if (!json.is_object())
-        return settings;
-    JsonFields::read(json, "sampleSeconds", settings.sampleSeconds);
+    readFields(json, plainFields, settings);
     readEnum(json, "cpuScale", settings.cpuScale, cpuScaleFromRaw);
-    JsonFields::read(json, "networkBits", settings.networkBits);
-    JsonFields::read(json, "retentionDays", settings.retentionDays);
-    JsonFields::read(json, "maxHistoryMB", settings.maxHistoryMB);
-    if (json.contains("menuItems"))
-        if (auto items = menuItemsFromJson(json["menuItems"]))
-            settings.menuItems = std::move(*items);
-    if (json.contains("strain") && json["strain"].is_object())
-        settings.strain = strainRulesFromJson(json["strain"]);
-    if (json.contains("spikes") && json["spikes"].is_object())
-        settings.spikes = spikeRulesFromJson(json["spikes"]);
-    JsonFields::read(json, "idleDays", settings.idleDays);
+    if (auto items = menuItemsFromJson(JsonFields::field(json, "menuItems")))
+        settings.menuItems = std::move(*items);
+    if (const Json* strain = JsonFields::field(json, "strain"))
+        readFields(*strain, strainFields, settings.strain);
+    if (const Json* spikes = JsonFields::field(json, "spikes"))
+        readFields(*spikes, spikeFields, settings.spikes);
     readEnum(json, "appSort", settings.appSort, appSortFromRaw);
-    JsonFields::read(json, "onboarded", settings.onboarded);
-    double lastSeen = 0;
-    if (json.contains("lastSeen") && json["lastSeen"].is_number()) {
-        JsonFields::read(json, "lastSeen", lastSeen);
+    if (const auto lastSeen = JsonFields::value<double>(json, "lastSeen"))
         settings.lastSeen = lastSeen;
-    }
     return settings;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +11,6 @@ enum class SpikeKind { cpu, memory, disk, network, thermal, battery };
 
 // "cpu", "memory", "disk", "network", "thermal", "battery".
 [[nodiscard]] std::string rawValue(SpikeKind kind);
-[[nodiscard]] std::optional<SpikeKind> spikeKindFromRaw(std::string_view raw);
 // "CPU", "Memory pressure", "Disk writes", "Network", "Heat", "Battery drain".
 [[nodiscard]] std::string title(SpikeKind kind);
 
@@ -32,7 +29,5 @@ struct Spike {
 
     bool operator==(const Spike&) const = default;
 };
-
-[[nodiscard]] nlohmann::ordered_json toJson(const Spike& spike);
 
 } // namespace vexel

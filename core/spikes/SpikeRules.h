@@ -1,7 +1,5 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 namespace vexel {
 
 // What counts as a spike in recorded history.
@@ -17,10 +15,5 @@ struct SpikeRules {
 
     bool operator==(const SpikeRules&) const = default;
 };
-
-// The rules under their field names; decoding keeps the default of each key
-// that is missing or of the wrong type.
-[[nodiscard]] nlohmann::ordered_json toJson(const SpikeRules& rules);
-[[nodiscard]] SpikeRules spikeRulesFromJson(const nlohmann::ordered_json& json);
 
 } // namespace vexel

@@ -1,15 +1,6 @@
 #include "spikes/StrainRules.h"
 
-#include "settings/JsonFields.h"
-
 namespace vexel {
-
-std::optional<Strain> strainFromRaw(long long raw)
-{
-    if (raw < 0 || raw > 2)
-        return std::nullopt;
-    return static_cast<Strain>(raw);
-}
 
 Strain StrainRules::cpu(double value) const
 {
@@ -71,36 +62,6 @@ Strain StrainRules::thermal(ThermalLevel level) const
     case ThermalLevel::critical: return Strain::strained;
     }
     return Strain::calm;
-}
-
-nlohmann::ordered_json toJson(const StrainRules& rules)
-{
-    nlohmann::ordered_json json;
-    json["cpuElevated"] = rules.cpuElevated;
-    json["cpuStrained"] = rules.cpuStrained;
-    json["batteryElevated"] = rules.batteryElevated;
-    json["batteryStrained"] = rules.batteryStrained;
-    json["diskFreeElevated"] = rules.diskFreeElevated;
-    json["diskFreeStrained"] = rules.diskFreeStrained;
-    json["gpuElevated"] = rules.gpuElevated;
-    json["gpuStrained"] = rules.gpuStrained;
-    json["netElevated"] = rules.netElevated;
-    return json;
-}
-
-StrainRules strainRulesFromJson(const nlohmann::ordered_json& json)
-{
-    StrainRules rules;
-    JsonFields::read(json, "cpuElevated", rules.cpuElevated);
-    JsonFields::read(json, "cpuStrained", rules.cpuStrained);
-    JsonFields::read(json, "batteryElevated", rules.batteryElevated);
-    JsonFields::read(json, "batteryStrained", rules.batteryStrained);
-    JsonFields::read(json, "diskFreeElevated", rules.diskFreeElevated);
-    JsonFields::read(json, "diskFreeStrained", rules.diskFreeStrained);
-    JsonFields::read(json, "gpuElevated", rules.gpuElevated);
-    JsonFields::read(json, "gpuStrained", rules.gpuStrained);
-    JsonFields::read(json, "netElevated", rules.netElevated);
-    return rules;
 }
 
 } // namespace vexel

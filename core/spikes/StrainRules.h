@@ -3,8 +3,6 @@
 #include "spikes/Strain.h"
 #include "system/SystemSnapshot.h"
 
-#include <nlohmann/json.hpp>
-
 namespace vexel {
 
 // Thresholds that turn live readings into calm, elevated or strained.
@@ -34,10 +32,5 @@ struct StrainRules {
 
     bool operator==(const StrainRules&) const = default;
 };
-
-// The rules under their field names; decoding keeps the default of each key
-// that is missing or of the wrong type.
-[[nodiscard]] nlohmann::ordered_json toJson(const StrainRules& rules);
-[[nodiscard]] StrainRules strainRulesFromJson(const nlohmann::ordered_json& json);
 
 } // namespace vexel

@@ -119,10 +119,10 @@ public:
         , m_seconds(seconds)
     {
     }
-    [[nodiscard]] std::vector<ProcRecord> snapshot(bool everyone) override
+    [[nodiscard]] std::vector<ProcRecord> snapshot(ProcessScope scope) override
     {
         m_world.advance(m_seconds);
-        return m_world.processSource->snapshot(everyone);
+        return m_world.processSource->snapshot(scope);
     }
     [[nodiscard]] std::optional<std::string> cwd(int32_t pid) override { return m_world.processSource->cwd(pid); }
 
@@ -226,7 +226,7 @@ SystemSnapshot DemoWorld::systemSnapshot() const
     snapshot.disk.writeRate = written;
     snapshot.net = {in, out};
     snapshot.gpu = GPUStats{strained ? 0.86 : 0.18, "Apple M3 Pro"};
-    BatteryStats battery(78, false, false);
+    BatteryStats battery{.percent = 78};
     battery.minutesLeft = strained ? 96 : 312;
     battery.powerW = strained ? -38.5 : -11.4;
     battery.cycles = 212;

@@ -17,7 +17,7 @@ namespace vexel {
 
 class FixtureProcessSource final : public ProcessSource {
 public:
-    [[nodiscard]] std::vector<ProcRecord> snapshot(bool) override
+    [[nodiscard]] std::vector<ProcRecord> snapshot(ProcessScope) override
     {
         ++served;
         return records;

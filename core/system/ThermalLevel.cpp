@@ -2,13 +2,6 @@
 
 namespace vexel {
 
-std::optional<ThermalLevel> thermalLevelFromRaw(long long raw)
-{
-    if (raw < 0 || raw > 3)
-        return std::nullopt;
-    return static_cast<ThermalLevel>(raw);
-}
-
 int rawValue(ThermalLevel level)
 {
     return static_cast<int>(level);

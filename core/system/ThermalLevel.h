@@ -3,7 +3,6 @@
 #include "platform/Platform.h"
 
 #include <array>
-#include <optional>
 #include <string>
 
 namespace vexel {
@@ -14,9 +13,6 @@ enum class ThermalLevel { nominal = 0, fair = 1, serious = 2, critical = 3 };
 
 inline constexpr std::array<ThermalLevel, 4> allThermalLevels{
     ThermalLevel::nominal, ThermalLevel::fair, ThermalLevel::serious, ThermalLevel::critical};
-
-// The level for a raw value 0…3; nothing for any other value.
-[[nodiscard]] std::optional<ThermalLevel> thermalLevelFromRaw(long long raw);
 
 [[nodiscard]] int rawValue(ThermalLevel level);
 

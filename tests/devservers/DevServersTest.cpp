@@ -226,7 +226,7 @@ TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
     const pid_t pid = server.pid();
 
     LiveProcessSource processes;
-    const auto records = processes.snapshot(false);
+    const auto records = processes.snapshot(ProcessScope::own);
     const auto listeners = liveLinuxPortSource()->listeners();
     ASSERT_TRUE(listeners);
     ActivityLog log;

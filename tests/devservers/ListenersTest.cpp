@@ -107,7 +107,11 @@ TEST_P(LivePortSources, SeeThisProcesssListenersWithPidAddressAndFamily)
         }
         return std::nullopt;
     };
-    ASSERT_TRUE(mine(loopback.port()));
+    std::string seen;
+    for (const auto& socket : *sockets)
+        seen += std::to_string(socket.pid) + " " + socket.command + " " + socket.address + ":"
+            + std::to_string(socket.port) + "\n";
+    ASSERT_TRUE(mine(loopback.port())) << "pid " << ::getpid() << " port " << loopback.port() << " among\n" << seen;
     EXPECT_EQ(mine(loopback.port())->address, "127.0.0.1");
     EXPECT_EQ(mine(loopback.port())->family, Family::v4);
     ASSERT_TRUE(mine(anywhere.port()));

@@ -45,13 +45,13 @@ TEST(Fmt, BytesUseDecimalUnits)
 
 TEST(Fmt, RatesInBytesAndBits)
 {
-    EXPECT_EQ(Fmt::rate(2500000, false), "2.5 MB/s");
-    EXPECT_EQ(Fmt::rate(999, false), "999 B/s");
-    EXPECT_EQ(Fmt::rate(-1, false), "0 B/s");
-    EXPECT_EQ(Fmt::rate(1250000, true), "10 Mb/s");
-    EXPECT_EQ(Fmt::rate(100, true), "800 b/s");
-    EXPECT_EQ(Fmt::rate(125, true), "1.0 Kb/s");
-    EXPECT_EQ(Fmt::rate(1e12, true), "8000 Gb/s");
+    EXPECT_EQ(Fmt::rate(2500000, Fmt::RateUnit::bytes), "2.5 MB/s");
+    EXPECT_EQ(Fmt::rate(999, Fmt::RateUnit::bytes), "999 B/s");
+    EXPECT_EQ(Fmt::rate(-1, Fmt::RateUnit::bytes), "0 B/s");
+    EXPECT_EQ(Fmt::rate(1250000, Fmt::RateUnit::bits), "10 Mb/s");
+    EXPECT_EQ(Fmt::rate(100, Fmt::RateUnit::bits), "800 b/s");
+    EXPECT_EQ(Fmt::rate(125, Fmt::RateUnit::bits), "1.0 Kb/s");
+    EXPECT_EQ(Fmt::rate(1e12, Fmt::RateUnit::bits), "8000 Gb/s");
 }
 
 TEST(Fmt, WattsMinutesAndDurations)

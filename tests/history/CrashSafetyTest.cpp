@@ -72,7 +72,7 @@ TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
     const vexel::testing::TempFolder folder("vexel-crash");
     const auto file = folder.path() / "history.sqlite";
     {
-        HistoryStore create(file, false);
+        HistoryStore create(file, HistoryAccess::readWrite);
     }
     // Kills at random moments, the same ones each run.
     std::mt19937 random(20261122);
@@ -87,15 +87,15 @@ TEST(CrashSafety, TwoHundredKillsLeaveAWholeConsistentFile)
         readerFailures += WIFEXITED(status) && WEXITSTATUS(status) == 0 ? 0 : 1;
         if (kill % 20 == 19) {
             ASSERT_EQ(integrity(file), "ok") << "after kill " << kill + 1;
-            const HistoryStore store(file, true);
+            const HistoryStore store(file, HistoryAccess::readOnly);
             expectWatermarksMatchRows(store);
         }
     }
     EXPECT_EQ(readerFailures, 0);
-    const HistoryStore store(file, true);
+    const HistoryStore store(file, HistoryAccess::readOnly);
     EXPECT_EQ(integrity(file), "ok");
     expectWatermarksMatchRows(store);
-    EXPECT_GT(store.rowCount(HistoryTier::raw, false), 0);
+    EXPECT_GT(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
 }
 
 // A writer killed while it rewrites the shared index of its log leaves the
@@ -106,11 +106,11 @@ TEST(CrashSafety, AReaderOutlivesAWriterThatDiedRewritingItsIndex)
     const vexel::testing::TempFolder folder("vexel-index");
     const auto file = folder.path() / "history.sqlite";
     {
-        HistoryStore create(file, false);
+        HistoryStore create(file, HistoryAccess::readWrite);
     }
     ChildProcess writer = worker("write", file);
     ASSERT_EQ(writer.readLine(), "committed");
-    const HistoryStore reader(file, true);
+    const HistoryStore reader(file, HistoryAccess::readOnly);
     ASSERT_FALSE(reader.series(HistoryTier::raw, 0, 1e12).empty()); // read through the live writer's index
     (void)writer.stop(SIGKILL);
     const auto before = reader.series(HistoryTier::raw, 0, 1e12).size();

@@ -94,7 +94,10 @@ TEST(Downsample, AnAppPresentForHalfABucketCountsIdleForTheRest)
 
 class Compaction : public ::testing::Test {
 protected:
-    void SetUp() override { m_store = std::make_unique<HistoryStore>(m_folder.path() / "history.sqlite", false); }
+    void SetUp() override
+    {
+        m_store = std::make_unique<HistoryStore>(m_folder.path() / "history.sqlite", HistoryAccess::readWrite);
+    }
     void TearDown() override { m_store.reset(); }
     // Five-second samples from `from` to `to`, with one app.
     void record(double from, double to) const
@@ -130,7 +133,7 @@ TEST_F(Compaction, RollsEndedBucketsAndTwiceChangesNothing)
     m_store->compact(now, 365);
     EXPECT_EQ(m_store->watermark(HistoryTier::minute), start + 7200 + 60);
     EXPECT_EQ(m_store->watermark(HistoryTier::hour), start + 7200);
-    const auto minutes = m_store->rowCount(HistoryTier::minute, false);
+    const auto minutes = m_store->rowCount(HistoryTier::minute, HistoryTable::sys);
     const auto hours = m_store->points(HistoryTier::hour, 0, 1e9);
     EXPECT_EQ(minutes, 121);
     ASSERT_EQ(hours.size(), 2u);
@@ -140,7 +143,7 @@ TEST_F(Compaction, RollsEndedBucketsAndTwiceChangesNothing)
     EXPECT_EQ(m_store->points(HistoryTier::minute, 0, 1e9), before);
     EXPECT_EQ(m_store->points(HistoryTier::hour, 0, 1e9), hours);
     // Raw samples are older than 3 hours only later; none expired yet.
-    EXPECT_EQ(m_store->rowCount(HistoryTier::raw, false), 1458);
+    EXPECT_EQ(m_store->rowCount(HistoryTier::raw, HistoryTable::sys), 1458);
     EXPECT_EQ(m_store->coveringTier(start), HistoryTier::minute);
     const auto totals = m_store->totals(start, now);
     EXPECT_EQ(totals.diskW, 1458 * 1000.0);
@@ -153,10 +156,10 @@ TEST_F(Compaction, NothingExpiresBeforeItIsRolledUp)
     // Far in the future: the raw rows are past their 3 hours, but are rolled up first.
     const double now = start + 10 * 86400;
     m_store->compact(now, 365);
-    EXPECT_EQ(m_store->rowCount(HistoryTier::raw, false), 0);
-    EXPECT_EQ(m_store->rowCount(HistoryTier::minute, false), 0); // older than 49 hours, and rolled on
-    EXPECT_EQ(m_store->rowCount(HistoryTier::tenMinutes, false), 1);
-    EXPECT_EQ(m_store->rowCount(HistoryTier::hour, false), 1);
+    EXPECT_EQ(m_store->rowCount(HistoryTier::raw, HistoryTable::sys), 0);
+    EXPECT_EQ(m_store->rowCount(HistoryTier::minute, HistoryTable::sys), 0); // older than 49 hours, and rolled on
+    EXPECT_EQ(m_store->rowCount(HistoryTier::tenMinutes, HistoryTable::sys), 1);
+    EXPECT_EQ(m_store->rowCount(HistoryTier::hour, HistoryTable::sys), 1);
     EXPECT_EQ(m_store->points(HistoryTier::hour, 0, 1e9).front().diskW, 120 * 1000.0);
 }
 

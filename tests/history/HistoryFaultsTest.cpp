@@ -37,7 +37,7 @@ SysPoint sampleAt(double t)
 // tier but the hour has rows and the minute tier a watermark.
 void writeHistory(const fs::path& file)
 {
-    HistoryStore store(file, false);
+    HistoryStore store(file, HistoryAccess::readWrite);
     for (int half = 0; half < 2; ++half) {
         store.batch([&] {
             for (int i = half * sampleCount / 2; i < (half + 1) * sampleCount / 2; ++i) {
@@ -58,7 +58,7 @@ struct FileState {
 
     explicit FileState(const fs::path& file)
     {
-        const HistoryStore store(file, true);
+        const HistoryStore store(file, HistoryAccess::readOnly);
         for (const auto tier : allHistoryTiers) {
             const auto index = static_cast<size_t>(tier);
             sys[index] = store.points(tier, 0, 1e12);
@@ -89,7 +89,7 @@ TEST_F(HistoryFaults, CompactionLeavesTheFileAsItWasWhicheverReadFails)
     bool compacted = false;
     for (int goodReads = 0; !compacted; ++goodReads) {
         ASSERT_LT(goodReads, 2000) << "the compaction never got through";
-        HistoryStore store(file(), false); // a cold cache: its pages come from the file
+        HistoryStore store(file(), HistoryAccess::readWrite); // a cold cache: its pages come from the file
         try {
             const FaultyFiles::ReadFailure failure(goodReads);
             store.compact(now, 365);
@@ -115,18 +115,18 @@ TEST_F(HistoryFaults, CompactionLeavesTheFileAsItWasWhicheverReadFails)
 TEST_F(HistoryFaults, AFailedReadIsAnErrorNotAnEmptyHistory)
 {
     for (const int goodReads : {0, 1, 3}) {
-        const HistoryStore store(file(), true);
+        const HistoryStore store(file(), HistoryAccess::readOnly);
         const FaultyFiles::ReadFailure failure(goodReads);
         EXPECT_THROW((void)store.series(HistoryTier::hour, start, start + 7200), HistoryError) << goodReads;
         EXPECT_THROW((void)store.totals(start, start + 7200), HistoryError) << goodReads;
     }
-    const HistoryStore healthy(file(), true);
+    const HistoryStore healthy(file(), HistoryAccess::readOnly);
     EXPECT_EQ(healthy.series(HistoryTier::hour, start, start + 7200).size(), 2u);
 }
 
 TEST_F(HistoryFaults, AFailedStepIsAnErrorNotTheEndOfTheRows)
 {
-    const HistoryStore store(file(), true);
+    const HistoryStore store(file(), HistoryAccess::readOnly);
     ASSERT_EQ(store.points(HistoryTier::raw, 0, 1e12).size(), static_cast<size_t>(sampleCount));
     for (const int goodSteps : {0, 100}) {
         const FailingSteps failing("SELECT t,", goodSteps);
@@ -153,7 +153,7 @@ TEST_F(HistoryFaults, AFailedWriteRollsTheCompactionBack)
 {
     const FileState before(file());
     {
-        HistoryStore store(file(), false);
+        HistoryStore store(file(), HistoryAccess::readWrite);
         const FailingSteps failing("INSERT OR REPLACE INTO apps", 5);
         try {
             store.compact(start + 2 * 3600 + 30, 365);

@@ -53,15 +53,15 @@ AppPoint appAt(
 TEST_F(StoreFile, AFreshFileHoldsTheSchemaAndReopeningChangesNothing)
 {
     {
-        HistoryStore store(file(), false);
+        HistoryStore store(file(), HistoryAccess::readWrite);
         EXPECT_EQ(store.meta("schema"), 1.0);
         EXPECT_FALSE(store.firstSample());
-        EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+        EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
         store.insert(HistoryTier::raw, sysAt(100), {});
     }
-    HistoryStore again(file(), false);
+    HistoryStore again(file(), HistoryAccess::readWrite);
     EXPECT_EQ(again.meta("schema"), 1.0);
-    EXPECT_EQ(again.rowCount(HistoryTier::raw, false), 1);
+    EXPECT_EQ(again.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
     EXPECT_GT(again.fileBytes(), 0);
     EXPECT_GT(again.usedBytes(), 0);
 }
@@ -69,7 +69,7 @@ TEST_F(StoreFile, AFreshFileHoldsTheSchemaAndReopeningChangesNothing)
 TEST_F(StoreFile, OpenFailuresSayWhy)
 {
     try {
-        HistoryStore store(file(), true);
+        HistoryStore store(file(), HistoryAccess::readOnly);
         FAIL() << "a read-only open of a missing file must fail";
     } catch (const HistoryError& error) {
         EXPECT_EQ(error.kind(), HistoryError::Kind::open);
@@ -80,7 +80,7 @@ TEST_F(StoreFile, OpenFailuresSayWhy)
     fs::create_directories(file().parent_path());
     std::ofstream(file()) << std::string(4096, 'x');
     try {
-        HistoryStore store(file(), false);
+        HistoryStore store(file(), HistoryAccess::readWrite);
         FAIL() << "a file that is not a database must fail";
     } catch (const HistoryError& error) {
         EXPECT_EQ(error.kind(), HistoryError::Kind::open);
@@ -90,7 +90,7 @@ TEST_F(StoreFile, OpenFailuresSayWhy)
 
 TEST_F(StoreFile, PointsReadBackWithAbsentReadingsAsAbsent)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     SysPoint full = sysAt(10);
     full.gpu = 0.3;
     full.gpuMax = 0.6;
@@ -111,18 +111,18 @@ TEST_F(StoreFile, PointsReadBackWithAbsentReadingsAsAbsent)
 
 TEST_F(StoreFile, AppendingTheSameTimeTwiceKeepsOneRowPerKey)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     store.append(sysAt(50, 0.1), {appAt(50, "app:a", 0.1)});
     store.append(sysAt(50, 0.9), {appAt(50, "app:a", 0.9), appAt(50, "app:b", 0.2)});
     const auto points = store.points(HistoryTier::raw, 0, 100);
     ASSERT_EQ(points.size(), 1u);
     EXPECT_EQ(points[0].cpu, 0.9);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, true), 2);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::apps), 2);
 }
 
 TEST_F(StoreFile, AppendKeepsTheBusiestAndTheLeadersOfEachKind)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     store.appsPerSample = 2;
     std::vector<AppPoint> apps;
     for (int i = 0; i < 10; ++i)
@@ -141,15 +141,15 @@ TEST_F(StoreFile, AppendKeepsTheBusiestAndTheLeadersOfEachKind)
 
 TEST_F(StoreFile, DeletingErasingAndMeta)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     for (int i = 0; i < 5; ++i)
         store.insert(HistoryTier::raw, sysAt(100.0 * i), {appAt(100.0 * i, "app:x", 1)});
     store.erase(HistoryTier::raw, -std::numeric_limits<double>::infinity());
     store.erase(HistoryTier::raw, std::nan(""));
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 5);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 5);
     store.erase(HistoryTier::raw, 200);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 3);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, true), 3);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 3);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::apps), 3);
     EXPECT_EQ(store.firstSample(), 200);
 
     store.setMeta("rolled1", 1795000000.123456789);
@@ -159,31 +159,31 @@ TEST_F(StoreFile, DeletingErasingAndMeta)
     EXPECT_FALSE(store.watermark(HistoryTier::tenMinutes));
     EXPECT_FALSE(store.meta("missing"));
     store.eraseAll();
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
     EXPECT_FALSE(store.watermark(HistoryTier::minute));
     EXPECT_EQ(store.meta("schema"), 1.0);
 }
 
 TEST_F(StoreFile, AFailureInsideNestedBatchesRollsEverythingBack)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     EXPECT_THROW(store.batch([&] {
         store.insert(HistoryTier::raw, sysAt(1), {});
         store.batch([&] { store.insert(HistoryTier::raw, sysAt(2), {}); });
         throw HistoryError(HistoryError::Kind::sql, "boom");
     }),
         HistoryError);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 0);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
     store.batch([&] {
         store.insert(HistoryTier::raw, sysAt(3), {});
         store.batch([&] { store.insert(HistoryTier::raw, sysAt(4), {}); });
     });
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 2);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 2);
 }
 
 TEST_F(StoreFile, TheCapTrimsHourlyDataADayAtATimeAndNothingElse)
 {
-    HistoryStore store(file(), false);
+    HistoryStore store(file(), HistoryAccess::readWrite);
     std::vector<AppPoint> apps;
     store.batch([&] {
         for (int hour = 0; hour < 24 * 30; ++hour) {
@@ -208,15 +208,15 @@ TEST_F(StoreFile, TheCapTrimsHourlyDataADayAtATimeAndNothingElse)
     ASSERT_FALSE(hours.empty());
     EXPECT_EQ(std::fmod(hours.front().t, 86400), 0) << "whole days are dropped";
     EXPECT_GT(hours.front().t, 0);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 500);
-    EXPECT_EQ(store.rowCount(HistoryTier::minute, false), 500);
-    EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, false), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::minute, HistoryTable::sys), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys), 500);
     EXPECT_TRUE(first);
     // Nothing coarse left to trim: the cap gives up rather than touch finer tiers.
     store.maxBytes = 1;
     store.enforceCap();
-    EXPECT_EQ(store.rowCount(HistoryTier::hour, false), 0);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, false), 500);
+    EXPECT_EQ(store.rowCount(HistoryTier::hour, HistoryTable::sys), 0);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 500);
 }
 
 TEST(Downsample, SelectStoresEachAppOnce)
@@ -235,7 +235,7 @@ TEST_F(StoreFile, AReaderSortsMoreRowsThanItsCacheHolds)
 {
     constexpr int hours = 8760;
     {
-        HistoryStore writer(file(), false);
+        HistoryStore writer(file(), HistoryAccess::readWrite);
         writer.batch([&] {
             for (int h = 0; h < hours; ++h) {
                 std::vector<AppPoint> apps;

@@ -19,7 +19,7 @@ constexpr double firstSample = 1'767'225'600; // the writer's first sample, 1 Ja
 
 int write(const char* file)
 {
-    HistoryStore store(file, false);
+    HistoryStore store(file, HistoryAccess::readWrite);
     const auto last = store.points(HistoryTier::raw, 0, 1e12);
     // Resume at the next whole minute after the last sample that was committed.
     double t = last.empty() ? firstSample : std::ceil((last.back().t + 5) / 60) * 60;
@@ -58,7 +58,7 @@ int read(const char* file, int times)
 {
     try {
         for (int i = 0; i < times; ++i) {
-            const HistoryStore store(file, true);
+            const HistoryStore store(file, HistoryAccess::readOnly);
             const double before = samplesUpTo(store);
             double bytes = 0;
             for (const auto& hour : store.series(HistoryTier::hour, 0, 1e12))

@@ -68,7 +68,7 @@ TEST(YearFastForward, EachTierHoldsWhatItShouldAndNoByteIsLost)
     const double days = override != nullptr ? std::atof(override) : 400;
     const vexel::testing::TempFolder folder("vexel-year");
     {
-        HistoryStore store(folder.path() / "history.sqlite", false);
+        HistoryStore store(folder.path() / "history.sqlite", HistoryAccess::readWrite);
         simulate(store, days);
         const double now = start + days * day;
         const auto first = [&](HistoryTier tier) { return store.points(tier, 0, 1e12).front().t; };
@@ -82,7 +82,7 @@ TEST(YearFastForward, EachTierHoldsWhatItShouldAndNoByteIsLost)
         const double keptDays = std::min(days, 365.0);
         const double firstHour = now - keptDays * day;
         EXPECT_EQ(first(HistoryTier::hour), firstHour);
-        EXPECT_EQ(store.rowCount(HistoryTier::hour, false), static_cast<int64_t>(keptDays * 24));
+        EXPECT_EQ(store.rowCount(HistoryTier::hour, HistoryTable::sys), static_cast<int64_t>(keptDays * 24));
         // Every hourly point holds exactly its hour's bytes and time.
         for (const auto& hour : store.points(HistoryTier::hour, 0, 1e12)) {
             ASSERT_EQ(hour.diskW, 3600 * writeRate) << hour.t;
@@ -99,12 +99,12 @@ TEST(YearFastForward, EachTierHoldsWhatItShouldAndNoByteIsLost)
             firstDay += hour.diskW;
         EXPECT_EQ(firstDay, day * writeRate);
         // The size cap trims only hourly data.
-        const auto minutes = store.rowCount(HistoryTier::minute, false);
-        const auto tens = store.rowCount(HistoryTier::tenMinutes, false);
+        const auto minutes = store.rowCount(HistoryTier::minute, HistoryTable::sys);
+        const auto tens = store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys);
         store.maxBytes = store.usedBytes() / 2;
         store.compact(now, 365);
-        EXPECT_LT(store.rowCount(HistoryTier::hour, false), static_cast<int64_t>(keptDays * 24));
-        EXPECT_EQ(store.rowCount(HistoryTier::minute, false), minutes);
-        EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, false), tens);
+        EXPECT_LT(store.rowCount(HistoryTier::hour, HistoryTable::sys), static_cast<int64_t>(keptDays * 24));
+        EXPECT_EQ(store.rowCount(HistoryTier::minute, HistoryTable::sys), minutes);
+        EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys), tens);
     }
 }

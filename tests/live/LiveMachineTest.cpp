@@ -183,7 +183,7 @@ TEST(LiveMachine, ABusyCoreShowsAsBusy)
 TEST(LiveMachine, TheLiveMonitorGroupsThisMachine)
 {
     auto monitor = Monitor::live();
-    const Frame frame = monitor->sample(currentTime(), true, true);
+    const Frame frame = monitor->sample(currentTime(), {.everyone = true, .network = true});
     EXPECT_FALSE(frame.system.cpu.cores.empty());
     EXPECT_GT(frame.records.size(), 10u);
     const auto self = std::find_if(frame.apps.begin(), frame.apps.end(), [](const AppGroup& group) {

@@ -31,7 +31,7 @@ LiveProcessSource fixtureSource(uint32_t myUID)
 TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
 {
     auto source = fixtureSource(0);
-    const auto records = source.snapshot(false);
+    const auto records = source.snapshot(ProcessScope::own);
     ASSERT_EQ(records.size(), 4u); // "self" and "sys" are not processes
 
     const auto* weird = byPid(records, 13233);
@@ -71,10 +71,10 @@ TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
 TEST(LiveProcessSourceOnFixtures, OtherUsersFiguresOnlyForEveryone)
 {
     auto source = fixtureSource(1000); // every fixture process belongs to root
-    auto records = source.snapshot(false);
+    auto records = source.snapshot(ProcessScope::own);
     EXPECT_FALSE(byPid(records, 13233)->cpuTime);
     EXPECT_FALSE(byPid(records, 13233)->memory);
-    records = source.snapshot(true);
+    records = source.snapshot(ProcessScope::everyone);
     EXPECT_DOUBLE_EQ(*byPid(records, 13233)->cpuTime, 1.58);
     EXPECT_EQ(byPid(records, 13233)->memory, 55904u * 1024);
     EXPECT_FALSE(byPid(records, 13233)->diskRead); // disk bytes are the owner's only
@@ -84,7 +84,7 @@ TEST(LiveProcessSourceOnFixtures, OtherUsersFiguresOnlyForEveryone)
 TEST(LiveProcessSourceOnFixtures, AMissingProcFolderGivesAnEmptyList)
 {
     LiveProcessSource source("/nonexistent/proc", 0, 0, 100, 4096);
-    EXPECT_TRUE(source.snapshot(true).empty());
+    EXPECT_TRUE(source.snapshot(ProcessScope::everyone).empty());
     EXPECT_FALSE(source.cwd(1));
 }
 
@@ -101,7 +101,7 @@ TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
         pid_t pid;
         ~Reaper() { ::waitpid(pid, nullptr, 0); }
     } const reaper{zombie};
-    const auto records = source.snapshot(false);
+    const auto records = source.snapshot(ProcessScope::own);
     const auto* self = byPid(records, ::getpid());
     ASSERT_NE(self, nullptr);
     EXPECT_EQ(self->uid, ::geteuid());
@@ -119,6 +119,6 @@ TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
     EXPECT_GT(kernel, 0) << "kernel threads are listed";
 
     // The start time is stable from reading to reading: the key must not drift.
-    const auto again = source.snapshot(false);
+    const auto again = source.snapshot(ProcessScope::own);
     EXPECT_EQ(ProcKey::of(*byPid(again, ::getpid())), ProcKey::of(*self));
 }

@@ -56,8 +56,8 @@ TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
     TempFolder folder("vexel-reports");
     auto world = warmDemoWorld();
     VexelService service(
-        VexelPaths(folder.path()), TimeZone::fixed(0), currentTime, [&] { return world->monitor(); }, true,
-        Platform::macOS);
+        VexelPaths(folder.path()), TimeZone::fixed(0), currentTime, [&] { return world->monitor(); },
+        VexelService::Settle::sleeping, Platform::macOS);
     const double before = currentTime();
     const Frame& frame = service.frame();
     EXPECT_GE(frame.interval, 0.99);
@@ -68,7 +68,7 @@ TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
 
 TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
 {
-    DemoService plain(folder.path(), false);
+    DemoService plain(folder.path(), DemoService::World::still);
     SystemSnapshot snapshot = plain.world->systemSource->read(0);
     snapshot.gpu = GPUStats{0.4, ""};
     snapshot.battery->designCapacity.reset();
@@ -79,7 +79,7 @@ TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
     EXPECT_FALSE(status["battery"].contains("health_percent"));
     EXPECT_EQ(status["thermal"]["detail"], "Hot. macOS is slowing the processor to cool down.");
 
-    DemoService mains(folder.path(), false);
+    DemoService mains(folder.path(), DemoService::World::still);
     snapshot.battery.reset();
     mains.world->systemSource->set(snapshot);
     EXPECT_FALSE(mains.service.status().contains("battery"));
@@ -102,7 +102,7 @@ TEST_F(ReportService, TopAppsSortsAndCuts)
 
 TEST_F(ReportService, PortsAreOrderedByPortThenPid)
 {
-    DemoService plain(folder.path(), false);
+    DemoService plain(folder.path(), DemoService::World::still);
     auto& sockets = *plain.world->portSource->sockets;
     const int32_t chrome = plain.world->find("Google Chrome")->rec.pid;
     sockets.push_back({9999, "ghost", ListenSocket::Family::v4, "0.0.0.0", 3000});
@@ -197,7 +197,7 @@ TEST_F(ReportService, ReadingHistoryLeavesTheDataFolderAsItWas)
 
     // While the app writes, its log holds rows the database file does not yet
     // have; the reader sees them without touching the log or its index.
-    HistoryStore writer(file, false);
+    HistoryStore writer(file, HistoryAccess::readWrite);
     SysPoint late;
     late.t = std::floor(demo.now / 60) * 60 + 10; // in the minute not yet rolled up
     late.dur = 30;

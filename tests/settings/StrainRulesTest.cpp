@@ -51,9 +51,9 @@ TEST(StrainRules, NetworkIsNeverStrainedAndChargingBatteriesAreCalm)
     EXPECT_EQ(rules.network(NetStats{1e12, 1e12}), Strain::elevated);
     EXPECT_EQ(rules.network(NetStats{49e6, 0.9e6}), Strain::calm);
     EXPECT_EQ(rules.battery(std::nullopt), Strain::calm);
-    EXPECT_EQ(rules.battery(BatteryStats(5, true, false)), Strain::calm);
-    EXPECT_EQ(rules.battery(BatteryStats(5, false, true)), Strain::calm);
-    EXPECT_EQ(rules.battery(BatteryStats(10, false, false)), Strain::strained);
-    EXPECT_EQ(rules.battery(BatteryStats(20, false, false)), Strain::elevated);
-    EXPECT_EQ(rules.battery(BatteryStats(21, false, false)), Strain::calm);
+    EXPECT_EQ(rules.battery(BatteryStats{.percent = 5, .charging = true}), Strain::calm);
+    EXPECT_EQ(rules.battery(BatteryStats{.percent = 5, .onAC = true}), Strain::calm);
+    EXPECT_EQ(rules.battery(BatteryStats{.percent = 10}), Strain::strained);
+    EXPECT_EQ(rules.battery(BatteryStats{.percent = 20}), Strain::elevated);
+    EXPECT_EQ(rules.battery(BatteryStats{.percent = 21}), Strain::calm);
 }

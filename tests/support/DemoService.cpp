@@ -10,13 +10,13 @@ std::unique_ptr<DemoWorld> warmDemoWorld()
     return world;
 }
 
-DemoService::DemoService(const std::filesystem::path& dataFolder, bool advancing)
+DemoService::DemoService(const std::filesystem::path& dataFolder, World motion)
     : world(warmDemoWorld())
     , now(world->now())
     , service(
           VexelPaths(dataFolder), TimeZone::fixed(0), [this] { return now; },
-          [this, advancing] { return advancing ? world->advancingMonitor(1.0) : world->monitor(); }, false,
-          Platform::macOS)
+          [this, motion] { return motion == World::advancing ? world->advancingMonitor(1.0) : world->monitor(); },
+          VexelService::Settle::onTheClock, Platform::macOS)
 {
 }
 

@@ -12,7 +12,11 @@ namespace vexel::testing {
 // settling samples one simulated second apart, the clock fixed at the world's
 // time when made, the Mac's words, and a data folder of the test's own.
 struct DemoService {
-    explicit DemoService(const std::filesystem::path& dataFolder, bool advancing = true);
+    // Whether the world moves on a second before each reading of its
+    // processes, so that the settled frame has rates.
+    enum class World { advancing, still };
+
+    explicit DemoService(const std::filesystem::path& dataFolder, World motion = World::advancing);
 
     std::unique_ptr<DemoWorld> world;
     double now = 0;

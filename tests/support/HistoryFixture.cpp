@@ -9,7 +9,7 @@ namespace vexel::testing {
 
 void writeHistory(const std::filesystem::path& file, double now)
 {
-    HistoryStore store(file, false);
+    HistoryStore store(file, HistoryAccess::readWrite);
     const double end = std::floor(now / 60) * 60;
     store.batch([&] {
         for (int ago = historyMinutes; ago >= 1; --ago) {

@@ -1,4 +1,5 @@
 #include "synth/DemoWorld.h"
+#include "history/FramePoints.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +9,9 @@ namespace {
 
 Frame settled(DemoWorld& world, Monitor& monitor)
 {
-    (void)monitor.sample(world.now(), true, true);
+    (void)monitor.sample(world.now(), {.everyone = true, .network = true});
     world.advance(2);
-    return monitor.sample(world.now(), true, true);
+    return monitor.sample(world.now(), {.everyone = true, .network = true});
 }
 
 } // namespace
@@ -68,12 +69,12 @@ TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
 {
     DemoWorld world;
     auto monitor = world.monitor();
-    const Frame first = monitor->sample(world.now(), false, true);
+    const Frame first = monitor->sample(world.now(), {.network = true});
     EXPECT_EQ(first.interval, 0);
     EXPECT_EQ(monitor->lastNetRun(), world.now());
     EXPECT_FALSE(monitor->lastEveryoneRun());
     world.advance(2);
-    const Frame second = monitor->sample(world.now(), true, true);
+    const Frame second = monitor->sample(world.now(), {.everyone = true, .network = true});
     EXPECT_EQ(second.interval, 2);
     EXPECT_EQ(monitor->lastEveryoneRun(), world.now());
     const auto downloader = std::find_if(second.records.begin(), second.records.end(),
@@ -82,7 +83,7 @@ TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
     EXPECT_GT(netIn, 380'000 * 0.6);
     const double lastNet = *monitor->lastNetRun();
     world.advance(2);
-    const Frame third = monitor->sample(world.now(), false, false);
+    const Frame third = monitor->sample(world.now(), {});
     EXPECT_EQ(monitor->lastNetRun(), lastNet); // no network reading this time…
     EXPECT_EQ(third.rates.at(ProcKey::of(*downloader)).netIn, netIn); // …so the previous rates carry over
     EXPECT_EQ(world.processSource->served, 3);
@@ -108,7 +109,7 @@ TEST(Frame, HistoryPointsTurnRatesIntoAmountsOverTheInterval)
     DemoWorld world;
     auto monitor = world.monitor();
     const Frame frame = settled(world, *monitor);
-    const auto [sys, apps] = frame.historyPoints();
+    const auto [sys, apps] = historyPoints(frame);
     EXPECT_EQ(sys.t, frame.time - 2);
     EXPECT_EQ(sys.dur, 2);
     EXPECT_DOUBLE_EQ(sys.cpu, frame.system.cpu.user + frame.system.cpu.system);

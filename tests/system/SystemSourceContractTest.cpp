@@ -38,7 +38,7 @@ struct StoredSnapshot {
         snapshot.cpu.user = 0.3;
         snapshot.memory.total = 100;
         snapshot.memory.app = 40;
-        snapshot.battery = BatteryStats(60, false, false);
+        snapshot.battery = BatteryStats{.percent = 60};
         return std::make_unique<FixtureSystemSource>(snapshot);
     }
 };

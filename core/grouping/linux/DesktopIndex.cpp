@@ -1,7 +1,7 @@
 #include "grouping/linux/DesktopIndex.h"
 
 #include "io/Files.h"
-#include "settings/VexelPaths.h"
+#include "platform/Environment.h"
 #include "text/TextScan.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "grouping/linux/LiveDesktopIndex.h"
 
 #include "io/Files.h"
+#include "platform/Environment.h"
 #include "processes/Shell.h"
-#include "settings/VexelPaths.h"
 
 #include <cstdlib>
 

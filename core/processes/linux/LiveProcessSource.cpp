@@ -126,7 +126,7 @@ const std::string& LiveProcessSource::fileOf(const std::string& folder, const ch
     return m_file;
 }
 
-std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
+std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
 {
     std::vector<ProcRecord> records;
     std::unique_ptr<DIR, CloseDir> dir(::opendir(m_proc.c_str()));
@@ -172,7 +172,7 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(bool everyone)
         if (!record.zombie)
             record.path = known.path;
         const bool own = known.uid == m_myUID;
-        if (!record.zombie && (own || everyone)) {
+        if (!record.zombie && (own || scope == ProcessScope::everyone)) {
             const uint64_t ticks = stat->utime + stat->stime;
             const bool due = (m_readings + static_cast<uint64_t>(*pid)) % refreshEvery == 0;
             if (!known.measured || ticks != known.ticks || due)

@@ -24,7 +24,7 @@ public:
     // machine booted (seconds since the epoch), clock ticks per second and page size.
     LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize);
 
-    [[nodiscard]] std::vector<ProcRecord> snapshot(bool everyone) override;
+    [[nodiscard]] std::vector<ProcRecord> snapshot(ProcessScope scope) override;
     [[nodiscard]] std::optional<std::string> cwd(int32_t pid) override;
 
     // Processes known from earlier readings (for tests and the benchmark's memory figure).

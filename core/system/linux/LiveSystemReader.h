@@ -35,11 +35,6 @@ public:
     [[nodiscard]] NetStats readNet(double now);
 
 private:
-    template <typename T> struct Cached {
-        T value;
-        double at = 0;
-    };
-
     void readLevels();
     void refreshDevices(double now);
     [[nodiscard]] bool isFresh(double at, double now, double seconds) const;

@@ -205,7 +205,9 @@ std::optional<BatteryStats> battery(std::span<const Attributes> supplies)
         discharging = discharging || status == "Discharging";
         full = full || status == "Full" || status == "Not charging";
     }
-    BatteryStats stats(chargePercent(batteries), charging, sawExternal ? externalOnline : (charging || full));
+    BatteryStats stats{.percent = chargePercent(batteries),
+        .charging = charging,
+        .onAC = sawExternal ? externalOnline : (charging || full)};
 
     // ACPI reports magnitudes, so the sign comes from the status.
     if (const auto watts = powerMagnitude(batteries))
