@@ -3,7 +3,6 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
-#include "json/JsonFields.h"
 
 #include <vector>
 
@@ -13,8 +12,6 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
-using JsonFields::field;
-using JsonFields::value;
 using TextColumns::Align;
 using TextColumns::cell;
 

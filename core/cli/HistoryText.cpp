@@ -5,7 +5,6 @@
 #include "format/Fmt.h"
 #include "history/HistoryRange.h"
 #include "reports/ReportValues.h"
-#include "json/JsonFields.h"
 
 #include <vector>
 
@@ -15,8 +14,6 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
-using JsonFields::field;
-using JsonFields::value;
 
 std::string amount(const json& report, const char* key)
 {

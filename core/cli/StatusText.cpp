@@ -3,7 +3,6 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
-#include "json/JsonFields.h"
 
 #include <cmath>
 #include <vector>
@@ -14,8 +13,6 @@ namespace {
 
 using nlohmann::json;
 using namespace ReportFields;
-using JsonFields::field;
-using JsonFields::value;
 
 constexpr size_t labelWidth = 10;
 

@@ -2,8 +2,8 @@
 
 #include "grouping/AppGroup.h"
 #include "grouping/AppIdentity.h"
+#include "grouping/AppSort.h"
 #include "rates/RateTracker.h"
-#include "settings/AppSort.h"
 
 #include <vector>
 

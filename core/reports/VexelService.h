@@ -1,10 +1,10 @@
 #pragma once
 
+#include "grouping/AppSort.h"
 #include "history/HistoryRange.h"
 #include "history/HistoryStore.h"
 #include "monitor/Monitor.h"
 #include "platform/Platform.h"
-#include "settings/AppSort.h"
 #include "settings/VexelPaths.h"
 #include "settings/VexelSettings.h"
 #include "time/TimeZone.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/AppSort.h"
+#include "grouping/AppSort.h"
 #include "settings/MenuItemConfig.h"
 #include "spikes/SpikeRules.h"
 #include "spikes/StrainRules.h"

@@ -1,4 +1,4 @@
-#include "settings/AppSort.h"
+#include "grouping/AppSort.h"
 
 #include <array>
 
