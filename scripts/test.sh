@@ -22,8 +22,12 @@ cmake -S . -B "$build" -G Ninja "${options[@]}" >/dev/null
 cmake --build "$build"
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
 export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+started=$SECONDS
 (cd "$build" && ctest --output-on-failure -j2)
+echo "test: the CTest suites took $((SECONDS - started)) s"
 
 if ((fuzz)); then
+  started=$SECONDS
   scripts/fuzz.sh
+  echo "test: building and running the fuzz targets took $((SECONDS - started)) s"
 fi
