@@ -42,7 +42,8 @@ template <typename T, typename Json> [[nodiscard]] std::optional<T> value(const 
             return it->template get<T>();
     } else if constexpr (std::is_integral_v<T>) {
         if (it->is_number_unsigned())
-            return it->template get<unsigned long long>() <= static_cast<unsigned long long>(std::numeric_limits<T>::max())
+            return it->template get<unsigned long long>()
+                    <= static_cast<unsigned long long>(std::numeric_limits<T>::max())
                 ? std::optional<T>(static_cast<T>(it->template get<unsigned long long>()))
                 : std::nullopt;
         if (it->is_number_integer()) {
