@@ -17,7 +17,8 @@ vexel::MCPServer& server()
     static vexel::DemoWorld world;
     static vexel::VexelService service(
         vexel::VexelPaths(std::filesystem::temp_directory_path() / "vexel-fuzz-no-data"), vexel::TimeZone::fixed(0),
-        [] { return world.now(); }, [] { return world.advancingMonitor(1); }, false, vexel::Platform::macOS);
+        [] { return world.now(); }, [] { return world.advancingMonitor(1); }, vexel::VexelService::Settle::onTheClock,
+        vexel::Platform::macOS);
     static vexel::MCPServer mcp(service);
     return mcp;
 }
