@@ -162,6 +162,16 @@ TEST(LiveSystemReaderOnFixtures, IntelLaptopRunningHotOnBattery)
     EXPECT_EQ(reader.read(125).battery->percent, 9);
 }
 
+// The same laptop idle and cool, with the TCC offset thermald set (10 of 63):
+// nothing slows its processor.
+TEST(LiveSystemReaderOnFixtures, IntelLaptopIdleWithItsTccOffsetSet)
+{
+    FixtureTree tree("laptop-intel-idle");
+    LiveSystemReader reader(tree.roots());
+    EXPECT_EQ(reader.read(100).thermal, ThermalLevel::nominal);
+    EXPECT_EQ(reader.read(102).thermal, ThermalLevel::nominal);
+}
+
 TEST(LiveSystemReaderOnFixtures, AmdLaptopChargingWithItsGpuBusy)
 {
     FixtureTree tree("laptop-amd-charging");

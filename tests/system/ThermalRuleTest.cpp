@@ -45,8 +45,10 @@ TEST(ThermalRule, SensorsCoolingDevicesAndThrottling)
     EXPECT_EQ(judge(inputs), ThermalLevel::critical);
 
     inputs.cpuSensors.clear();
-    inputs.coolingDevices = {{"Fan", 3}, {"Processor", 0}};
-    EXPECT_EQ(judge(inputs), ThermalLevel::nominal); // a spinning fan is not throttling
+    // A spinning fan is not throttling, nor is the temperature-target offset
+    // that firmware or thermald sets once (it stays above 0 on an idle laptop).
+    inputs.coolingDevices = {{"Fan", 3}, {"Processor", 0}, {"TCC Offset", 10}};
+    EXPECT_EQ(judge(inputs), ThermalLevel::nominal);
     inputs.coolingDevices = {{"thermal-cpufreq-0", 1}};
     EXPECT_EQ(judge(inputs), ThermalLevel::serious);
 

@@ -8,10 +8,12 @@ namespace vexel::ThermalRule {
 
 namespace {
 
+// Cooling devices that slow the processor while their state is above 0.
+// "TCC Offset" is not one: its state is the temperature-target offset that
+// firmware or thermald sets once, and it stays above 0 on a cool, idle laptop.
 bool slowsProcessor(std::string_view type)
 {
-    return type == "Processor" || type == "intel_powerclamp" || type == "TCC Offset"
-        || type.starts_with("thermal-cpufreq");
+    return type == "Processor" || type == "intel_powerclamp" || type.starts_with("thermal-cpufreq");
 }
 
 ThermalLevel zoneLevel(const Zone& zone)
