@@ -3,6 +3,7 @@
 #include "format/CFormat.h"
 #include "history/Downsample.h"
 #include "history/ReadOnlyOpen.h"
+#include "io/Files.h"
 #include "text/TextScan.h"
 
 #include <algorithm>
@@ -57,8 +58,16 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
     : m_file(std::move(file))
     , m_readOnly(access == HistoryAccess::readOnly)
 {
-    if (!m_readOnly && m_file.has_parent_path())
-        std::filesystem::create_directories(m_file.parent_path());
+    if (!m_readOnly) {
+        // The history tells which apps ran and when: the user's alone, the
+        // log and index too (SQLite gives them the database file's mode).
+        if (m_file.has_parent_path())
+            Files::createPrivateFolder(m_file.parent_path());
+        Files::makePrivateFile(m_file);
+        for (const char* companion : {"-wal", "-shm"})
+            if (const auto path = m_file.string() + companion; Files::exists(path))
+                Files::makePrivateFile(path);
+    }
     connect();
     if (m_readOnly)
         return;

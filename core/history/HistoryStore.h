@@ -26,8 +26,10 @@ enum class HistoryTable { sys, apps };
 // while it does (write-ahead logging, a 2-second busy time-out).
 class HistoryStore {
 public:
-    // Opens (creating when writable) the file. Raises HistoryError (open or
-    // sql), or the file system's error when the folder cannot be made.
+    // Opens (creating when writable) the file. A writer makes the file and its
+    // log and index the user's alone (0600), and a folder it creates too
+    // (0700), whatever the umask. Raises HistoryError (open or sql), or the
+    // file system's error when the folder or file cannot be made.
     HistoryStore(std::filesystem::path file, HistoryAccess access);
 
     // Records one live sample in the raw tier: the system point and the

@@ -1,5 +1,7 @@
 #include "io/AtomicFile.h"
 
+#include "io/Files.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
@@ -33,9 +35,9 @@ void writeAll(int fd, const std::string& bytes, const std::filesystem::path& fil
 void write(const std::filesystem::path& file, const std::string& bytes)
 {
     if (file.has_parent_path())
-        std::filesystem::create_directories(file.parent_path());
+        Files::createPrivateFolder(file.parent_path());
     std::string temporary = file.string() + ".XXXXXX";
-    const int fd = ::mkstemp(temporary.data());
+    const int fd = ::mkstemp(temporary.data()); // 0600: the user's alone
     if (fd < 0)
         fail("Couldn't create the file", file, errno);
     try {

@@ -92,6 +92,35 @@ bool exists(const std::string& path)
     return ::stat(path.c_str(), &info) == 0;
 }
 
+void createPrivateFolder(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    if (std::filesystem::is_directory(folder, error))
+        return;
+    if (folder.has_parent_path())
+        std::filesystem::create_directories(folder.parent_path());
+    if (::mkdir(folder.c_str(), 0700) != 0) {
+        if (errno == EEXIST && std::filesystem::is_directory(folder, error))
+            return; // made by someone else meanwhile
+        throw std::filesystem::filesystem_error(
+            "Couldn't create the folder", folder, std::error_code(errno, std::generic_category()));
+    }
+    ::chmod(folder.c_str(), 0700); // the umask may have taken bits away
+}
+
+void makePrivateFile(const std::filesystem::path& file)
+{
+    const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    if (fd < 0 || ::fchmod(fd, 0600) != 0) {
+        const int error = errno;
+        if (fd >= 0)
+            ::close(fd);
+        throw std::filesystem::filesystem_error(
+            "Couldn't make the file private", file, std::error_code(error, std::generic_category()));
+    }
+    ::close(fd);
+}
+
 bool missing(const std::string& path)
 {
     struct stat info { };

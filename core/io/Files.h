@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,6 +30,15 @@ namespace vexel::Files {
 // is no such file, not when the path could not be looked at (a folder without
 // permission), so that "nothing there" and "couldn't look" stay apart.
 [[nodiscard]] bool missing(const std::string& path);
+
+// Creates `folder` and any missing parent. The folder itself, when made here,
+// is the user's alone (0700) whatever the umask; an existing one is left as
+// it is. Throws std::filesystem::filesystem_error.
+void createPrivateFolder(const std::filesystem::path& folder);
+
+// Makes `file` the user's alone (0600) whatever the umask, creating it empty
+// when missing. Throws std::filesystem::filesystem_error.
+void makePrivateFile(const std::filesystem::path& file);
 
 // The target of a symbolic link; nothing when `path` is not a readable link.
 [[nodiscard]] std::optional<std::string> readLink(const std::string& path);

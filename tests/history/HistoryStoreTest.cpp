@@ -1,6 +1,8 @@
 #include "history/HistoryStore.h"
+#include "devservers/ActivityLog.h"
 #include "history/Downsample.h"
 #include "history/ReadOnlyOpen.h"
+#include "settings/VexelSettings.h"
 
 #include "support/TempFolder.h"
 
@@ -10,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <sys/stat.h>
 
 using namespace vexel;
 namespace fs = std::filesystem;
@@ -256,4 +259,36 @@ TEST_F(StoreFile, AReaderSortsMoreRowsThanItsCacheHolds)
         EXPECT_EQ(grouped.integer(1), hours);
     }
     EXPECT_EQ(apps, 8);
+}
+
+// The data folder records which apps ran and when: under the usual umask
+// (022) every file in it is the user's alone, and so is the folder.
+TEST_F(StoreFile, TheDataFolderIsTheUsersAloneWhateverTheUmask)
+{
+    const mode_t old = ::umask(022);
+    const auto modeOf = [](const fs::path& path) { return fs::status(path).permissions() & fs::perms::all; };
+    const auto privateFile = fs::perms::owner_read | fs::perms::owner_write;
+    {
+        HistoryStore store(file(), HistoryAccess::readWrite);
+        store.insert(HistoryTier::raw, sysAt(1), {});
+        VexelSettings().save(file().parent_path() / "settings.json");
+        ActivityLog().save(file().parent_path() / "server-activity.json");
+        EXPECT_EQ(modeOf(file().parent_path()), fs::perms::owner_all);
+        for (const char* name :
+            {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm", "settings.json", "server-activity.json"})
+            EXPECT_EQ(modeOf(file().parent_path() / name), privateFile) << name;
+    }
+    // A history an older version left readable is made private when the app opens it.
+    for (const char* name : {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm"})
+        fs::permissions(file().parent_path() / name,
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read);
+    {
+        const HistoryStore reader(file(), HistoryAccess::readOnly);
+        EXPECT_EQ(modeOf(file()), privateFile | fs::perms::group_read | fs::perms::others_read)
+            << "readers change nothing";
+    }
+    const HistoryStore writer(file(), HistoryAccess::readWrite);
+    for (const char* name : {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm"})
+        EXPECT_EQ(modeOf(file().parent_path() / name), privateFile) << name;
+    ::umask(old);
 }
