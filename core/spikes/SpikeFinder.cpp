@@ -54,11 +54,12 @@ Culprit culprit(const std::vector<AppPoint>& apps, double start, double end, dou
         entry.second = app.name;
         total += amount;
     }
-    if (sums.empty())
+    // No app did any of it (every figure 0, or none recorded): nobody is to blame.
+    if (!(total > 0))
         return {};
     const auto top = std::max_element(
         sums.begin(), sums.end(), [](const auto& a, const auto& b) { return a.second.first < b.second.first; });
-    return {top->second.second, total > 0 ? std::optional(top->second.first / total) : std::optional(0.0)};
+    return {top->second.second, top->second.first / total};
 }
 
 std::string byCulprit(const Culprit& who, const char* joiner)

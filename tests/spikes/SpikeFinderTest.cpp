@@ -41,6 +41,22 @@ TEST(SpikeFinder, CpuRunsNeedThreeMinutes)
     EXPECT_EQ(three[0].id(), "cpu@0");
 }
 
+// Apps recorded, but none of them used the processor (the machine's own
+// work): the spike names no one, not the first app by name.
+TEST(SpikeFinder, NoCulpritWhenNoAppDidAnyOfIt)
+{
+    const std::vector<SysPoint> busy{minute(0, 0.9), minute(60, 0.95), minute(120, 0.8)};
+    std::vector<AppPoint> idle;
+    for (double t : {0.0, 60.0, 120.0})
+        for (const char* name : {"Alpha", "Beta"})
+            idle.push_back(AppPoint{t, 60, std::string("app:") + name, name, 0, 0, 1e8, 0, 0, 0});
+    const auto spikes = SpikeFinder::find(busy, idle, rules);
+    ASSERT_EQ(spikes.size(), 1u);
+    EXPECT_FALSE(spikes[0].culprit);
+    EXPECT_FALSE(spikes[0].share);
+    EXPECT_EQ(spikes[0].summary, "The processor was busy for 3 min");
+}
+
 TEST(SpikeFinder, QuietGapsOfThreeMinutesMergeAndOfFourSplit)
 {
     std::vector<SysPoint> points;
