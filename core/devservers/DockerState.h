@@ -37,6 +37,14 @@ struct DockerState {
     {
         return {Kind::notRunning, "Docker is installed but its engine isn't running.", {}};
     }
+    // The engine runs but refuses this user its socket (not in the docker group).
+    [[nodiscard]] static DockerState notAllowed()
+    {
+        return {Kind::notRunning,
+            "Docker's engine is running but won't let you in: add yourself to the docker group, then sign out and in "
+            "again.",
+            {}};
+    }
     [[nodiscard]] static DockerState running(std::vector<Container> list)
     {
         return {Kind::containers, {}, std::move(list)};

@@ -37,7 +37,10 @@ DockerState LiveDockerSource::read()
 {
     if (!m_binary)
         return DockerState::notInstalled();
-    auto info = Shell::run(*m_binary, {"info", "--format", "{{.ServerVersion}}"}, infoTimeout);
+    auto info = Shell::run(*m_binary, {"info", "--format", "{{.ServerVersion}}"}, infoTimeout, {.keepErrors = true});
+    // A user outside the docker group reaches a running engine's socket but is refused.
+    if (info && TextScan::trim(*info).empty() && info.errors.find("permission denied") != std::string::npos)
+        return DockerState::notAllowed();
     // Podman's docker command has no ServerVersion field and fails on it; it names its version differently.
     if (info && TextScan::trim(*info).empty())
         info = Shell::run(*m_binary, {"info", "--format", "{{.Version.Version}}"}, infoTimeout);

@@ -2,23 +2,20 @@
 
 #include "format/CFormat.h"
 #include "platform/Environment.h"
+#include "processes/PipeReader.h"
 
-#include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <condition_variable>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
-#include <mutex>
-#include <poll.h>
-#include <pthread.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 extern char** environ;
 
@@ -60,86 +57,6 @@ std::vector<char*> pointers(std::vector<std::string>& strings)
     result.push_back(nullptr);
     return result;
 }
-
-// Collects a pipe's bytes until its end, until there are more than `cap`,
-// or until told to stop.
-class PipeReader {
-public:
-    PipeReader(int fd, size_t cap)
-        : m_fd(fd)
-        , m_cap(cap)
-        , m_thread([this] { drain(); })
-    {
-    }
-    ~PipeReader()
-    {
-        m_stop = true;
-        m_thread.join();
-        ::close(m_fd);
-    }
-    PipeReader(const PipeReader&) = delete;
-    PipeReader& operator=(const PipeReader&) = delete;
-
-    // Waits until the pipe has ended, the cap was passed or `deadline`
-    // passes; true unless the deadline passed first.
-    bool waitUntil(Clock::time_point deadline)
-    {
-        std::unique_lock lock(m_mutex);
-        return m_ended.wait_until(lock, deadline, [this] { return m_done; });
-    }
-
-    // Whether the output went past the cap (and reading stopped there).
-    bool overflowed()
-    {
-        std::lock_guard lock(m_mutex);
-        return m_overflowed;
-    }
-
-    std::string takeOutput()
-    {
-        std::lock_guard lock(m_mutex);
-        return std::move(m_output);
-    }
-
-private:
-    void drain()
-    {
-        ::pthread_setname_np(::pthread_self(), "vexel.shell.read");
-        char buffer[16384];
-        while (!m_stop) {
-            pollfd ready{m_fd, POLLIN, 0};
-            const int polled = ::poll(&ready, 1, 50);
-            if (polled < 0 && errno != EINTR)
-                break;
-            if (polled <= 0)
-                continue;
-            const ssize_t got = ::read(m_fd, buffer, sizeof buffer);
-            if (got < 0 && errno == EINTR)
-                continue;
-            if (got <= 0)
-                break;
-            std::lock_guard lock(m_mutex);
-            if (m_output.size() + static_cast<size_t>(got) > m_cap) {
-                m_overflowed = true;
-                break;
-            }
-            m_output.append(buffer, static_cast<size_t>(got));
-        }
-        std::lock_guard lock(m_mutex);
-        m_done = true;
-        m_ended.notify_all();
-    }
-
-    int m_fd;
-    size_t m_cap;
-    std::atomic<bool> m_stop{false};
-    std::mutex m_mutex;
-    std::condition_variable m_ended;
-    std::string m_output;
-    bool m_done = false;
-    bool m_overflowed = false;
-    std::thread m_thread;
-};
 
 // Waits for the child; after `grace` it is killed outright, so that a program
 // ignoring the termination signal cannot hold the caller.
@@ -189,15 +106,21 @@ struct Spawned {
     int error = 0;
 };
 
-// Starts the tool with its output on `outputFd`.
+// Starts the tool with its standard output on `outputFd` and its standard
+// error on `errorFd` (the null device when -1); `readEnds` are the pipes'
+// other ends, closed in the child.
 Spawned spawn(const std::string& path, const std::vector<std::string>& args,
-    const std::map<std::string, std::string>& env, int outputFd, int pipeReadFd)
+    const std::map<std::string, std::string>& env, int outputFd, int errorFd, const std::vector<int>& readEnds)
 {
     SpawnSetup setup;
     setup.check(posix_spawn_file_actions_addopen(&setup.actions, 0, "/dev/null", O_RDONLY, 0));
     setup.check(posix_spawn_file_actions_adddup2(&setup.actions, outputFd, 1));
-    setup.check(posix_spawn_file_actions_addopen(&setup.actions, 2, "/dev/null", O_WRONLY, 0));
-    setup.check(posix_spawn_file_actions_addclose(&setup.actions, pipeReadFd));
+    if (errorFd >= 0)
+        setup.check(posix_spawn_file_actions_adddup2(&setup.actions, errorFd, 2));
+    else
+        setup.check(posix_spawn_file_actions_addopen(&setup.actions, 2, "/dev/null", O_WRONLY, 0));
+    for (const int fd : readEnds)
+        setup.check(posix_spawn_file_actions_addclose(&setup.actions, fd));
     // A process group of its own, so that a time-out ends the tool's children too.
     setup.check(posix_spawnattr_setpgroup(&setup.attributes, 0));
     setup.check(posix_spawnattr_setflags(&setup.attributes, POSIX_SPAWN_SETPGROUP));
@@ -227,40 +150,80 @@ void stop(pid_t pid, PipeReader& reader)
 
 Result failure(std::string error)
 {
-    return Result{std::nullopt, std::move(error)};
+    return Result{std::nullopt, std::move(error), {}};
 }
+
+// A pipe's two ends, closed when it goes unless taken.
+struct Pipe {
+    int read = -1;
+    int write = -1;
+
+    Pipe()
+    {
+        int fds[2];
+        if (::pipe2(fds, O_CLOEXEC) == 0) {
+            read = fds[0];
+            write = fds[1];
+        }
+    }
+    ~Pipe()
+    {
+        closeRead();
+        closeWrite();
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    [[nodiscard]] bool ok() const { return read >= 0; }
+    void closeWrite()
+    {
+        if (write >= 0)
+            ::close(std::exchange(write, -1));
+    }
+    void closeRead()
+    {
+        if (read >= 0)
+            ::close(std::exchange(read, -1));
+    }
+    // The reading end, now the caller's to close.
+    int takeRead() { return std::exchange(read, -1); }
+};
 
 } // namespace
 
-Result run(const std::string& path, const std::vector<std::string>& args, double timeoutSeconds,
-    const std::map<std::string, std::string>& env, size_t outputCap)
+Result run(const std::string& path, const std::vector<std::string>& args, double timeoutSeconds, const Options& options)
 {
     if (!isExecutableFile(path))
         return failure(path + " is not an executable file");
-    int fds[2];
-    if (::pipe2(fds, O_CLOEXEC) != 0)
+    Pipe output;
+    Pipe errors;
+    if (!output.ok() || (options.keepErrors && !errors.ok()))
         return failure("couldn't start " + path + ": " + std::strerror(errno));
-    const auto spawned = spawn(path, args, env, fds[1], fds[0]);
-    ::close(fds[1]);
-    if (spawned.error != 0) {
-        ::close(fds[0]);
+    const auto spawned = spawn(
+        path, args, options.env, output.write, options.keepErrors ? errors.write : -1, {output.read, errors.read});
+    output.closeWrite();
+    errors.closeWrite();
+    if (spawned.error != 0)
         return failure("couldn't start " + path + ": " + std::strerror(spawned.error));
-    }
     const pid_t pid = spawned.pid;
-    PipeReader reader(fds[0], outputCap);
+    PipeReader reader(output.takeRead(), options.outputCap, PipeReader::PastTheCap::stop);
+    std::optional<PipeReader> errorReader;
+    if (options.keepErrors)
+        errorReader.emplace(errors.takeRead(), errorCap, PipeReader::PastTheCap::drop);
     const auto timeout = std::chrono::duration<double>(std::max(timeoutSeconds, 0.0));
-    const bool finished = reader.waitUntil(Clock::now() + std::chrono::duration_cast<Clock::duration>(timeout));
+    const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(timeout);
+    const bool finished = reader.waitUntil(deadline) && (!errorReader || errorReader->waitUntil(deadline));
     if (!finished) {
         stop(pid, reader);
         return failure(path + " didn't finish within " + cformat("%g", timeoutSeconds) + " seconds");
     }
     if (reader.overflowed()) {
         stop(pid, reader);
-        return failure(path + " wrote more than " + std::to_string(outputCap) + " bytes and was stopped");
+        return failure(path + " wrote more than " + std::to_string(options.outputCap) + " bytes and was stopped");
     }
     // The output has ended; a well-behaved tool exits right after.
     reap(pid, std::chrono::milliseconds(1000));
-    return Result{reader.takeOutput(), {}};
+    return Result{reader.takeOutput(), {}, errorReader ? errorReader->takeOutput() : std::string()};
 }
 
 std::optional<std::string> find(const std::string& name, const std::vector<std::string>& extra)

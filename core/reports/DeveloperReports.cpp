@@ -44,11 +44,15 @@ json serverEntry(const DevServer& server)
 
 json containerEntry(const Container& container)
 {
+    // What the engine did not say is left out, never null.
     json entry = {{"name", container.name}, {"image", container.image}, {"state", container.state},
-        {"status", container.status}, {"ports", container.ports},
-        {"compose_project", container.project ? json(*container.project) : json()}};
-    entry["cpu_percent"] = container.cpu ? json(rounded(*container.cpu, 1)) : json();
-    entry["memory_bytes"] = container.memory ? json(*container.memory) : json();
+        {"status", container.status}, {"ports", container.ports}};
+    if (container.project)
+        entry["compose_project"] = *container.project;
+    if (container.cpu)
+        entry["cpu_percent"] = rounded(*container.cpu, 1);
+    if (container.memory)
+        entry["memory_bytes"] = *container.memory;
     return entry;
 }
 

@@ -133,6 +133,14 @@ TEST(LiveDockerSource, EngineDownNotInstalledAndHanging)
     }
     EXPECT_EQ(LiveDockerSource("/home/alice", std::nullopt).read(), DockerState::notInstalled());
     {
+        // A user outside the docker group: the engine runs, but says no.
+        FakeDocker docker("denied");
+        const auto state = FakeDocker::source().read();
+        EXPECT_EQ(state.kind, DockerState::Kind::notRunning);
+        EXPECT_EQ(state.message, DockerState::notAllowed().message);
+        EXPECT_NE(state.message.find("docker group"), std::string::npos);
+    }
+    {
         // A hanging engine is ended by the time-out (6 seconds): not running, and no child left behind.
         FakeDocker docker("hang");
         const auto state = FakeDocker::source().read();

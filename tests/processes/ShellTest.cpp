@@ -68,6 +68,14 @@ TEST(Shell, RunsWithArgumentsAndCollectsStandardOutput)
     EXPECT_EQ(Shell::run("/bin/echo", {"$HOME;", "`id`"}, 5).output, "$HOME; `id`\n");
     const Script both("both", "echo out; echo err >&2; exit 3");
     EXPECT_EQ(Shell::run(both.path(), {}, 5).output, "out\n"); // standard error is dropped, the exit status not judged
+    const auto kept = Shell::run(both.path(), {}, 5, {.keepErrors = true});
+    EXPECT_EQ(kept.output, "out\n");
+    EXPECT_EQ(kept.errors, "err\n");
+    // Standard error past its cap is read and dropped: the tool still ends, its output whole.
+    const Script chatty("chatty", "head -c 1000000 /dev/zero >&2; echo done");
+    const auto flood = Shell::run(chatty.path(), {}, 30, {.keepErrors = true});
+    EXPECT_EQ(flood.output, "done\n");
+    EXPECT_EQ(flood.errors.size(), Shell::errorCap);
     const Script reads("reads", "cat; echo done");
     EXPECT_EQ(Shell::run(reads.path(), {}, 5).output, "done\n"); // standard input is empty
     const std::string big(200000, 'x');
@@ -80,7 +88,8 @@ TEST(Shell, ToolsSpeakTheCLocaleUnlessToldOtherwise)
     const Script locale("locale", "echo \"$LC_ALL|$EXTRA\"");
     ::unsetenv("LC_ALL");
     EXPECT_EQ(Shell::run(locale.path(), {}, 5).output, "C|\n");
-    EXPECT_EQ(Shell::run(locale.path(), {}, 5, {{"EXTRA", "1"}, {"LC_ALL", "fr_FR.UTF-8"}}).output, "fr_FR.UTF-8|1\n");
+    EXPECT_EQ(Shell::run(locale.path(), {}, 5, {.env = {{"EXTRA", "1"}, {"LC_ALL", "fr_FR.UTF-8"}}}).output,
+        "fr_FR.UTF-8|1\n");
 }
 
 TEST(Shell, NothingForWhatCannotRun)
@@ -96,12 +105,12 @@ TEST(Shell, OutputPastTheCapIsAnError)
 {
     const auto yes = Shell::find("yes");
     ASSERT_TRUE(yes);
-    const auto endless = Shell::run(*yes, {}, 60, {}, 1 << 20);
+    const auto endless = Shell::run(*yes, {}, 60, {.outputCap = 1 << 20});
     EXPECT_FALSE(endless.output);
     EXPECT_EQ(endless.error, *yes + " wrote more than 1048576 bytes and was stopped");
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left behind";
     const Script exact("exact", "head -c 1048576 /dev/zero");
-    EXPECT_EQ(Shell::run(exact.path(), {}, 60, {}, 1 << 20).output, std::string(1 << 20, '\0'));
+    EXPECT_EQ(Shell::run(exact.path(), {}, 60, {.outputCap = 1 << 20}).output, std::string(1 << 20, '\0'));
 }
 
 namespace {
