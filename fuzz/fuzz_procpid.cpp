@@ -16,5 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     (void)vexel::ProcPidFiles::parseIo(text);
     if (const auto cgroup = vexel::ProcPidFiles::parseCgroup(text))
         require(cgroup->size() < size);
+    require(vexel::ProcPidFiles::parseExeLink(text).path.size() <= size);
+    require(vexel::ProcPidFiles::programName(text).size() <= size);
     return 0;
 }

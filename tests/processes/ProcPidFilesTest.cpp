@@ -12,6 +12,11 @@ std::string fixture(const std::string& path)
     return Files::read(std::string(VEXEL_FIXTURES) + "/proc/" + path).value_or("");
 }
 
+std::string procTree(const std::string& path)
+{
+    return std::string(VEXEL_FIXTURES) + "/linux/proc-tree/proc/" + path;
+}
+
 } // namespace
 
 TEST(ProcPidFiles, StatWhoseNameHoldsBlanksAndParentheses)
@@ -72,4 +77,20 @@ TEST(ProcPidFiles, StatusStatmIoAndCgroup)
     EXPECT_EQ(
         ProcPidFiles::parseCgroup("1:name=systemd:/system.slice/cron.service\n0::/\n"), "/system.slice/cron.service");
     EXPECT_FALSE(ProcPidFiles::parseCgroup("5:cpu:/\n"));
+}
+
+TEST(ProcPidFiles, ExeLinksThatAreNoFile)
+{
+    using Link = ProcPidFiles::ExeLink;
+    EXPECT_EQ(ProcPidFiles::parseExeLink("/usr/bin/vim.basic"), (Link{"/usr/bin/vim.basic", false, false}));
+    EXPECT_EQ(ProcPidFiles::parseExeLink("/opt/app/bin/app (deleted)"), (Link{"/opt/app/bin/app", true, false}));
+    EXPECT_EQ(ProcPidFiles::parseExeLink(Files::readLink(procTree("1210/exe")).value_or("")),
+        (Link{"/memfd:sealed-91173221a7ea", true, true}));
+    EXPECT_TRUE(ProcPidFiles::parseExeLink("memfd:runc (deleted)").inMemory);
+    EXPECT_FALSE(ProcPidFiles::parseExeLink("/usr/lib/memfd:x").inMemory); // only a link that starts so
+
+    EXPECT_EQ(ProcPidFiles::programName(Files::read(procTree("1210/cmdline")).value_or("")), "binary_backend");
+    EXPECT_EQ(ProcPidFiles::programName(std::string("node\0server.js\0", 16)), "node");
+    EXPECT_EQ(ProcPidFiles::programName(""), "");
+    EXPECT_EQ(ProcPidFiles::programName("dir/"), "");
 }

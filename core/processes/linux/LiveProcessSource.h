@@ -36,6 +36,7 @@ private:
         uint32_t uid = 0;
         bool kernelThread = false;
         std::optional<std::string> path;
+        std::optional<std::string> name; // the program's own name, where comm does not give it
         std::optional<std::string> cgroup;
         uint64_t ticks = 0; // utime + stime at the last full reading
         uint64_t anonBytes = 0; // resident anonymous memory

@@ -133,4 +133,23 @@ std::optional<std::string> parseCgroup(std::string_view text)
     return systemd;
 }
 
+ExeLink parseExeLink(std::string_view target)
+{
+    constexpr std::string_view deletedSuffix = " (deleted)";
+    ExeLink link;
+    link.deleted = target.ends_with(deletedSuffix);
+    if (link.deleted)
+        target.remove_suffix(deletedSuffix.size());
+    link.inMemory = target.starts_with("memfd:") || target.starts_with("/memfd:");
+    link.path = std::string(target);
+    return link;
+}
+
+std::string programName(std::string_view cmdline)
+{
+    const auto argv0 = cmdline.substr(0, cmdline.find('\0'));
+    const auto slash = argv0.rfind('/');
+    return std::string(slash == std::string_view::npos ? argv0 : argv0.substr(slash + 1));
+}
+
 } // namespace vexel::ProcPidFiles

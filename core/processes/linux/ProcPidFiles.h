@@ -58,4 +58,21 @@ struct Io {
 // a pure v1 system the "name=systemd" line's. Nothing when neither is there.
 [[nodiscard]] std::optional<std::string> parseCgroup(std::string_view text);
 
+// What the /proc/<pid>/exe link says of the program.
+struct ExeLink {
+    std::string path; // without a " (deleted)" suffix
+    bool deleted = false; // the file was replaced or removed on disk since it started
+    bool inMemory = false; // a program run from a memfd: no file ever had this path
+
+    bool operator==(const ExeLink&) const = default;
+};
+
+// Reads an exe link's target: "/usr/bin/vim.basic", "/usr/lib/x/y (deleted)",
+// "/memfd:sealed-91173221a7ea (deleted)".
+[[nodiscard]] ExeLink parseExeLink(std::string_view target);
+
+// The last component of argv[0] in /proc/<pid>/cmdline (NUL-separated):
+// "line_io_tools/binary_backend\0--uid\0…" → "binary_backend"; empty when there is none.
+[[nodiscard]] std::string programName(std::string_view cmdline);
+
 } // namespace vexel::ProcPidFiles
