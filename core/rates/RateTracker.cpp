@@ -66,14 +66,23 @@ ProcRates RateTracker::advance(
         rate.energyW = nanojoules ? std::optional(*nanojoules / 1e9) : std::nullopt;
         rate.wakeups = perSecond(last.wakeups, record.wakeups, dt).value_or(0);
     }
-    last.cpu = record.cpuTime;
-    last.cpuAt = now;
-    last.dr = record.diskRead;
-    last.dw = record.diskWrite;
-    last.diskAt = now;
-    last.energy = record.energyNJ;
-    last.wakeups = record.wakeups;
-    last.energyAt = now;
+    // A family a reading left out (another user's figures between the readings
+    // of everyone) counts 0 this time and keeps its baseline, so the next
+    // reading that has it spreads the growth over the whole interval.
+    if (record.cpuTime || !last.cpu) {
+        last.cpu = record.cpuTime;
+        last.cpuAt = now;
+    }
+    if (record.diskRead || record.diskWrite || !(last.dr || last.dw)) {
+        last.dr = record.diskRead;
+        last.dw = record.diskWrite;
+        last.diskAt = now;
+    }
+    if (record.energyNJ || record.wakeups || !(last.energy || last.wakeups)) {
+        last.energy = record.energyNJ;
+        last.wakeups = record.wakeups;
+        last.energyAt = now;
+    }
     if (netTick) {
         if (const double dt = now - last.netAt; dt > minimumInterval) {
             rate.netIn = last.net && net ? static_cast<double>(forward(last.net->bytesIn, net->bytesIn)) / dt : 0.0;

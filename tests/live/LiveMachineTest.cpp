@@ -2,6 +2,7 @@
 
 #include "io/Files.h"
 #include "monitor/Monitor.h"
+#include "support/ChildProcess.h"
 #include "support/RunTool.h"
 #include "system/linux/Diskstats.h"
 #include "system/linux/LiveSystemReader.h"
@@ -13,6 +14,9 @@
 
 #include <fcntl.h>
 #include <filesystem>
+#include <grp.h>
+#include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace vexel;
@@ -200,4 +204,64 @@ TEST(LiveMachine, TheLiveMonitorGroupsThisMachine)
         grouped += group.processes.size();
     EXPECT_EQ(grouped, frame.records.size()); // every process is in exactly one group
     EXPECT_TRUE(monitor->listeners());
+}
+
+namespace {
+
+// As the user nobody, samples the machine at the app's cadence scaled down (a
+// tick every half second, everyone's figures every third) and writes the CPU
+// rate `pid` had at each tick to `out`, one per line. Runs in a forked child.
+[[noreturn]] void sampleAsNobody(pid_t pid, int out)
+{
+    constexpr uid_t nobody = 65534;
+    if (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0)
+        ::_exit(2);
+    auto monitor = Monitor::live();
+    std::string lines;
+    for (int tick = 0; tick <= 6; ++tick) {
+        const Frame frame = monitor->sample(currentTime(), {.everyone = tick % 3 == 0, .network = false});
+        for (const auto& record : frame.records)
+            if (record.pid == pid)
+                lines += std::to_string(frame.rates.at(ProcKey::of(record)).cpu) + "\n";
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    }
+    const bool written = ::write(out, lines.data(), lines.size()) == static_cast<ssize_t>(lines.size());
+    ::_exit(written ? 0 : 3);
+}
+
+} // namespace
+
+// Another user's busy process reads busy whichever readings a tick takes: its
+// time comes with every tick, and a tick without it would keep its baseline.
+TEST(LiveMachine, AnotherUsersBusyLoopReadsBusyAtTheAppsCadence)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to run a process as another user; CI runs as root";
+    vexel::testing::ChildProcess busy({"python3", "-c", "while True: pass"});
+    ASSERT_NE(busy.pid(), 0);
+    int pipeFds[2];
+    ASSERT_EQ(::pipe(pipeFds), 0);
+    const pid_t sampler = ::fork();
+    ASSERT_GE(sampler, 0);
+    if (sampler == 0) {
+        ::close(pipeFds[0]);
+        sampleAsNobody(busy.pid(), pipeFds[1]);
+    }
+    ::close(pipeFds[1]);
+    std::string text;
+    char chunk[256];
+    for (ssize_t got; (got = ::read(pipeFds[0], chunk, sizeof chunk)) > 0;)
+        text.append(chunk, static_cast<size_t>(got));
+    ::close(pipeFds[0]);
+    int status = 0;
+    ASSERT_EQ(::waitpid(sampler, &status, 0), sampler);
+    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "sampler status " << status;
+
+    std::vector<double> rates;
+    TextScan::forEachLine(text, [&](std::string_view line) { rates.push_back(std::stod(std::string(line))); });
+    ASSERT_EQ(rates.size(), 7u) << text;
+    // The first tick is a baseline; after it the loop reads busy (a generous
+    // floor: other tests share the two cores), where a lost baseline reads 0.
+    for (size_t tick = 1; tick < rates.size(); ++tick)
+        EXPECT_GT(rates[tick], 0.25) << "tick " << tick << (tick % 3 == 0 ? " (everyone)" : " (own)");
 }

@@ -32,7 +32,7 @@ TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
 {
     auto source = fixtureSource(0);
     const auto records = source.snapshot(ProcessScope::own);
-    ASSERT_EQ(records.size(), 4u); // "self" and "sys" are not processes
+    ASSERT_EQ(records.size(), 5u); // "self" and "sys" are not processes
 
     const auto* weird = byPid(records, 13233);
     ASSERT_NE(weird, nullptr);
@@ -66,19 +66,27 @@ TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
     ASSERT_NE(init, nullptr);
     EXPECT_FALSE(init->diskRead); // its io file could not be read
     EXPECT_FALSE(init->path);
+
+    // A supervisor run from a sealed memfd: its exe is no file and its comm is the
+    // memfd's name, so argv[0] names it.
+    const auto* fromMemory = byPid(records, 1210);
+    ASSERT_NE(fromMemory, nullptr);
+    EXPECT_EQ(fromMemory->name, "binary_backend");
+    EXPECT_FALSE(fromMemory->path);
 }
 
-TEST(LiveProcessSourceOnFixtures, OtherUsersFiguresOnlyForEveryone)
+TEST(LiveProcessSourceOnFixtures, OtherUsersMemoryOnlyForEveryoneTheirTimeAlways)
 {
     auto source = fixtureSource(1000); // every fixture process belongs to root
     auto records = source.snapshot(ProcessScope::own);
-    EXPECT_FALSE(byPid(records, 13233)->cpuTime);
+    EXPECT_DOUBLE_EQ(*byPid(records, 13233)->cpuTime, 1.58);
     EXPECT_FALSE(byPid(records, 13233)->memory);
+    EXPECT_FALSE(byPid(records, 13275)->cpuTime); // a zombie's time is its parent's now
     records = source.snapshot(ProcessScope::everyone);
     EXPECT_DOUBLE_EQ(*byPid(records, 13233)->cpuTime, 1.58);
     EXPECT_EQ(byPid(records, 13233)->memory, 55904u * 1024);
     EXPECT_FALSE(byPid(records, 13233)->diskRead); // disk bytes are the owner's only
-    EXPECT_EQ(source.knownCount(), 4u);
+    EXPECT_EQ(source.knownCount(), 5u);
 }
 
 TEST(LiveProcessSourceOnFixtures, AMissingProcFolderGivesAnEmptyList)

@@ -59,6 +59,34 @@ TEST(RateTracker, UpdatesCloserThanTheMinimumIntervalRepeatTheLastRates)
     EXPECT_NEAR(rateOf(after, a).cpu, 0.5, 1e-9);
 }
 
+TEST(RateTracker, ReadingsThatLeaveAFigureOutKeepItsBaseline)
+{
+    // The app's cadence: a tick every 2 s reads the user's own processes, every
+    // third also everyone's. Another user's process using a full core shows
+    // its figures only on those ticks, and must read 1 core there.
+    RateTracker tracker;
+    auto other = process(10, 100, 50.0, 0, 0);
+    other.diskRead.reset();
+    other.diskWrite.reset();
+    auto own = process(11, 100, 5.0, 100, 0);
+    std::vector<double> otherRates;
+    for (int tick = 0; tick <= 9; ++tick) {
+        const double now = 1000 + 2.0 * tick;
+        const bool everyone = tick % 3 == 0;
+        auto seen = other;
+        seen.cpuTime = everyone ? std::optional(50.0 + 2.0 * tick) : std::nullopt;
+        own.cpuTime = 5.0 + 0.5 * tick;
+        own.diskRead = 100 + 1000 * static_cast<uint64_t>(tick);
+        const auto rates = tracker.update({seen, own}, std::nullopt, now);
+        if (tick > 0) {
+            otherRates.push_back(rateOf(rates, seen).cpu);
+            EXPECT_DOUBLE_EQ(rateOf(rates, own).cpu, 0.25) << "tick " << tick;
+            EXPECT_DOUBLE_EQ(rateOf(rates, own).diskRead, 500) << "tick " << tick;
+        }
+    }
+    EXPECT_EQ(otherRates, (std::vector<double>{0, 0, 1, 0, 0, 1, 0, 0, 1}));
+}
+
 TEST(RateTracker, NewbornsShowTheirWholeUsageAtOnce)
 {
     RateTracker tracker;

@@ -95,7 +95,19 @@ void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, 
         known.cgroup = ProcPidFiles::parseCgroup(m_buffer);
     // Only the user's own processes (or every one, for root) reveal their executable.
     const auto exe = known.kernelThread ? std::nullopt : Files::readLink(fileOf(folder, "exe"));
-    known.path = exe ? std::optional(withoutDeleted(*exe)) : std::nullopt;
+    const auto link = exe ? std::optional(ProcPidFiles::parseExeLink(*exe)) : std::nullopt;
+    known.path.reset();
+    known.name.reset();
+    if (link && link->inMemory) {
+        // A program run from memory has no file, and its comm is the memfd's
+        // name ("memfd:sealed-91"): argv[0] names it.
+        if (Files::readInto(fileOf(folder, "cmdline"), m_buffer, 64 * 1024))
+            if (auto name = ProcPidFiles::programName(m_buffer); !name.empty())
+                known.name = std::move(name);
+    } else if (link && (!link->deleted || Files::exists(link->path))) {
+        // Replaced on disk (an upgrade) is still that program; removed is no path at all.
+        known.path = link->path;
+    }
 }
 
 void LiveProcessSource::measure(const std::string& folder, Known& known, bool own, bool swapping)
@@ -165,20 +177,24 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
         if (isNew || renamed || slowDue)
             learnSlowFacts(folder, known, stat->comm);
 
-        record.name = std::move(stat->comm);
+        record.name = known.name ? *known.name : std::move(stat->comm);
         record.uid = known.uid;
         record.kernelThread = known.kernelThread;
         record.cgroup = known.cgroup;
         if (!record.zombie)
             record.path = known.path;
         const bool own = known.uid == m_myUID;
+        const uint64_t ticks = stat->utime + stat->stime;
+        // stat is every user's to read and already read: every process's time
+        // comes on every tick, so other users' rates hold across the ticks that
+        // skip their memory.
+        if (!record.zombie)
+            record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
         if (!record.zombie && (own || scope == ProcessScope::everyone)) {
-            const uint64_t ticks = stat->utime + stat->stime;
             const bool due = (m_readings + static_cast<uint64_t>(*pid)) % refreshEvery == 0;
             if (!known.measured || ticks != known.ticks || due)
                 measure(folder, known, own, swapping);
             known.ticks = ticks;
-            record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
             record.memory = known.anonBytes + known.swapBytes;
             record.memoryIsFootprint = true;
             if (own) {
