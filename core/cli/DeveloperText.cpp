@@ -4,6 +4,7 @@
 #include "format/CFormat.h"
 #include "format/Fmt.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vexel::VexelCLI {
@@ -38,11 +39,27 @@ std::string portList(const json& server)
     return ports;
 }
 
-std::string serverLine(const json& server, const TimeZone& zone)
+std::string runtimeOf(const json& server)
+{
+    return value<std::string>(server, "runtime").value_or("?");
+}
+
+// The runtime column fits the widest label ("next-server", a 15-character
+// process name), so that no label runs into its pid.
+size_t runtimeWidth(const json& projects)
+{
+    size_t widest = 8;
+    for (const auto& project : projects)
+        for (const auto& server : list(project, "servers"))
+            widest = std::max(widest, runtimeOf(server).size());
+    return widest + 2;
+}
+
+std::string serverLine(const json& server, size_t runtimeColumn, const TimeZone& zone)
 {
     const auto ports = list(server, "ports");
-    std::string line = "  " + cell(value<std::string>(server, "runtime").value_or("?"), 10)
-        + cell("pid " + whole(server, "pid"), 12) + (ports.size() == 1 ? "port " : "ports ") + portList(server);
+    std::string line = "  " + cell(runtimeOf(server), runtimeColumn) + cell("pid " + whole(server, "pid"), 12)
+        + (ports.size() == 1 ? "port " : "ports ") + portList(server);
     if (value<bool>(server, "reachable_from_network").value_or(false))
         line += "  reachable from the network";
     if (const auto since = value<std::string>(server, "idle_since");
@@ -70,6 +87,7 @@ std::string serversText(const json& report, const TimeZone& zone)
     const json& projects = list(report, "projects");
     if (projects.empty())
         return "No dev servers running.";
+    const size_t runtimeColumn = runtimeWidth(projects);
     std::vector<std::string> lines;
     for (const auto& project : projects) {
         std::string heading = value<std::string>(project, "name").value_or("?") + "  "
@@ -78,7 +96,7 @@ std::string serversText(const json& report, const TimeZone& zone)
             heading += "  (idle)";
         lines.push_back(heading);
         for (const auto& server : list(project, "servers"))
-            lines.push_back(serverLine(server, zone));
+            lines.push_back(serverLine(server, runtimeColumn, zone));
     }
     return TextColumns::joinLines(lines);
 }

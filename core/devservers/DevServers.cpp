@@ -10,18 +10,6 @@ namespace vexel {
 
 namespace {
 
-// Folders of the system's own programs on macOS and Linux: a listener there is
-// a developer server only when it is a runtime.
-constexpr std::array<std::string_view, 5> linuxSystemFolders{
-    "/usr/lib/", "/usr/lib64/", "/lib/", "/usr/local/sbin/", "/lib64/"};
-
-bool isSystemProgram(const std::string& path)
-{
-    return AppIdentity::isSystemPath(path)
-        || std::any_of(linuxSystemFolders.begin(), linuxSystemFolders.end(),
-            [&](auto folder) { return path.starts_with(folder); });
-}
-
 std::string lastComponent(const std::string& path)
 {
     const auto slash = path.rfind('/');
@@ -62,6 +50,10 @@ const std::vector<std::string_view>& markers()
 
 std::optional<std::string> runtimeOf(std::string_view name)
 {
+    // A title with a note in parentheses, which the kernel's 15 characters may
+    // cut: "next-server (v14.2.3)" is "next-server (v1".
+    if (const auto note = name.find(" ("); note != std::string_view::npos && note > 0)
+        name = name.substr(0, note);
     const auto& names = runtimes();
     if (std::find(names.begin(), names.end(), name) != names.end())
         return std::string(name);
@@ -83,15 +75,22 @@ std::string runtimeLabel(std::string_view name)
     return runtime;
 }
 
-bool isDevServer(
-    const ProcRecord& record, const std::optional<std::string>& cwd, const std::string& home, uint32_t myUID)
+bool isDevServer(const ProcRecord& record, const std::optional<std::string>& cwd, const std::string& home,
+    uint32_t myUID, const ProgramPlaces& places)
 {
     if (record.uid != myUID || record.zombie)
         return false;
     const bool runtime = runtimeOf(record.name).has_value();
+    const bool cwdInAppData = cwd && places.inAppData(*cwd, home);
+    // An app's own service works in its data folder or runs from it. Version
+    // managers (uv, fnm, mise) install interpreters there too, so a runtime's
+    // program path alone does not make it an app's.
+    if (places.appDataHoldsRuntimes
+        && (cwdInAppData || (!runtime && record.path && places.inAppData(*record.path, home))))
+        return false;
+    if (places.isSystemProgram(record))
+        return runtime;
     if (record.path) {
-        if (isSystemProgram(*record.path))
-            return runtime;
         if (const auto app = AppIdentity::outermostApp(*record.path))
             return record.path->find("/Contents/Resources/app/") != std::string::npos
                 || app->find("Docker") != std::string::npos || runtime;
@@ -100,7 +99,7 @@ bool isDevServer(
         return true;
     if (!cwd || !cwd->starts_with(home + "/"))
         return false;
-    return !cwd->starts_with(home + "/Library/");
+    return !cwdInAppData;
 }
 
 ProjectInfo project(
@@ -130,7 +129,7 @@ std::vector<ProjectGroup> build(const Inputs& in, ActivityLog& log)
         if (sockets == socketsByPid.end())
             continue;
         const auto cwd = in.cwd ? in.cwd(record.pid) : std::nullopt;
-        if (!isDevServer(record, cwd, in.home, in.myUID))
+        if (!isDevServer(record, cwd, in.home, in.myUID, in.places))
             continue;
         DevServer server;
         server.key = ProcKey::of(record);

@@ -2,6 +2,7 @@
 
 #include "devservers/ActivityLog.h"
 #include "devservers/ListenSocket.h"
+#include "devservers/ProgramPlaces.h"
 #include "processes/ProcRecord.h"
 #include "rates/RateTracker.h"
 
@@ -59,7 +60,8 @@ namespace DevServers {
 [[nodiscard]] const std::vector<std::string_view>& markers();
 
 // The runtime a process name stands for: the name itself when listed, or the
-// name without a version suffix ("python3.11", "php-fpm8.2", "node22").
+// name without a version suffix ("python3.11", "php-fpm8.2", "node22") or a
+// note in parentheses ("next-server (v1").
 [[nodiscard]] std::optional<std::string> runtimeOf(std::string_view name);
 
 // The label shown for a runtime: "python" for Python and python3, "elixir" for beam.smp.
@@ -67,9 +69,10 @@ namespace DevServers {
 
 // Whether a listening process is a developer server: the user's own, not a
 // zombie, a runtime or a program started from a folder in the home folder
-// (outside ~/Library), and not a system program unless it is a runtime.
-[[nodiscard]] bool isDevServer(
-    const ProcRecord& record, const std::optional<std::string>& cwd, const std::string& home, uint32_t myUID);
+// (outside the apps' data folders), and not a system program unless it is a
+// runtime. `places` says where the platform keeps system programs and app data.
+[[nodiscard]] bool isDevServer(const ProcRecord& record, const std::optional<std::string>& cwd, const std::string& home,
+    uint32_t myUID, const ProgramPlaces& places);
 
 // The project folder of a working folder: the nearest folder upwards (below
 // the home folder and "/") holding a marker, else the working folder itself.
@@ -86,6 +89,7 @@ struct Inputs {
     std::function<bool(const std::string&)> exists;
     double now = 0;
     double idleAfter = 172800; // seconds
+    ProgramPlaces places = ProgramPlaces::macOS();
 };
 
 // The developer servers grouped by project (by project name, then path; the

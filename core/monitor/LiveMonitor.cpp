@@ -14,6 +14,7 @@
 #include "devservers/linux/LinuxPortSources.h"
 #include "grouping/linux/LinuxIdentityRules.h"
 #include "grouping/linux/LiveDesktopIndex.h"
+#include "platform/linux/LoginDefs.h"
 #include "processes/linux/LiveProcessSource.h"
 #include "rates/linux/LiveNetSource.h"
 #include "system/linux/LiveSystemReader.h"
@@ -35,7 +36,9 @@ std::unique_ptr<Monitor> Monitor::live()
     sources.net = std::make_shared<LiveNetSource>();
     sources.system = std::make_shared<LiveSystemReader>();
     sources.ports = liveLinuxPortSource();
-    sources.identities = std::make_shared<LinuxIdentityRules>(liveDesktopIndex(), bundleName);
+    const uint32_t uidMin = LoginDefs::liveUidMin();
+    sources.identities = std::make_shared<LinuxIdentityRules>(liveDesktopIndex(), bundleName, uidMin);
+    sources.places = ProgramPlaces::linux(uidMin);
 #else
 #error "Vexel's live sources exist for Linux only so far"
 #endif

@@ -47,7 +47,7 @@ std::vector<ProjectGroup> Monitor::devServers(
 {
     const DevServers::Inputs inputs{listeners, frame.records, frame.rates,
         [this](int32_t pid) { return m_sources.processes->cwd(pid); }, m_sources.home, m_sources.myUID,
-        m_sources.exists, frame.time, idleAfter};
+        m_sources.exists, frame.time, idleAfter, m_sources.places};
     return DevServers::build(inputs, log);
 }
 

@@ -28,6 +28,7 @@ struct MonitorSources {
     std::string home;
     uint32_t myUID = 0;
     std::function<bool(const std::string&)> exists;
+    ProgramPlaces places = ProgramPlaces::macOS(); // where system programs and app data live
 };
 
 // Takes complete samples of the machine: one frame per call. Driven by one

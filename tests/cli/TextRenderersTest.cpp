@@ -75,6 +75,17 @@ TEST(TextRenderers, EmptyAndStateSentences)
         "Docker isn't installed (no docker command found).");
 }
 
+TEST(TextRenderers, ALongRuntimeLabelKeepsItsGapBeforeThePid)
+{
+    const json server = {{"runtime", "next-server"}, {"pid", 6325}, {"ports", {3000}}};
+    const json other = {{"runtime", "node"}, {"pid", 12}, {"ports", {5173, 5174}}};
+    const json report = {{"projects", {{{"name", "site"}, {"path", "/home/dev/site"}, {"servers", {server, other}}}}}};
+    EXPECT_EQ(serversText(report),
+        "site  /home/dev/site\n"
+        "  next-server  pid 6325    port 3000\n"
+        "  node         pid 12      ports 5173, 5174");
+}
+
 TEST(TextRenderers, SpikeTimesInTheLocalZone)
 {
     const json report = {{"hours", 24.0},

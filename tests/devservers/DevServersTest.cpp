@@ -1,15 +1,17 @@
 #include "devservers/DevServers.h"
 #include "devservers/linux/LinuxPortSources.h"
 #include "io/Files.h"
+#include "platform/linux/LoginDefs.h"
 #include "processes/Shell.h"
 #include "processes/linux/LiveProcessSource.h"
-#include "support/ChildProcess.h"
+#include "support/ServerProcess.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <set>
 
 using namespace vexel;
@@ -59,13 +61,60 @@ TEST(DevServers, WhoCountsAsADeveloperServer)
         {"home-itself", proc(11, "agent", "/opt/agent/agent"), home, false},
         {"versioned-runtime", proc(12, "python3.11", "/usr/bin/python3.11"), "/", true},
         {"versioned-fpm", proc(13, "php-fpm8.2", "/usr/sbin/php-fpm8.2"), "/", true},
-        {"linux-system-folder", proc(14, "cupsd", "/usr/lib/cups/cupsd"), home + "/x", false},
     };
+    const auto mac = ProgramPlaces::macOS();
     for (const auto& c : cases)
-        EXPECT_EQ(DevServers::isDevServer(c.record, c.cwd, home, 501), c.expected) << c.name;
+        EXPECT_EQ(DevServers::isDevServer(c.record, c.cwd, home, 501, mac), c.expected) << c.name;
     auto zombie = proc(20, "node", std::nullopt);
     zombie.zombie = true;
-    EXPECT_FALSE(DevServers::isDevServer(zombie, home + "/x", home, 501));
+    EXPECT_FALSE(DevServers::isDevServer(zombie, home + "/x", home, 501, mac));
+}
+
+// Linux keeps every interpreter in /usr/bin and its apps' data in the XDG,
+// Flatpak and Snap folders; paths as Debian, Steam, Snap and uv lay them out.
+TEST(DevServers, WhoCountsAsADeveloperServerOnLinux)
+{
+    const std::string dev = "/home/dev";
+    struct Case {
+        const char* name;
+        ProcRecord record;
+        std::optional<std::string> cwd;
+        bool expected;
+    };
+    auto inService = [](ProcRecord record, std::string cgroup) {
+        record.cgroup = std::move(cgroup);
+        return record;
+    };
+    const std::vector<Case> cases{
+        {"distro-python", proc(1, "python3", "/usr/bin/python3.11", 1000), dev + "/code/shop/src", true},
+        {"titled-interpreter", proc(2, "my-api", "/usr/bin/python3.11", 1000), dev + "/code/api", true},
+        {"next-title", proc(3, "next-server (v1", "/usr/bin/node", 1000), std::nullopt, true},
+        {"steam", proc(4, "steam", dev + "/.local/share/Steam/ubuntu12_32/steam", 1000), dev + "/.local/share/Steam",
+            false},
+        {"snap-app", proc(5, "spotify", "/snap/spotify/72/usr/share/spotify/spotify", 1000), dev + "/snap/spotify/72",
+            false},
+        {"flatpak-app", proc(6, "obs", "/app/bin/obs", 1000), dev + "/.var/app/com.obsproject.Studio", false},
+        {"runtime-in-app-data", proc(7, "python3", "/usr/bin/python3.11", 1000), dev + "/.config/some-sync", false},
+        {"uv-python",
+            proc(8, "python3.12", dev + "/.local/share/uv/python/cpython-3.12.7-linux-x86_64-gnu/bin/python3.12", 1000),
+            dev + "/code/api", true},
+        {"library-folder", proc(9, "cupsd", "/usr/lib/cups/cupsd", 1000), dev + "/x", false},
+        {"sbin-runtime", proc(10, "php-fpm8.2", "/usr/sbin/php-fpm8.2", 1000), "/", true},
+        {"system-service", inService(proc(11, "gitea", "/usr/local/bin/gitea", 1000), "/system.slice/gitea.service"),
+            dev + "/gitea", false},
+        {"user-service",
+            inService(proc(12, "gitea", "/usr/local/bin/gitea", 1000),
+                "/user.slice/user-1000.slice/user@1000.service/app.slice/gitea.service"),
+            dev + "/gitea", true},
+        {"library-not-special", proc(13, "agent", dev + "/Library/agent", 1000), dev + "/Library", true},
+    };
+    const auto linux = ProgramPlaces::linux(1000);
+    for (const auto& c : cases)
+        EXPECT_EQ(DevServers::isDevServer(c.record, c.cwd, dev, 1000, linux), c.expected) << c.name;
+    // Root is below UID_MIN: its own servers count only when they are runtimes.
+    EXPECT_FALSE(
+        DevServers::isDevServer(proc(20, "myserver", "/root/code/myserver", 0), "/root/code", "/root", 0, linux));
+    EXPECT_TRUE(DevServers::isDevServer(proc(21, "node", "/usr/bin/node", 0), "/root/code", "/root", 0, linux));
 }
 
 TEST(DevServers, RuntimeLabels)
@@ -80,6 +129,22 @@ TEST(DevServers, RuntimeLabels)
     EXPECT_EQ(DevServers::runtimeLabel("myserver"), "myserver");
     EXPECT_FALSE(DevServers::runtimeOf("3.11"));
     EXPECT_FALSE(DevServers::runtimeOf("nodejs"));
+    // Titles with a note, cut by the kernel to 15 characters.
+    EXPECT_EQ(DevServers::runtimeLabel("next-server (v1"), "next-server");
+    EXPECT_EQ(DevServers::runtimeOf("node (vite)"), "node");
+    EXPECT_FALSE(DevServers::runtimeOf("steam (x)"));
+    EXPECT_FALSE(DevServers::runtimeOf(" (node)"));
+}
+
+TEST(LoginDefs, UidMinOfARealFileAndItsDefault)
+{
+    // Debian 12's /etc/login.defs, as installed.
+    EXPECT_EQ(
+        LoginDefs::parseUidMin(Files::read(std::string(VEXEL_FIXTURES) + "/linux/login.defs").value_or("")), 1000u);
+    EXPECT_EQ(LoginDefs::parseUidMin("UID_MIN 500\nUID_MAX 60000\n"), 500u);
+    EXPECT_EQ(LoginDefs::parseUidMin("#UID_MIN 500\nSYS_UID_MIN 100\n"), LoginDefs::defaultUidMin);
+    EXPECT_EQ(LoginDefs::parseUidMin("UID_MIN 5x0\n"), LoginDefs::defaultUidMin);
+    EXPECT_EQ(LoginDefs::parseUidMin(""), LoginDefs::defaultUidMin);
 }
 
 TEST(DevServers, ProjectsAreFoundUpwardsBelowTheHomeFolder)
@@ -206,24 +271,32 @@ TEST(DevServers, ServersWithoutAReadableFolderStandAlone)
     EXPECT_EQ(seen, (std::vector<std::pair<std::string, int32_t>>{{"node", 20}, {"node", 22}, {"postgres", 21}}));
 }
 
-TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
+// Three listeners as a user of this machine starts them: python's http server
+// in a project's src/, a Next.js-style server whose title holds a "(" in a
+// second project, and a program of an app's own run from ~/.local/share.
+TEST(DevServersLive, ServersByProjectAndNotTheAppsOwn)
 {
     const TempFolder home("vexel-home");
     const auto& tempHome = home.path();
-    const auto project = tempHome / "code" / "shop";
-    fs::create_directories(project / "src");
-    std::ofstream(project / "package.json") << "{}";
+    const auto shop = tempHome / "code" / "shop";
+    const auto site = tempHome / "code" / "site";
+    const auto steam = tempHome / ".local" / "share" / "Steam";
+    fs::create_directories(shop / "src");
+    fs::create_directories(site);
+    fs::create_directories(steam);
+    std::ofstream(shop / "package.json") << "{}";
+    std::ofstream(site / "package.json") << "{}";
     const auto python = Shell::find("python3");
     ASSERT_TRUE(python);
-    // A real python3 -m http.server on a free loopback port, in src/; it
-    // names its port once it listens.
-    const std::string script = "import http.server, socketserver, sys\n"
-                               "s = socketserver.TCPServer(('127.0.0.1', 0), http.server.SimpleHTTPRequestHandler)\n"
-                               "print(s.server_address[1], flush=True)\ns.serve_forever()\n";
-    ChildProcess server({*python, "-c", script}, {project / "src", true});
-    const auto port = static_cast<uint16_t>(std::atoi(server.readLine().c_str()));
-    ASSERT_NE(port, 0);
-    const pid_t pid = server.pid();
+    // The app's own program: a copy of the interpreter under another name.
+    fs::copy_file(fs::canonical(*python), steam / "steam");
+
+    const ServerProcess http(*python, shop / "src");
+    const ServerProcess next(*python, site, "next-server (v14.2.3)");
+    const ServerProcess app((steam / "steam").string(), steam);
+    ASSERT_NE(http.port(), 0);
+    ASSERT_NE(next.port(), 0);
+    ASSERT_NE(app.port(), 0);
 
     LiveProcessSource processes;
     const auto records = processes.snapshot(ProcessScope::own);
@@ -232,15 +305,24 @@ TEST(DevServersLive, APythonServerStartedInAProjectSubfolder)
     ActivityLog log;
     const DevServers::Inputs inputs{*listeners, records, {}, [&](int32_t p) { return processes.cwd(p); },
         tempHome.string(), static_cast<uint32_t>(::geteuid()),
-        [](const std::string& path) { return Files::exists(path); }, 1e10, 172800};
+        [](const std::string& path) { return Files::exists(path); }, 1e10, 172800,
+        ProgramPlaces::linux(LoginDefs::liveUidMin())};
     const auto groups = DevServers::build(inputs, log);
-    const auto shop = std::find_if(groups.begin(), groups.end(), [](auto& g) { return g.project.name == "shop"; });
-    ASSERT_NE(shop, groups.end());
-    ASSERT_EQ(shop->servers.size(), 1u);
-    EXPECT_EQ(shop->project.marker, "package.json");
-    EXPECT_EQ(shop->project.path, project.string());
-    EXPECT_EQ(shop->servers[0].pid, pid);
-    EXPECT_EQ(shop->servers[0].ports, std::vector<uint16_t>{port});
-    EXPECT_EQ(shop->servers[0].runtime, "python");
-    EXPECT_EQ(shop->servers[0].cwd, (project / "src").string());
+    std::map<std::string, std::vector<const DevServer*>> byProject; // by folder name, of this test's folders
+    for (const auto& group : groups)
+        for (const auto& server : group.servers)
+            if (group.project.path.starts_with(tempHome.string()))
+                byProject[group.project.name].push_back(&server);
+    ASSERT_EQ(byProject["shop"].size(), 1u);
+    EXPECT_EQ(byProject["shop"][0]->pid, http.pid());
+    EXPECT_EQ(byProject["shop"][0]->ports, std::vector<uint16_t>{http.port()});
+    EXPECT_EQ(byProject["shop"][0]->runtime, "python");
+    EXPECT_EQ(byProject["shop"][0]->cwd, (shop / "src").string());
+    ASSERT_EQ(byProject["site"].size(), 1u);
+    EXPECT_EQ(byProject["site"][0]->pid, next.pid());
+    EXPECT_EQ(byProject["site"][0]->name, "next-server (v1");
+    EXPECT_EQ(byProject["site"][0]->runtime, "next-server");
+    for (const auto& group : groups)
+        for (const auto& server : group.servers)
+            EXPECT_NE(server.pid, app.pid()) << "the app's own listener is in project " << group.project.name;
 }

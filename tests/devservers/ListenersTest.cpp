@@ -4,9 +4,12 @@
 #include "io/Files.h"
 #include "processes/Shell.h"
 #include "support/Listener.h"
+#include "support/ServerProcess.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -122,6 +125,22 @@ TEST_P(LivePortSources, SeeThisProcesssListenersWithPidAddressAndFamily)
 }
 
 INSTANTIATE_TEST_SUITE_P(LsofAndSs, LivePortSources, ::testing::Values("lsof", "ss"));
+
+// lsof 4.95 drops a process whose name holds an unclosed "("; the default
+// source must not.
+TEST(LivePortSources, TheDefaultSeesAListenerWithAParenthesisInItsName)
+{
+    const auto python = Shell::find("python3");
+    ASSERT_TRUE(python);
+    const vexel::testing::ServerProcess next(*python, std::filesystem::temp_directory_path(), "next-server (v14.2.3)");
+    ASSERT_NE(next.port(), 0);
+    const auto sockets = liveLinuxPortSource()->listeners();
+    ASSERT_TRUE(sockets);
+    const auto found = std::find_if(sockets->begin(), sockets->end(),
+        [&](const ListenSocket& socket) { return socket.pid == next.pid() && socket.port == next.port(); });
+    ASSERT_NE(found, sockets->end());
+    EXPECT_EQ(found->command, "next-server (v1");
+}
 
 TEST(LivePortSources, AMissingToolCannotRead)
 {

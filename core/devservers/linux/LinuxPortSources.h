@@ -31,9 +31,9 @@ private:
     std::optional<std::string> m_ss;
 };
 
-// The Linux port source: lsof when it is installed, else ss. ss would become
-// the default only if it were more than twice as fast; with 2,000 processes
-// it measured 1.8 times as fast (BENCHMARKS.md).
+// The Linux port source: ss, or lsof where iproute2 is missing. ss is the one
+// that sees every listener: lsof 4.95 drops a process whose name holds an
+// unclosed "(", and ss is 1.8 times as fast with 2,000 processes (BENCHMARKS.md).
 [[nodiscard]] std::unique_ptr<PortSource> liveLinuxPortSource();
 
 } // namespace vexel
