@@ -234,6 +234,46 @@ TEST(LiveSystemReaderOnFixtures, DesktopWithNvidiaZramAndSeveralVolumes)
     EXPECT_DOUBLE_EQ(second.net.outRate, 0);
 }
 
+// NVML wakes a runtime-suspended GPU: a hybrid laptop's sleeping NVIDIA GPU
+// is never asked, whether nvidia-drm gave it a DRM card or not.
+TEST(LiveSystemReaderOnFixtures, ASleepingNvidiaGpuIsNotWoken)
+{
+    int asked = 0;
+    const auto askNvml = [&asked](LinuxRoots roots) {
+        roots.nvidia = [&asked] {
+            ++asked;
+            return std::vector<NvidiaGpu>{{"NVIDIA GeForce RTX 3050 Laptop GPU", 0.41}};
+        };
+        return roots;
+    };
+
+    // Optimus without nvidia-drm: the driver is loaded, the GPU sits on the PCI bus only.
+    FixtureTree laptop("laptop-optimus");
+    const std::string status = "sys/devices/pci0000:00/0000:00:01.0/0000:01:00.0/power/runtime_status";
+    LiveSystemReader reader(askNvml(laptop.roots()));
+    auto gpu = reader.read(10).gpu;
+    ASSERT_TRUE(gpu);
+    EXPECT_EQ(gpu->name, "Alder Lake-P Integrated Graphics Controller"); // both idle: the display's
+    EXPECT_EQ(asked, 0);
+    laptop.write(status, "active\n");
+    // The iGPU slept through the two seconds.
+    laptop.write("sys/devices/pci0000:00/0000:00:02.0/drm/card0/gt/gt0/rc6_residency_ms", "8202000\n");
+    gpu = reader.read(12).gpu;
+    ASSERT_TRUE(gpu);
+    EXPECT_EQ(gpu->name, "NVIDIA GeForce RTX 3050 Laptop GPU");
+    EXPECT_DOUBLE_EQ(gpu->utilisation, 0.41);
+    EXPECT_EQ(asked, 1);
+
+    // A desktop whose NVIDIA card is bound through nvidia-drm, suspended.
+    FixtureTree desktop("desktop-nvidia");
+    desktop.write("sys/class/drm/card0/device/power/runtime_status", "suspended\n");
+    asked = 0;
+    gpu = LiveSystemReader(askNvml(desktop.roots())).read(20).gpu;
+    ASSERT_TRUE(gpu);
+    EXPECT_DOUBLE_EQ(gpu->utilisation, 0);
+    EXPECT_EQ(asked, 0);
+}
+
 TEST(LiveSystemReaderOnFixtures, ArmBigLittleLevelsAndAnEmptyTree)
 {
     FixtureTree tree("arm-biglittle");

@@ -3,6 +3,7 @@
 #include "system/GPUStats.h"
 #include "system/linux/LinuxRoots.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,6 +13,8 @@ namespace vexel {
 // Reads GPU load from the DRM cards in sysfs (amdgpu's busy percentage,
 // Intel's idle residency) and from NVIDIA's management library. With several
 // GPUs the busiest one is reported; with all idle, the one that boots the display.
+// A GPU that is runtime-suspended (the discrete one of a hybrid laptop) reads
+// idle without being asked, since asking would wake it.
 class GpuReader {
 public:
     explicit GpuReader(const LinuxRoots& roots)
@@ -32,12 +35,23 @@ private:
         double lastTime = 0;
     };
 
+    // A GPU bound to NVIDIA's driver, seen on the PCI bus whether or not
+    // nvidia-drm gave it a DRM card.
+    struct NvidiaDevice {
+        std::string path; // …/bus/pci/drivers/nvidia/0000:01:00.0 or a card's device folder
+        std::string name;
+    };
+
     void discover();
+    void discoverNvidia(const std::optional<std::string>& database);
+    [[nodiscard]] bool anyNvidiaAwake(const std::function<void(const std::string&)>& asleep) const;
     [[nodiscard]] std::optional<double> load(Card& card, double now) const;
 
     const LinuxRoots& m_roots;
     bool m_discovered = false;
     std::vector<Card> m_cards;
+    bool m_nvidiaDriver = false; // NVIDIA's kernel module is loaded
+    std::vector<NvidiaDevice> m_nvidia;
 };
 
 } // namespace vexel
