@@ -15,6 +15,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (const auto unit = vexel::CgroupLeaf::appUnit(leaf)) {
         require(!unit->id.empty() && unit->id.size() <= leaf.size());
         require(unit->launcherlessId.size() <= unit->id.size());
+        require(unit->snapApp.size() <= leaf.size());
     }
+    size_t around = 0;
+    for (const auto& component : vexel::CgroupLeaf::enclosing(text))
+        around += component.size();
+    require(around <= size);
     return 0;
 }

@@ -226,17 +226,24 @@ Result run(const std::string& path, const std::vector<std::string>& args, double
     return Result{reader.takeOutput(), {}, errorReader ? errorReader->takeOutput() : std::string()};
 }
 
+std::vector<std::string> searchFolders()
+{
+    std::vector<std::string> folders;
+    for (const char* folder : {"/opt/homebrew/bin", "/usr/local/bin", "/usr/bin", "/bin", "/usr/sbin", "/sbin"})
+        folders.emplace_back(folder);
+    folders.push_back(homeFolder() + "/.local/bin");
+    folders.emplace_back("/snap/bin");
+    folders.emplace_back("/home/linuxbrew/.linuxbrew/bin");
+    return folders;
+}
+
 std::optional<std::string> find(const std::string& name, const std::vector<std::string>& extra)
 {
     if (name.empty() || name.find('/') != std::string::npos)
         return std::nullopt;
     std::vector<std::string> folders = extra;
-    for (const char* folder : {"/opt/homebrew/bin", "/usr/local/bin", "/usr/bin", "/bin", "/usr/sbin", "/sbin"})
-        folders.emplace_back(folder);
-    const auto home = homeFolder();
-    folders.push_back(home + "/.local/bin");
-    folders.emplace_back("/snap/bin");
-    folders.emplace_back("/home/linuxbrew/.linuxbrew/bin");
+    for (auto& folder : searchFolders())
+        folders.push_back(std::move(folder));
     for (const auto& folder : folders) {
         const std::string candidate = folder + "/" + name;
         if (isExecutableFile(candidate))

@@ -45,6 +45,11 @@ struct Options {
 [[nodiscard]] Result run(
     const std::string& path, const std::vector<std::string>& args, double timeoutSeconds, const Options& options = {});
 
+// Where programs are looked for, in order: /opt/homebrew/bin, /usr/local/bin,
+// /usr/bin, /bin, /usr/sbin, /sbin, ~/.local/bin, /snap/bin and
+// /home/linuxbrew/.linuxbrew/bin.
+[[nodiscard]] std::vector<std::string> searchFolders();
+
 // The full path of an executable called `name`: the folders of `extra` first,
 // then /opt/homebrew/bin, /usr/local/bin, /usr/bin, /bin, /usr/sbin, /sbin,
 // ~/.local/bin, /snap/bin and /home/linuxbrew/.linuxbrew/bin. Nothing when none holds one.

@@ -1,7 +1,9 @@
 #include "grouping/AppGrouper.h"
 #include "grouping/linux/CgroupLeaf.h"
 #include "grouping/linux/LinuxIdentityRules.h"
+#include "grouping/linux/ProgramPaths.h"
 #include "monitor/BundleNames.h"
+#include "support/Golden.h"
 #include "support/ProcessTable.h"
 
 #include <gtest/gtest.h>
@@ -14,10 +16,12 @@ namespace {
 
 const std::string trees = std::string(VEXEL_FIXTURES) + "/linux/trees";
 
-// Programs as this fixture machine would resolve them: bare names on /usr/bin.
+// Programs as the fixture machine resolves them: the live resolver, rooted at
+// a copy of the links Debian installs (/usr/bin/vim → /etc/alternatives/vim →
+// /usr/bin/vim.basic, /snap/bin/* → /usr/bin/snap).
 std::optional<std::string> resolveProgram(const std::string& program)
 {
-    return program.starts_with('/') ? program : "/usr/bin/" + program;
+    return ProgramPaths::resolve(trees + "/root", program, {"/usr/local/bin", "/usr/bin", "/bin", "/snap/bin"});
 }
 
 std::shared_ptr<const DesktopIndex> index()
@@ -26,10 +30,11 @@ std::shared_ptr<const DesktopIndex> index()
         DesktopIndex::standardSharedFolders("/home/alice"));
 }
 
-class DesktopSession : public ::testing::Test {
+// A captured session's processes named by the Linux rules.
+class Session : public ::testing::Test {
 protected:
-    DesktopSession()
-        : m_records(vexel::testing::loadProcessTable(trees + "/desktop-session.tsv"))
+    explicit Session(const std::string& tree)
+        : m_records(vexel::testing::loadProcessTable(trees + "/" + tree))
         , m_rules(index(), [this](const std::string& path) { return m_names.name(path); })
         , m_ids(AppIdentity::resolve(m_records, m_rules, &m_cache))
     {
@@ -37,11 +42,41 @@ protected:
 
     [[nodiscard]] std::string keyOf(int32_t pid) const { return m_ids.at(pid).key; }
 
+    // Every group as a reviewer reads it: key, name, then its processes.
+    [[nodiscard]] std::string appList()
+    {
+        auto groups = AppGrouper::group(m_records, {}, m_rules, &m_cache, AppSort::memory);
+        std::sort(groups.begin(), groups.end(), [](const auto& a, const auto& b) { return a.id < b.id; });
+        std::string text;
+        for (const auto& group : groups) {
+            text += group.id + "  \"" + group.name + "\"\n";
+            for (const auto& row : group.processes)
+                text += "    " + std::to_string(row.pid) + " " + row.name + "\n";
+        }
+        return text;
+    }
+
     std::vector<ProcRecord> m_records;
     BundleNames m_names;
     LinuxIdentityRules m_rules;
     IdentityCache m_cache;
     std::unordered_map<int32_t, Identity> m_ids;
+};
+
+class GnomeSession : public Session {
+protected:
+    GnomeSession()
+        : Session("gnome-session.tsv")
+    {
+    }
+};
+
+class KdeSession : public Session {
+protected:
+    KdeSession()
+        : Session("kde-session.tsv")
+    {
+    }
 };
 
 } // namespace
@@ -79,20 +114,47 @@ TEST(CgroupLeaf, AppUnits)
     using Kind = CgroupLeaf::AppUnit::Kind;
     EXPECT_EQ(CgroupLeaf::leaf("/a/b/app-gnome-debian\\x2dxterm-14392.scope"), "app-gnome-debian-xterm-14392.scope");
     EXPECT_EQ(CgroupLeaf::appUnit("app-gnome-firefox-2345.scope"),
-        (CgroupLeaf::AppUnit{Kind::launcher, "gnome-firefox", "firefox"}));
+        (CgroupLeaf::AppUnit{Kind::launcher, "gnome-firefox", "firefox", {}}));
     EXPECT_EQ(CgroupLeaf::appUnit("app-cosmic-com.system76.CosmicEdit-4376.scope")->launcherlessId,
         "com.system76.CosmicEdit");
     EXPECT_EQ(CgroupLeaf::appUnit("app-org.kde.konsole@autostart.service")->id, "org.kde.konsole");
     EXPECT_EQ(CgroupLeaf::appUnit("app-flatpak-org.mozilla.firefox-12345.scope"),
-        (CgroupLeaf::AppUnit{Kind::flatpak, "org.mozilla.firefox", "org.mozilla.firefox"}));
+        (CgroupLeaf::AppUnit{Kind::flatpak, "org.mozilla.firefox", "org.mozilla.firefox", {}}));
     EXPECT_EQ(CgroupLeaf::appUnit("snap.firefox.firefox-1b3f2c9e-7d5a-4e60-9a7e-1f2d3c4b5a69.scope")->id, "firefox");
     EXPECT_EQ(CgroupLeaf::appUnit("dbus-:1.2-org.gnome.Terminal@0.service")->id, "org.gnome.Terminal");
-    for (const char* none : {"session-2.scope", "NetworkManager.service", "init.scope", "vte-spawn-5e1f.scope",
-             "app.slice", "", "app-.scope", "snap..scope"})
+    // The app slices around services and scopes, D-Bus activation's among them.
+    EXPECT_EQ(CgroupLeaf::appUnit("app-org.gnome.Terminal.slice")->id, "org.gnome.Terminal");
+    EXPECT_EQ(CgroupLeaf::appUnit("app-dbus-:1.37-org.a11y.atspi.Registry.slice")->id, "org.a11y.atspi.Registry");
+    EXPECT_EQ(CgroupLeaf::appUnit("app-flatpak-org.telegram.desktop@12345.service")->id, "org.telegram.desktop");
+    EXPECT_EQ(CgroupLeaf::appUnit("snap.lxd.lxc-2a7c4f3e-1b2d-4c5e-8f90-1a2b3c4d5e6f.scope")->snapApp, "lxc");
+    for (const char* none :
+        {"session-2.scope", "NetworkManager.service", "init.scope", "vte-spawn-5e1f.scope", "app.slice", "",
+            "app-.scope", "snap..scope", "user-1000.slice", "background.slice", "main.scope", "tab(42253).scope"})
         EXPECT_FALSE(CgroupLeaf::appUnit(none)) << none;
+    EXPECT_EQ(
+        CgroupLeaf::enclosing("/user.slice/user-1000.slice/user@1000.service/app.slice/"
+                              "app-dbus\\x2d:1.2\\x2dorg.gnome.Nautilus.slice/dbus-:1.2-org.gnome.Nautilus@0.service"),
+        (std::vector<std::string>{"app-dbus-:1.2-org.gnome.Nautilus.slice", "app.slice", "user@1000.service",
+            "user-1000.slice", "user.slice"}));
+    EXPECT_TRUE(CgroupLeaf::enclosing("/init.scope").empty());
+    EXPECT_TRUE(CgroupLeaf::enclosing("").empty());
 }
 
-TEST_F(DesktopSession, BrowserWithItsHelpersAndCrashHandlers)
+TEST(ProgramPaths, LinksAreFollowedInsideTheRoot)
+{
+    const std::string root = trees + "/root";
+    const std::vector<std::string> path{"/usr/bin", "/snap/bin"};
+    EXPECT_EQ(ProgramPaths::resolve(root, "vim", path), "/usr/bin/vim.basic"); // through /etc/alternatives
+    EXPECT_EQ(ProgramPaths::resolve(root, "code", path), "/usr/share/code/bin/code"); // a relative link
+    EXPECT_EQ(ProgramPaths::resolve(root, "/usr/bin/google-chrome", path), "/opt/google/chrome/google-chrome");
+    EXPECT_EQ(ProgramPaths::resolve(root, "slack", path), "/usr/bin/snap");
+    EXPECT_FALSE(ProgramPaths::resolve(root, "missing", path));
+    EXPECT_FALSE(ProgramPaths::resolve(root, "bin/vim", path));
+    EXPECT_FALSE(ProgramPaths::resolve(root, "", path));
+    EXPECT_EQ(ProgramPaths::realPathUnder(root, "/usr/bin/../bin/./python3"), "/usr/bin/python3.11");
+}
+
+TEST_F(GnomeSession, BrowserWithItsHelpersAndCrashHandlers)
 {
     for (const int32_t pid : {14390, 14541, 14543, 14641, 14645, 14660, 14690, 14699, 14700, 14527, 14537, 14800})
         EXPECT_EQ(keyOf(pid), "app:chromium") << pid;
@@ -105,9 +167,14 @@ TEST_F(DesktopSession, BrowserWithItsHelpersAndCrashHandlers)
     EXPECT_EQ(keyOf(7100), "tool:python3");
     EXPECT_EQ(keyOf(7200), "tool:vim");
     EXPECT_TRUE(m_rules.isMainExecutable(m_records[0], m_ids.at(1)) == false);
+    // Google Chrome: /usr/bin/google-chrome-stable links to /opt/google/chrome,
+    // whose install folder holds every helper.
+    for (const int32_t pid : {8000, 8003, 8010, 8011, 8020, 8030, 8031, 8032, 8040})
+        EXPECT_EQ(keyOf(pid), "app:google-chrome") << pid;
+    EXPECT_EQ(m_ids.at(8040).name, "Google Chrome");
 }
 
-TEST_F(DesktopSession, EditorWithADevServerInItsIntegratedTerminal)
+TEST_F(GnomeSession, EditorWithADevServerInItsIntegratedTerminal)
 {
     for (const int32_t pid : {3001, 3005, 3030, 3090, 3101, 3150, 3160})
         EXPECT_EQ(keyOf(pid), "app:code") << pid;
@@ -115,23 +182,30 @@ TEST_F(DesktopSession, EditorWithADevServerInItsIntegratedTerminal)
     EXPECT_EQ(keyOf(3200), "app:code"); // no app scope: its install folder names it
 }
 
-TEST_F(DesktopSession, TerminalsWithShellsAndInterpreters)
+TEST_F(GnomeSession, TerminalsWithShellsAndInterpreters)
 {
     for (const int32_t pid : {14392, 14408, 14410, 14411})
         EXPECT_EQ(keyOf(pid), "app:debian-xterm") << pid;
-    // GNOME Terminal's shells live in vte-spawn scopes: the parent walk joins them to it.
-    for (const int32_t pid : {2200, 2210, 2220, 2230})
+    // GNOME Terminal's server is a /usr/libexec program in the slice
+    // app-org.gnome.Terminal.slice; its tabs are vte-spawn scopes in that slice.
+    // The server, the shells, a node server, vim (whose entry is Terminal=true)
+    // and a server left behind by its shell are all the terminal's.
+    for (const int32_t pid : {2200, 2210, 2220, 2230, 2300, 2310, 2320, 2330})
         EXPECT_EQ(keyOf(pid), "app:org.gnome.Terminal") << pid;
-    EXPECT_EQ(m_ids.at(2230).name, "Terminal");
+    EXPECT_EQ(m_ids.at(2200).name, "Terminal");
+    // Files, activated over D-Bus into an app slice of its own.
+    EXPECT_EQ(keyOf(2400), "app:org.gnome.Nautilus");
+    EXPECT_EQ(m_ids.at(2400).name, "Files");
 }
 
-TEST_F(DesktopSession, DatabasesServicesKernelAndSession)
+TEST_F(GnomeSession, DatabasesServicesKernelAndSession)
 {
     for (const int32_t pid : {14452, 14485, 14501})
         EXPECT_EQ(keyOf(pid), "sys:Linux services") << pid; // Debian's PostgreSQL under systemd
-    // A user's own PostgreSQL, orphaned to systemd --user: a tool of its own with its workers.
+    // A user's own PostgreSQL, daemonised from a terminal tab: orphaned to
+    // systemd --user, it still lives in the tab's scope, inside the terminal's slice.
     for (const int32_t pid : {5000, 5001, 5003})
-        EXPECT_EQ(keyOf(pid), "tool:postgres") << pid;
+        EXPECT_EQ(keyOf(pid), "app:org.gnome.Terminal") << pid;
     EXPECT_EQ(keyOf(2), "sys:Kernel");
     EXPECT_EQ(keyOf(3), "sys:Kernel");
     EXPECT_EQ(keyOf(1), "sys:Linux services");
@@ -145,7 +219,7 @@ TEST_F(DesktopSession, DatabasesServicesKernelAndSession)
     EXPECT_EQ(keyOf(1680), "sys:Desktop session");
 }
 
-TEST_F(DesktopSession, SandboxedAndPortableApps)
+TEST_F(GnomeSession, SandboxedAndPortableApps)
 {
     for (const int32_t pid : {4000, 4002, 4010})
         EXPECT_EQ(keyOf(pid), "app:flatpak:org.mozilla.firefox") << pid;
@@ -156,7 +230,7 @@ TEST_F(DesktopSession, SandboxedAndPortableApps)
     EXPECT_EQ(m_ids.at(4205).name, "obsidian");
 }
 
-TEST_F(DesktopSession, GroupsOneRowPerApp)
+TEST_F(GnomeSession, GroupsOneRowPerApp)
 {
     const auto groups = AppGrouper::group(m_records, {}, m_rules, &m_cache, AppSort::memory);
     const auto chromium = std::find_if(groups.begin(), groups.end(), [](auto& g) { return g.id == "app:chromium"; });
@@ -171,4 +245,31 @@ TEST_F(DesktopSession, GroupsOneRowPerApp)
     std::set<std::string> ids;
     for (const auto& group : groups)
         EXPECT_TRUE(ids.insert(group.id).second) << group.id;
+}
+
+TEST_F(GnomeSession, TheAppListAReviewerReads)
+{
+    const auto differs = vexel::testing::compareGolden("grouping/gnome-session.txt", appList());
+    EXPECT_TRUE(differs.empty()) << differs;
+}
+
+TEST_F(KdeSession, KonsoleWithItsTabsChromeFlatpakAndSnap)
+{
+    // Konsole keeps its window in main.scope and each tab in tab(<pid>).scope
+    // inside its app scope; htop's entry is Terminal=true.
+    for (const int32_t pid : {41769, 41807, 42253, 42735, 42900, 42910})
+        EXPECT_EQ(keyOf(pid), "app:org.kde.konsole") << pid;
+    EXPECT_EQ(m_ids.at(42900).name, "Konsole");
+    for (const int32_t pid : {5100, 5110, 5120})
+        EXPECT_EQ(keyOf(pid), "app:google-chrome") << pid;
+    for (const int32_t pid : {6100, 6102})
+        EXPECT_EQ(keyOf(pid), "app:flatpak:org.telegram.desktop") << pid;
+    EXPECT_EQ(m_ids.at(6102).name, "Telegram Desktop");
+    EXPECT_EQ(keyOf(6210), "app:snap:slack");
+    EXPECT_EQ(m_ids.at(6210).name, "Slack");
+    EXPECT_EQ(keyOf(900), "sys:Linux services");
+    EXPECT_EQ(keyOf(1360), "sys:Display server");
+    EXPECT_EQ(keyOf(1470), "sys:File indexing");
+    const auto differs = vexel::testing::compareGolden("grouping/kde-session.txt", appList());
+    EXPECT_TRUE(differs.empty()) << differs;
 }

@@ -39,6 +39,19 @@ std::string_view withoutSuffix(std::string_view text, std::string_view suffix)
 
 } // namespace
 
+std::vector<std::string> enclosing(std::string_view cgroup)
+{
+    std::vector<std::string> units;
+    auto end = cgroup.rfind('/');
+    while (end != std::string_view::npos && end > 0) {
+        const auto start = cgroup.rfind('/', end - 1);
+        const auto begin = start == std::string_view::npos ? 0 : start + 1;
+        units.push_back(TextScan::unescapeHex(cgroup.substr(begin, end - begin)));
+        end = start;
+    }
+    return units;
+}
+
 std::string leaf(std::string_view cgroup)
 {
     const auto slash = cgroup.rfind('/');
@@ -53,6 +66,8 @@ std::optional<AppUnit> appUnit(std::string_view leafName)
         unit = withoutSuffix(unit, ".scope");
     else if (unit.ends_with(".service"))
         unit = withoutSuffix(unit, ".service");
+    else if (unit.ends_with(".slice") && unit.starts_with("app-"))
+        unit = withoutSuffix(unit, ".slice"); // an app's own slice, around its services and scopes
     else
         return std::nullopt;
     if (const auto at = unit.find('@'); at != std::string_view::npos)
@@ -62,7 +77,7 @@ std::optional<AppUnit> appUnit(std::string_view leafName)
         const auto id = withoutRandomTail(unit.substr(12));
         if (id.empty())
             return std::nullopt;
-        return AppUnit{AppUnit::Kind::flatpak, std::string(id), std::string(id)};
+        return AppUnit{AppUnit::Kind::flatpak, std::string(id), std::string(id), {}};
     }
     if (unit.starts_with("snap.")) {
         const auto rest = unit.substr(5);
@@ -70,9 +85,12 @@ std::optional<AppUnit> appUnit(std::string_view leafName)
         if (dot == 0 || rest.empty())
             return std::nullopt;
         const auto name = rest.substr(0, dot);
-        return AppUnit{AppUnit::Kind::snap, std::string(name), std::string(name)};
+        const auto app = dot == std::string_view::npos ? name : withoutRandomTail(rest.substr(dot + 1));
+        return AppUnit{AppUnit::Kind::snap, std::string(name), std::string(name), std::string(app)};
     }
     std::string_view id;
+    if (unit.starts_with("app-dbus-:"))
+        unit = unit.substr(4); // D-Bus activated: "app-dbus-:1.37-org.a11y.atspi.Registry"
     if (unit.starts_with("app-"))
         id = withoutRandomTail(unit.substr(4));
     else if (unit.starts_with("dbus-:")) {
@@ -88,7 +106,7 @@ std::optional<AppUnit> appUnit(std::string_view leafName)
         return std::nullopt;
     const auto dash = id.find('-');
     const auto launcherless = dash == std::string_view::npos ? id : id.substr(dash + 1);
-    return AppUnit{AppUnit::Kind::launcher, std::string(id), std::string(launcherless)};
+    return AppUnit{AppUnit::Kind::launcher, std::string(id), std::string(launcherless), {}};
 }
 
 } // namespace vexel::CgroupLeaf

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexel::CgroupLeaf {
 
@@ -12,6 +13,7 @@ struct AppUnit {
     Kind kind = Kind::launcher;
     std::string id; // desktop id candidate, Flatpak app id or snap name
     std::string launcherlessId; // the id without a launcher word in front ("gnome-firefox" → "firefox")
+    std::string snapApp; // a snap's app ("snap.lxd.lxc-…" → "lxc"), whose entry is <snap>_<app>.desktop
 
     bool operator==(const AppUnit&) const = default;
 };
@@ -19,10 +21,16 @@ struct AppUnit {
 // The last component of a cgroup path, with systemd's "\x2d" escapes undone.
 [[nodiscard]] std::string leaf(std::string_view cgroup);
 
-// The app unit named by a leaf: "app-flatpak-org.mozilla.firefox-12345.scope",
+// The components around the leaf, nearest first, unescaped likewise:
+// ".../app.slice/app-org.gnome.Terminal.slice/vte-spawn-….scope" →
+// "app-org.gnome.Terminal.slice", "app.slice", ….
+[[nodiscard]] std::vector<std::string> enclosing(std::string_view cgroup);
+
+// The app unit a cgroup component names: "app-flatpak-org.mozilla.firefox-12345.scope",
 // "snap.firefox.firefox-<uuid>.scope", "app-gnome-org.gnome.Terminal-4376.scope",
-// "app-org.kde.konsole@autostart.service", "dbus-:1.2-org.gnome.Terminal@0.service".
-// Nothing for anything else (services, session scopes, vte-spawn scopes).
+// "app-org.kde.konsole@autostart.service", an app's slice "app-org.gnome.Terminal.slice",
+// D-Bus activation's "app-dbus-:1.37-org.a11y.atspi.Registry.slice".
+// Nothing for anything else (services, session scopes, vte-spawn scopes, app.slice).
 [[nodiscard]] std::optional<AppUnit> appUnit(std::string_view leaf);
 
 } // namespace vexel::CgroupLeaf

@@ -52,16 +52,16 @@ DesktopIndex::DesktopIndex(
     for (const auto& folder : folders)
         scan(folder, "", resolve);
     for (const auto& [id, app] : m_apps) {
-        if (app.entry.hidden || !app.program || isWrapper(*app.program))
+        // A terminal program (vim, htop) belongs to the terminal that shows it,
+        // so its entry claims no executable.
+        if (app.entry.hidden || app.entry.terminal || !app.program || isWrapper(*app.program))
             continue;
         m_idByProgram.try_emplace(*app.program, id);
         // Distributions often start an app through a script in /usr/bin that runs
         // the real program elsewhere; the entry's id or window class still names it.
-        if (!app.entry.terminal) {
-            m_idByName.try_emplace(lowerCase(id), id);
-            if (!app.entry.wmClass.empty())
-                m_idByName.try_emplace(lowerCase(app.entry.wmClass), id);
-        }
+        m_idByName.try_emplace(lowerCase(id), id);
+        if (!app.entry.wmClass.empty())
+            m_idByName.try_emplace(lowerCase(app.entry.wmClass), id);
         const std::string root = folderOf(*app.program);
         if (std::find(m_shared.begin(), m_shared.end(), root) == m_shared.end())
             m_roots.emplace_back(root, id);

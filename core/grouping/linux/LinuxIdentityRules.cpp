@@ -99,29 +99,73 @@ Identity LinuxIdentityRules::desktopApp(const DesktopIndex::App& app) const
         "app:" + app.id, name.value_or(app.entry.name.empty() ? app.id : app.entry.name), AppKind::app, app.file};
 }
 
-std::optional<Identity> LinuxIdentityRules::fromUnit(const ProcRecord& record) const
+std::optional<Identity> LinuxIdentityRules::fromUnit(const CgroupLeaf::AppUnit& unit) const
 {
-    if (!record.cgroup)
-        return std::nullopt;
-    const auto unit = CgroupLeaf::appUnit(CgroupLeaf::leaf(*record.cgroup));
-    if (!unit)
-        return std::nullopt;
     using Kind = CgroupLeaf::AppUnit::Kind;
-    if (unit->kind == Kind::flatpak) {
-        const auto* app = m_index->byId(unit->id);
-        Identity identity = app != nullptr ? desktopApp(*app) : Identity{"", unit->id, AppKind::app, std::nullopt};
-        identity.key = "app:flatpak:" + unit->id;
+    if (unit.kind == Kind::flatpak) {
+        const auto* app = m_index->byId(unit.id);
+        Identity identity = app != nullptr ? desktopApp(*app) : Identity{"", unit.id, AppKind::app, std::nullopt};
+        identity.key = "app:flatpak:" + unit.id;
         return identity;
     }
-    if (unit->kind == Kind::snap)
+    if (unit.kind == Kind::snap)
         return std::nullopt; // named below, from the snap's desktop file
-    for (const auto& id : {unit->id, unit->launcherlessId}) {
+    for (const auto& id : {unit.id, unit.launcherlessId}) {
         const auto* app = m_index->byId(id);
         // A terminal-based app's processes belong to the terminal that shows them.
         if (app != nullptr && !app->entry.terminal)
             return desktopApp(*app);
     }
     return std::nullopt;
+}
+
+std::optional<Identity> LinuxIdentityRules::fromLeafUnit(const ProcRecord& record) const
+{
+    if (!record.cgroup)
+        return std::nullopt;
+    const auto unit = CgroupLeaf::appUnit(CgroupLeaf::leaf(*record.cgroup));
+    return unit ? fromUnit(*unit) : std::nullopt;
+}
+
+std::optional<Identity> LinuxIdentityRules::fromEnclosingUnit(const ProcRecord& record) const
+{
+    // GNOME Terminal's server and its tabs' vte-spawn scopes sit in the slice
+    // app-org.gnome.Terminal.slice; Konsole's tabs in tab(<pid>).scope inside
+    // its app scope. The nearest app unit around the leaf names the app.
+    if (!record.cgroup)
+        return std::nullopt;
+    for (const auto& component : CgroupLeaf::enclosing(*record.cgroup)) {
+        if (const auto unit = CgroupLeaf::appUnit(component))
+            if (auto identity = fromUnit(*unit))
+                return identity;
+    }
+    return std::nullopt;
+}
+
+std::optional<Identity> LinuxIdentityRules::fromSnap(const ProcRecord& record) const
+{
+    // The scope names the snap and the app ("snap.slack.slack-<uuid>.scope");
+    // a program under /snap/<name>/ names only the snap.
+    const auto unit = record.cgroup ? CgroupLeaf::appUnit(CgroupLeaf::leaf(*record.cgroup)) : std::nullopt;
+    std::optional<std::string> snap;
+    std::string appName;
+    if (unit && unit->kind == CgroupLeaf::AppUnit::Kind::snap) {
+        snap = unit->id;
+        appName = unit->snapApp;
+    } else if (record.path) {
+        snap = snapName(*record.path);
+    }
+    if (!snap)
+        return std::nullopt;
+    Identity identity{"app:snap:" + *snap, *snap, AppKind::app, std::nullopt};
+    const auto* app = m_index->byId(*snap + "_" + (appName.empty() ? *snap : appName));
+    if (app == nullptr && !appName.empty())
+        app = m_index->byId(*snap + "_" + *snap);
+    if (app != nullptr) {
+        identity.name = desktopApp(*app).name;
+        identity.path = app->file;
+    }
+    return identity;
 }
 
 std::optional<Identity> LinuxIdentityRules::fromInstall(const std::string& executable) const
@@ -145,30 +189,26 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
     if (record.path)
         if (auto family = familyByName(Files::baseName(*record.path)))
             return system(*family);
-    if (auto unit = fromUnit(record))
+    if (auto unit = fromLeafUnit(record))
         return *unit;
-    const auto leafName = record.cgroup ? CgroupLeaf::leaf(*record.cgroup) : std::string();
-    const auto unit = CgroupLeaf::appUnit(leafName);
-    const auto snap = unit && unit->kind == CgroupLeaf::AppUnit::Kind::snap
-        ? std::optional(unit->id)
-        : (record.path ? snapName(*record.path) : std::nullopt);
-    if (snap) {
-        Identity identity{"app:snap:" + *snap, *snap, AppKind::app, std::nullopt};
-        if (const auto* app = m_index->byId(*snap + "_" + *snap)) {
-            identity.name = desktopApp(*app).name;
-            identity.path = app->file;
-        }
-        return identity;
-    }
-    if (!record.path)
+    if (auto snap = fromSnap(record))
+        return *snap;
+    if (!record.path) {
+        if (auto enclosing = fromEnclosingUnit(record))
+            return *enclosing;
         return isSystemOwned(record) ? AppIdentity::services(Platform::linux) : tool(record);
+    }
     const std::string& path = *record.path;
     if (const auto mount = appImageMount(path)) {
         std::string name = Files::baseName(path);
         return Identity{"app:" + *mount, name, AppKind::app, *mount};
     }
+    // A program of its own (VS Code started from a terminal tab) keeps its
+    // name; anything else in an app's slice or scope is that app's.
     if (auto installed = fromInstall(path))
         return *installed;
+    if (auto enclosing = fromEnclosingUnit(record))
+        return *enclosing;
     for (const auto folder : systemFolders) {
         if (path.starts_with(folder))
             return AppIdentity::services(Platform::linux);

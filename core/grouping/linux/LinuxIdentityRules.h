@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grouping/AppIdentity.h"
+#include "grouping/linux/CgroupLeaf.h"
 #include "grouping/linux/DesktopIndex.h"
 
 #include <memory>
@@ -26,7 +27,10 @@ public:
     [[nodiscard]] static std::optional<std::string> familyByName(std::string_view name);
 
 private:
-    [[nodiscard]] std::optional<Identity> fromUnit(const ProcRecord& record) const;
+    [[nodiscard]] std::optional<Identity> fromUnit(const CgroupLeaf::AppUnit& unit) const;
+    [[nodiscard]] std::optional<Identity> fromLeafUnit(const ProcRecord& record) const;
+    [[nodiscard]] std::optional<Identity> fromEnclosingUnit(const ProcRecord& record) const;
+    [[nodiscard]] std::optional<Identity> fromSnap(const ProcRecord& record) const;
     [[nodiscard]] std::optional<Identity> fromInstall(const std::string& executable) const;
     [[nodiscard]] Identity desktopApp(const DesktopIndex::App& app) const;
     [[nodiscard]] bool isSystemOwned(const ProcRecord& record) const;
