@@ -10,6 +10,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const auto text = fuzzText(data, size);
     if (const auto entry = vexel::DesktopEntry::parse(text))
         require(!entry->name.empty());
+    if (const auto entry = vexel::DesktopEntry::parse(text, "sr_RS.UTF-8@latin"))
+        require(!entry->name.empty());
+    for (const auto& key : vexel::DesktopEntry::localeKeys(text))
+        require(!key.empty() && key.size() <= size);
     const auto leaf = vexel::CgroupLeaf::leaf(text);
     require(leaf.size() <= size);
     if (const auto unit = vexel::CgroupLeaf::appUnit(leaf)) {

@@ -3,6 +3,7 @@
 #include "grouping/linux/DesktopEntry.h"
 #include "io/Files.h"
 #include "monitor/PlistReader.h"
+#include "platform/Environment.h"
 
 namespace vexel {
 
@@ -12,7 +13,7 @@ std::optional<std::string> readName(const std::string& path)
 {
     if (path.ends_with(".desktop")) {
         const auto text = Files::read(path, 256 * 1024);
-        const auto entry = text ? DesktopEntry::parse(*text) : std::nullopt;
+        const auto entry = text ? DesktopEntry::parse(*text, messagesLocale()) : std::nullopt;
         return entry ? std::optional(entry->name) : std::nullopt;
     }
     const auto plist = Files::read(path + "/Contents/Info.plist", 1024 * 1024);

@@ -28,4 +28,18 @@ std::string homeFolder(const std::function<std::optional<std::string>(const char
     return "/";
 }
 
+std::string messagesLocale(const std::function<std::optional<std::string>(const char*)>& getenv)
+{
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (auto value = getenv(name); value && !value->empty())
+            return *value;
+    }
+    return {};
+}
+
+std::string messagesLocale()
+{
+    return messagesLocale(environmentVariable);
+}
+
 } // namespace vexel

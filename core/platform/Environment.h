@@ -14,4 +14,9 @@ namespace vexel {
 // The same from this process's environment.
 [[nodiscard]] std::string homeFolder();
 
+// The locale the user reads messages in: the first non-empty of LC_ALL,
+// LC_MESSAGES and LANG ("de_DE.UTF-8"); empty when none is set.
+[[nodiscard]] std::string messagesLocale(const std::function<std::optional<std::string>(const char*)>& getenv);
+[[nodiscard]] std::string messagesLocale();
+
 } // namespace vexel

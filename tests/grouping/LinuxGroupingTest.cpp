@@ -2,7 +2,9 @@
 #include "grouping/linux/CgroupLeaf.h"
 #include "grouping/linux/LinuxIdentityRules.h"
 #include "grouping/linux/ProgramPaths.h"
+#include "io/Files.h"
 #include "monitor/BundleNames.h"
+#include "platform/Environment.h"
 #include "support/Golden.h"
 #include "support/ProcessTable.h"
 
@@ -94,6 +96,25 @@ TEST(DesktopEntry, ParsesApplicationsOnly)
     EXPECT_FALSE(DesktopEntry::parse("[Desktop Entry]\nType=Application\n"));
     EXPECT_FALSE(DesktopEntry::parse("Type=Application\nName=outside any group\n"));
     EXPECT_EQ(DesktopEntry::programOf("%U"), "");
+}
+
+TEST(DesktopEntry, TheNameInTheUsersLanguage)
+{
+    const auto text = Files::read(trees + "/applications/org.gnome.Nautilus.desktop").value_or("");
+    const auto nameIn = [&](std::string_view locale) { return DesktopEntry::parse(text, locale)->name; };
+    EXPECT_EQ(nameIn("de_DE.UTF-8"), "Dateien"); // the language without its country
+    EXPECT_EQ(nameIn("pt_BR.UTF-8"), "Arquivos"); // the country's own before the language's
+    EXPECT_EQ(nameIn("pt_PT"), "Ficheiros");
+    EXPECT_EQ(nameIn("sr_RS.UTF-8@latin"), "Datoteke");
+    EXPECT_EQ(nameIn("ja_JP.UTF-8"), "Files"); // no translation
+    EXPECT_EQ(nameIn("C.UTF-8"), "Files");
+    EXPECT_EQ(nameIn(""), "Files");
+    EXPECT_EQ(DesktopEntry::localeKeys("sr_RS.UTF-8@latin"),
+        (std::vector<std::string>{"sr_RS@latin", "sr_RS", "sr@latin", "sr"}));
+    EXPECT_EQ(messagesLocale([](const char* name) -> std::optional<std::string> {
+        return std::string(name) == "LANG" ? std::optional<std::string>("fr_FR.UTF-8") : std::nullopt;
+    }),
+        "fr_FR.UTF-8");
 }
 
 TEST(DesktopIndexOnFixtures, IdsProgramsAndInstallFolders)

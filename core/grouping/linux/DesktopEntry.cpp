@@ -2,6 +2,7 @@
 
 #include "text/TextScan.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vexel {
@@ -60,8 +61,40 @@ std::string DesktopEntry::programOf(std::string_view exec)
     return {};
 }
 
-std::optional<DesktopEntry> DesktopEntry::parse(std::string_view text)
+std::vector<std::string> DesktopEntry::localeKeys(std::string_view locale)
 {
+    if (const auto dot = locale.find('.'); dot != std::string_view::npos) {
+        const auto at = locale.find('@', dot);
+        std::string withoutEncoding(locale.substr(0, dot));
+        if (at != std::string_view::npos)
+            withoutEncoding += locale.substr(at);
+        return localeKeys(withoutEncoding);
+    }
+    if (locale.empty() || locale == "C" || locale == "POSIX")
+        return {};
+    const auto at = locale.find('@');
+    const auto modifier = at == std::string_view::npos ? std::string_view() : locale.substr(at);
+    const auto languageCountry = locale.substr(0, at);
+    const auto language = languageCountry.substr(0, languageCountry.find('_'));
+    std::vector<std::string> keys;
+    const auto add = [&keys](std::string key) {
+        if (!key.empty() && std::find(keys.begin(), keys.end(), key) == keys.end())
+            keys.push_back(std::move(key));
+    };
+    if (!modifier.empty())
+        add(std::string(languageCountry) + std::string(modifier));
+    add(std::string(languageCountry));
+    if (!modifier.empty())
+        add(std::string(language) + std::string(modifier));
+    add(std::string(language));
+    return keys;
+}
+
+std::optional<DesktopEntry> DesktopEntry::parse(std::string_view text, std::string_view locale)
+{
+    const auto wanted = localeKeys(locale);
+    size_t bestLocalised = wanted.size(); // index in `wanted` of the name taken so far
+    std::string localised;
     DesktopEntry entry;
     bool inGroup = false;
     bool application = false;
@@ -84,6 +117,13 @@ std::optional<DesktopEntry> DesktopEntry::parse(std::string_view text)
         else if (key == "Name") {
             entry.name = std::string(value);
             named = !value.empty();
+        } else if (key.starts_with("Name[") && key.ends_with("]") && !value.empty()) {
+            const auto tag = key.substr(5, key.size() - 6);
+            const auto rank = static_cast<size_t>(std::find(wanted.begin(), wanted.end(), tag) - wanted.begin());
+            if (rank < bestLocalised) {
+                bestLocalised = rank;
+                localised = std::string(value);
+            }
         } else if (key == "Exec")
             entry.program = programOf(value);
         else if (key == "TryExec")
@@ -97,6 +137,8 @@ std::optional<DesktopEntry> DesktopEntry::parse(std::string_view text)
     });
     if (!application || !named)
         return std::nullopt;
+    if (!localised.empty())
+        entry.name = std::move(localised);
     return entry;
 }
 

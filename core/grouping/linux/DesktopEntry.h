@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexel {
 
@@ -18,8 +19,13 @@ struct DesktopEntry {
     bool operator==(const DesktopEntry&) const = default;
 
     // The [Desktop Entry] group of a Type=Application file; nothing for other
-    // types, a missing group or a missing Name.
-    [[nodiscard]] static std::optional<DesktopEntry> parse(std::string_view text);
+    // types, a missing group or a missing Name. The name is the one for
+    // `locale` ("de_DE.UTF-8"): Name[de_DE], then Name[de], else Name.
+    [[nodiscard]] static std::optional<DesktopEntry> parse(std::string_view text, std::string_view locale = {});
+
+    // The Name[…] keys that suit a locale, best first: "sr_RS.UTF-8@latin" gives
+    // "sr_RS@latin", "sr_RS", "sr@latin", "sr". None for C and POSIX.
+    [[nodiscard]] static std::vector<std::string> localeKeys(std::string_view locale);
 
     // The program of an Exec line: quotes removed, `env` and its assignments
     // skipped, field codes (%f %U …) ignored.
