@@ -18,5 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         require(cgroup->size() < size);
     require(vexel::ProcPidFiles::parseExeLink(text).path.size() <= size);
     require(vexel::ProcPidFiles::programName(text).size() <= size);
+    if (const auto app = vexel::ProcPidFiles::parseFlatpakInfo(text))
+        require(!app->empty() && app->size() < size);
+    if (const auto file = vexel::ProcPidFiles::environValue(text, "APPIMAGE"))
+        require(file->size() < size);
     return 0;
 }

@@ -28,6 +28,11 @@ struct ProcRecord {
     // a kernel thread. Both help to name the app a process belongs to.
     std::optional<std::string> cgroup;
     bool kernelThread = false;
+    // What a sandboxed or portable program says of itself, for the user's own
+    // processes: a Flatpak's app id (its sandbox's .flatpak-info) and the
+    // AppImage file it runs from (APPIMAGE in its environment).
+    std::optional<std::string> flatpakApp;
+    std::optional<std::string> appImage;
 
     bool operator==(const ProcRecord&) const = default;
 };

@@ -247,8 +247,42 @@ TEST_F(GnomeSession, SandboxedAndPortableApps)
     EXPECT_EQ(m_ids.at(4010).name, "Firefox");
     EXPECT_EQ(keyOf(4100), "app:snap:thunderbird");
     EXPECT_EQ(m_ids.at(4100).name, "Thunderbird Mail");
-    EXPECT_EQ(keyOf(4205), "app:/tmp/.mount_ObsidiK3xYz9");
+    EXPECT_EQ(keyOf(4205), "app:appimage:Obsidi"); // the mount folder's random suffix left out
     EXPECT_EQ(m_ids.at(4205).name, "obsidian");
+}
+
+// What the sandbox or the environment says, where the scope and path do not:
+// a Flatpak started with `flatpak run` from a terminal tab, and an AppImage
+// relaunched into a new mount folder.
+TEST_F(GnomeSession, FlatpakInfoAndTheAppImageFile)
+{
+    const std::string tab = "/user.slice/user-1000.slice/user@1000.service/app.slice/app-org.gnome.Terminal.slice/"
+                            "vte-spawn-393df4de-d554-412a-9e2c-d6c9bdaf0a11.scope";
+    ProcRecord telegram;
+    telegram.pid = 9100;
+    telegram.ppid = 2300;
+    telegram.uid = 1000;
+    telegram.name = "telegram-deskto";
+    telegram.path = "/app/bin/telegram-desktop";
+    telegram.cgroup = tab;
+    telegram.flatpakApp = "org.telegram.desktop";
+    ProcRecord first;
+    first.pid = 9200;
+    first.ppid = 1530;
+    first.uid = 1000;
+    first.name = "obsidian";
+    first.path = "/tmp/.mount_ObsidiK3xYz9/obsidian";
+    first.appImage = "/home/alice/Applications/Obsidian-1.5.3.AppImage";
+    auto relaunched = first;
+    relaunched.pid = 9300;
+    relaunched.path = "/tmp/.mount_Obsidi9qWm2T/obsidian";
+    m_records.insert(m_records.end(), {telegram, first, relaunched});
+    m_ids = AppIdentity::resolve(m_records, m_rules, &m_cache);
+    EXPECT_EQ(keyOf(9100), "app:flatpak:org.telegram.desktop");
+    EXPECT_EQ(m_ids.at(9100).name, "Telegram Desktop");
+    EXPECT_EQ(keyOf(9200), "app:/home/alice/Applications/Obsidian-1.5.3.AppImage");
+    EXPECT_EQ(keyOf(9300), keyOf(9200));
+    EXPECT_EQ(keyOf(4205), "app:appimage:Obsidi"); // without APPIMAGE, the letters of its name
 }
 
 TEST_F(GnomeSession, GroupsOneRowPerApp)

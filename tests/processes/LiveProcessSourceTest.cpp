@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <spawn.h>
+#include <sys/wait.h>
+
 #include <filesystem>
 #include <fstream>
 #include <sys/wait.h>
@@ -129,4 +133,40 @@ TEST(LiveProcessSourceLive, SeesItselfItsChildrenAndAZombie)
     // The start time is stable from reading to reading: the key must not drift.
     const auto again = source.snapshot(ProcessScope::own);
     EXPECT_EQ(ProcKey::of(*byPid(again, ::getpid())), ProcKey::of(*self));
+}
+
+// An AppImage's program runs from a fresh /tmp/.mount_<letters><random>
+// folder each launch; the file it came from is in its environment.
+TEST(LiveProcessSourceLive, AnAppImagesFileFromItsEnvironment)
+{
+    const fs::path mount = fs::path("/tmp") / (".mount_Vexel" + std::to_string(::getpid() % 1000000));
+    fs::create_directories(mount);
+    struct Remove {
+        fs::path folder;
+        ~Remove() { fs::remove_all(folder); }
+    } const removal{mount};
+    fs::copy_file("/bin/sleep", mount / "sleep");
+    const std::string image = "APPIMAGE=/home/alice/Applications/Vexel-Test.AppImage";
+    const std::string program = (mount / "sleep").string();
+    char* argv[] = {const_cast<char*>(program.c_str()), const_cast<char*>("30"), nullptr};
+    char* envp[] = {const_cast<char*>("PATH=/usr/bin:/bin"), const_cast<char*>(image.c_str()), nullptr};
+    pid_t pid = 0;
+    ASSERT_EQ(::posix_spawn(&pid, program.c_str(), nullptr, nullptr, argv, envp), 0);
+    struct Stop {
+        pid_t pid;
+        ~Stop()
+        {
+            ::kill(pid, SIGKILL);
+            ::waitpid(pid, nullptr, 0);
+        }
+    } const stop{pid};
+    // glibc's posix_spawn returns once the child has run the program.
+    LiveProcessSource source;
+    const auto records = source.snapshot(ProcessScope::own);
+    const ProcRecord* found = byPid(records, pid);
+    ASSERT_NE(found, nullptr);
+    ASSERT_EQ(found->path, program);
+    EXPECT_EQ(found->appImage, "/home/alice/Applications/Vexel-Test.AppImage");
+    EXPECT_FALSE(found->flatpakApp);
+    EXPECT_FALSE(byPid(records, ::getpid())->appImage); // not an AppImage's
 }

@@ -94,3 +94,23 @@ TEST(ProcPidFiles, ExeLinksThatAreNoFile)
     EXPECT_EQ(ProcPidFiles::programName(""), "");
     EXPECT_EQ(ProcPidFiles::programName("dir/"), "");
 }
+
+TEST(ProcPidFiles, FlatpakInfoAndEnviron)
+{
+    // The keyfile flatpak writes at the sandbox's root (flatpak-metadata(5)).
+    const std::string info = "[Application]\nname=org.telegram.desktop\nruntime=runtime/org.kde.Platform/x86_64/"
+                             "5.15-23.08\n\n[Instance]\ninstance-id=1295026887\nbranch=stable\narch=x86_64\n";
+    EXPECT_EQ(ProcPidFiles::parseFlatpakInfo(info), "org.telegram.desktop");
+    EXPECT_FALSE(ProcPidFiles::parseFlatpakInfo("[Instance]\nname=not-the-app\n"));
+    EXPECT_FALSE(ProcPidFiles::parseFlatpakInfo("[Application]\nname=\n"));
+    EXPECT_FALSE(ProcPidFiles::parseFlatpakInfo(""));
+
+    const std::string variables("HOME=/home/alice\0APPDIR=/tmp/.mount_ObsidiK3xYz9\0APPIMAGE=/home/alice/"
+                              "Applications/Obsidian-1.5.3.AppImage\0ARGV0=./Obsidian-1.5.3.AppImage\0",
+        139);
+    EXPECT_EQ(ProcPidFiles::environValue(variables, "APPIMAGE"), "/home/alice/Applications/Obsidian-1.5.3.AppImage");
+    EXPECT_EQ(ProcPidFiles::environValue(variables, "HOME"), "/home/alice");
+    EXPECT_FALSE(ProcPidFiles::environValue(variables, "APP"));
+    EXPECT_FALSE(ProcPidFiles::environValue("APPIMAGE", "APPIMAGE"));
+    EXPECT_FALSE(ProcPidFiles::environValue("", "APPIMAGE"));
+}

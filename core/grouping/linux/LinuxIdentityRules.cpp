@@ -168,6 +168,19 @@ std::optional<Identity> LinuxIdentityRules::fromSnap(const ProcRecord& record) c
     return identity;
 }
 
+Identity LinuxIdentityRules::appImage(const ProcRecord& record, const std::string& mount)
+{
+    // The runtime mounts the image at /tmp/.mount_ + six letters of the file's
+    // name + six random characters: a new folder every launch. The file, which
+    // its environment names, is what stays; else the letters do.
+    const std::string name = Files::baseName(*record.path);
+    if (record.appImage)
+        return Identity{"app:" + *record.appImage, name, AppKind::app, *record.appImage};
+    const std::string folder = Files::baseName(mount).substr(std::string_view(".mount_").size());
+    const std::string letters = folder.size() > 6 ? folder.substr(0, folder.size() - 6) : folder;
+    return Identity{"app:appimage:" + letters, name, AppKind::app, mount};
+}
+
 std::optional<Identity> LinuxIdentityRules::fromInstall(const std::string& executable) const
 {
     if (const auto* app = m_index->byExecutable(executable))
@@ -191,6 +204,9 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
             return system(*family);
     if (auto unit = fromLeafUnit(record))
         return *unit;
+    // A Flatpak started outside its own scope (`flatpak run` in a terminal).
+    if (record.flatpakApp)
+        return *fromUnit({CgroupLeaf::AppUnit::Kind::flatpak, *record.flatpakApp, *record.flatpakApp, {}});
     if (auto snap = fromSnap(record))
         return *snap;
     if (!record.path) {
@@ -199,10 +215,8 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
         return isSystemOwned(record) ? AppIdentity::services(Platform::linux) : tool(record);
     }
     const std::string& path = *record.path;
-    if (const auto mount = appImageMount(path)) {
-        std::string name = Files::baseName(path);
-        return Identity{"app:" + *mount, name, AppKind::app, *mount};
-    }
+    if (const auto mount = appImageMount(path))
+        return appImage(record, *mount);
     // A program of its own (VS Code started from a terminal tab) keeps its
     // name; anything else in an app's slice or scope is that app's.
     if (auto installed = fromInstall(path))
@@ -227,6 +241,10 @@ void LinuxIdentityRules::cacheKey(const ProcRecord& record, std::string& key) co
     key += record.path.value_or("");
     key += '\x1f';
     key += record.cgroup.value_or("");
+    key += '\x1f';
+    key += record.flatpakApp.value_or("");
+    key += '\x1f';
+    key += record.appImage.value_or("");
     key += '\x1f';
     key += record.kernelThread ? 'k' : (record.uid < m_uidMin ? 's' : 'u');
 }

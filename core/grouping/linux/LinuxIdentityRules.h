@@ -31,6 +31,7 @@ private:
     [[nodiscard]] std::optional<Identity> fromLeafUnit(const ProcRecord& record) const;
     [[nodiscard]] std::optional<Identity> fromEnclosingUnit(const ProcRecord& record) const;
     [[nodiscard]] std::optional<Identity> fromSnap(const ProcRecord& record) const;
+    [[nodiscard]] static Identity appImage(const ProcRecord& record, const std::string& mount);
     [[nodiscard]] std::optional<Identity> fromInstall(const std::string& executable) const;
     [[nodiscard]] Identity desktopApp(const DesktopIndex::App& app) const;
     [[nodiscard]] bool isSystemOwned(const ProcRecord& record) const;

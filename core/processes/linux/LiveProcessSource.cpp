@@ -108,6 +108,23 @@ void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, 
         // Replaced on disk (an upgrade) is still that program; removed is no path at all.
         known.path = link->path;
     }
+    learnPackage(folder, known);
+}
+
+void LiveProcessSource::learnPackage(const std::string& folder, Known& known)
+{
+    known.flatpakApp.reset();
+    known.appImage.reset();
+    if (!known.path)
+        return;
+    // A Flatpak's programs live under /app inside its sandbox, whose root
+    // names the app; an AppImage runs from a mount folder with a random
+    // suffix, and its environment names the file it came from.
+    if (known.path->starts_with("/app/") && Files::readInto(fileOf(folder, "root/.flatpak-info"), m_buffer, 64 * 1024))
+        known.flatpakApp = ProcPidFiles::parseFlatpakInfo(m_buffer);
+    else if (known.path->starts_with("/tmp/.mount_")
+        && Files::readInto(fileOf(folder, "environ"), m_buffer, 1024 * 1024))
+        known.appImage = ProcPidFiles::environValue(m_buffer, "APPIMAGE");
 }
 
 void LiveProcessSource::measure(const std::string& folder, Known& known, bool own, bool swapping)
@@ -181,6 +198,8 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
         record.uid = known.uid;
         record.kernelThread = known.kernelThread;
         record.cgroup = known.cgroup;
+        record.flatpakApp = known.flatpakApp;
+        record.appImage = known.appImage;
         if (!record.zombie)
             record.path = known.path;
         const bool own = known.uid == m_myUID;

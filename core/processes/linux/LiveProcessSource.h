@@ -38,6 +38,8 @@ private:
         std::optional<std::string> path;
         std::optional<std::string> name; // the program's own name, where comm does not give it
         std::optional<std::string> cgroup;
+        std::optional<std::string> flatpakApp;
+        std::optional<std::string> appImage;
         uint64_t ticks = 0; // utime + stime at the last full reading
         uint64_t anonBytes = 0; // resident anonymous memory
         uint64_t swapBytes = 0;
@@ -48,6 +50,7 @@ private:
     };
 
     void learnSlowFacts(const std::string& folder, Known& known, const std::string& comm);
+    void learnPackage(const std::string& folder, Known& known);
     void measure(const std::string& folder, Known& known, bool own, bool swapping);
     [[nodiscard]] bool machineSwaps();
     // "<folder>/<name>" in a buffer reused for every file of every process.

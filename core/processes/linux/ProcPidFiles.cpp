@@ -152,4 +152,40 @@ std::string programName(std::string_view cmdline)
     return std::string(slash == std::string_view::npos ? argv0 : argv0.substr(slash + 1));
 }
 
+std::optional<std::string> parseFlatpakInfo(std::string_view text)
+{
+    std::optional<std::string> name;
+    bool inApplication = false;
+    TextScan::forEachLine(text, [&](std::string_view line) {
+        line = TextScan::trim(line);
+        if (line.starts_with('[')) {
+            inApplication = line == "[Application]";
+            return;
+        }
+        const auto equals = line.find('=');
+        if (inApplication && !name && equals != std::string_view::npos
+            && TextScan::trim(line.substr(0, equals)) == "name") {
+            const auto value = TextScan::trim(line.substr(equals + 1));
+            if (!value.empty())
+                name = std::string(value);
+        }
+    });
+    return name;
+}
+
+std::optional<std::string> environValue(std::string_view variables, std::string_view name)
+{
+    size_t start = 0;
+    while (start < variables.size()) {
+        auto end = variables.find('\0', start);
+        if (end == std::string_view::npos)
+            end = variables.size();
+        const auto entry = variables.substr(start, end - start);
+        if (entry.size() > name.size() && entry.starts_with(name) && entry[name.size()] == '=')
+            return std::string(entry.substr(name.size() + 1));
+        start = end + 1;
+    }
+    return std::nullopt;
+}
+
 } // namespace vexel::ProcPidFiles

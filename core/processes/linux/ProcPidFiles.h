@@ -75,4 +75,10 @@ struct ExeLink {
 // "line_io_tools/binary_backend\0--uid\0…" → "binary_backend"; empty when there is none.
 [[nodiscard]] std::string programName(std::string_view cmdline);
 
+// The app id of a Flatpak sandbox's /.flatpak-info: `name` in [Application].
+[[nodiscard]] std::optional<std::string> parseFlatpakInfo(std::string_view text);
+
+// A variable of /proc/<pid>/environ (NUL-separated NAME=value); nothing when unset or empty.
+[[nodiscard]] std::optional<std::string> environValue(std::string_view variables, std::string_view name);
+
 } // namespace vexel::ProcPidFiles
