@@ -106,7 +106,7 @@ TEST(ProcPidFiles, FlatpakInfoAndEnviron)
     EXPECT_FALSE(ProcPidFiles::parseFlatpakInfo(""));
 
     const std::string variables("HOME=/home/alice\0APPDIR=/tmp/.mount_ObsidiK3xYz9\0APPIMAGE=/home/alice/"
-                              "Applications/Obsidian-1.5.3.AppImage\0ARGV0=./Obsidian-1.5.3.AppImage\0",
+                                "Applications/Obsidian-1.5.3.AppImage\0ARGV0=./Obsidian-1.5.3.AppImage\0",
         139);
     EXPECT_EQ(ProcPidFiles::environValue(variables, "APPIMAGE"), "/home/alice/Applications/Obsidian-1.5.3.AppImage");
     EXPECT_EQ(ProcPidFiles::environValue(variables, "HOME"), "/home/alice");
