@@ -44,6 +44,8 @@ std::string appsText(const json& report)
         lines.push_back(appLine(app));
     lines.push_back(cformat("%.0f processes in %.0f apps. CPU is %% of one core.",
         value<double>(report, "process_count").value_or(0), value<double>(report, "app_count").value_or(0)));
+    if (const auto note = value<std::string>(report, "processes_note"))
+        lines.push_back("Note: " + *note + ".");
     return TextColumns::joinLines(lines);
 }
 

@@ -22,6 +22,10 @@ public:
 
     // The process's current working folder; nothing when it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> cwd(int32_t pid) = 0;
+
+    // Whether the system keeps other users' processes out of the list (Linux's
+    // /proc mounted with hidepid), so that the list is the user's own only.
+    [[nodiscard]] virtual bool othersHidden() const { return false; }
 };
 
 } // namespace vexel

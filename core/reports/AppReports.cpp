@@ -31,6 +31,11 @@ json processRow(const ProcRow& row)
         {"memory_bytes", row.memory}, {"zombie", row.zombie}, {"readable", row.readable}};
 }
 
+// /proc mounted with hidepid: other users' processes are out of sight, so
+// every figure covers the user's own.
+constexpr const char* hiddenProcessesNote
+    = "other users' processes hidden: /proc is mounted with hidepid, so only your own are counted";
+
 } // namespace
 
 json VexelService::appRow(const AppGroup& group, int cores)
@@ -64,8 +69,11 @@ json VexelService::topApps(AppSort sort, long long limit)
     json apps = json::array();
     for (size_t i = 0; i < groups.size() && i < keep; ++i)
         apps.push_back(appRow(*groups[i], static_cast<int>(now.system.cpu.cores.size())));
-    return {{"sort", rawValue(sort)}, {"process_count", now.records.size()}, {"app_count", now.apps.size()},
+    json report = {{"sort", rawValue(sort)}, {"process_count", now.records.size()}, {"app_count", now.apps.size()},
         {"apps", apps}};
+    if (monitor().processes().othersHidden())
+        report["processes_note"] = hiddenProcessesNote;
+    return report;
 }
 
 json VexelService::appDetail(const std::string& name)

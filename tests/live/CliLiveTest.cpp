@@ -14,7 +14,11 @@
 #include <cmath>
 #include <ctime>
 #include <fstream>
+#include <grp.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace vexel;
@@ -304,4 +308,65 @@ TEST(CliLive, ASessionSendsNoSignalAndWritesNoFile)
             EXPECT_EQ(std::count(result.out.begin(), result.out.end(), '\n'), id + 1);
         }
     }
+}
+
+namespace {
+
+// `vexel top --json` as the user nobody, in a mount namespace of its own
+// whose /proc is a fresh instance mounted with `procOptions`. Runs in a forked
+// child; its standard output comes back.
+std::string topAsNobodyWithProc(const std::filesystem::path& data, const char* procOptions)
+{
+    int output[2];
+    if (::pipe(output) != 0)
+        return {};
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(output[1], 1);
+        ::close(output[0]);
+        constexpr uid_t nobody = 65534;
+        const bool ready = ::unshare(CLONE_NEWNS) == 0
+            && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
+            && ::mount("proc", "/proc", "proc", 0, procOptions) == 0 && ::setgroups(0, nullptr) == 0
+            && ::setgid(nobody) == 0 && ::setuid(nobody) == 0;
+        if (!ready)
+            ::_exit(125);
+        const std::string dataVariable = "VEXEL_DATA_DIR=" + data.string();
+        char* argv[]
+            = {const_cast<char*>(vexelBinary.c_str()), const_cast<char*>("top"), const_cast<char*>("--json"), nullptr};
+        char* envp[] = {const_cast<char*>(dataVariable.c_str()), const_cast<char*>("HOME=/nonexistent"), nullptr};
+        ::execve(argv[0], argv, envp);
+        ::_exit(126);
+    }
+    ::close(output[1]);
+    std::string text;
+    char chunk[4096];
+    for (ssize_t got; (got = ::read(output[0], chunk, sizeof chunk)) > 0;)
+        text.append(chunk, static_cast<size_t>(got));
+    ::close(output[0]);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
+    return text;
+}
+
+} // namespace
+
+// With /proc mounted hidepid, other users' processes are not there to count:
+// the report says so instead of passing the user's own for the machine's.
+TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to mount /proc in a namespace of its own; CI runs as root";
+    TempFolder data("vexel-live");
+    std::filesystem::permissions(data.path(), std::filesystem::perms::all);
+    const json hidden = json::parse(topAsNobodyWithProc(data.path(), "hidepid=invisible"), nullptr, false);
+    ASSERT_TRUE(hidden.is_object()) << hidden;
+    EXPECT_EQ(hidden["processes_note"],
+        "other users' processes hidden: /proc is mounted with hidepid, so only your own are counted");
+    EXPECT_LT(hidden["process_count"].get<int>(), 10); // nobody runs only this vexel
+    const json plain = json::parse(topAsNobodyWithProc(data.path(), ""), nullptr, false);
+    ASSERT_TRUE(plain.is_object()) << plain;
+    EXPECT_FALSE(plain.contains("processes_note"));
+    EXPECT_GT(plain["process_count"].get<int>(), hidden["process_count"].get<int>());
 }

@@ -114,3 +114,20 @@ TEST(ProcPidFiles, FlatpakInfoAndEnviron)
     EXPECT_FALSE(ProcPidFiles::environValue("APPIMAGE", "APPIMAGE"));
     EXPECT_FALSE(ProcPidFiles::environValue("", "APPIMAGE"));
 }
+
+TEST(ProcPidFiles, ProcMountsThatHideOtherUsers)
+{
+    // /proc as this VM mounts it, then proc instances mounted here with the options.
+    const std::string plain = "21 26 0:20 / /proc rw,relatime - proc proc rw\n";
+    EXPECT_FALSE(ProcPidFiles::procHidesOthers(plain));
+    EXPECT_TRUE(ProcPidFiles::procHidesOthers(
+        "41 26 0:38 / /tmp/hp rw,relatime - proc proc rw,hidepid=invisible\n", "/tmp/hp"));
+    EXPECT_TRUE(
+        ProcPidFiles::procHidesOthers("41 26 0:38 / /tmp/hp rw,relatime - proc proc rw,subset=pid\n", "/tmp/hp"));
+    EXPECT_TRUE(
+        ProcPidFiles::procHidesOthers(plain + "52 21 0:41 / /proc rw,relatime - proc proc rw,hidepid=noaccess\n"));
+    EXPECT_FALSE(ProcPidFiles::procHidesOthers("52 21 0:41 / /proc rw,relatime - proc proc rw,hidepid=off\n"));
+    EXPECT_FALSE(ProcPidFiles::procHidesOthers("41 26 0:38 / /tmp/hp rw - proc proc rw,hidepid=invisible\n"));
+    EXPECT_FALSE(ProcPidFiles::procHidesOthers("52 21 0:41 / /proc rw - tmpfs tmpfs rw,hidepid=2\n"));
+    EXPECT_FALSE(ProcPidFiles::procHidesOthers(""));
+}

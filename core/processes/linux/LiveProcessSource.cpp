@@ -72,6 +72,10 @@ LiveProcessSource::LiveProcessSource(
     , m_ticksPerSecond(ticksPerSecond > 0 ? static_cast<double>(ticksPerSecond) : 100.0)
     , m_pageSize(pageSize > 0 ? static_cast<uint64_t>(pageSize) : 4096)
 {
+    // Root sees through hidepid; everyone else sees only their own processes.
+    m_othersHidden = m_myUID != 0
+        && ProcPidFiles::procHidesOthers(Files::read(m_proc + "/self/mountinfo", 4 * 1024 * 1024).value_or(""),
+            Files::realPath(m_proc).value_or(m_proc));
 }
 
 bool LiveProcessSource::machineSwaps()

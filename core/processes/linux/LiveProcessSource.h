@@ -24,6 +24,8 @@ public:
     // machine booted (seconds since the epoch), clock ticks per second and page size.
     LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize);
 
+    [[nodiscard]] bool othersHidden() const override { return m_othersHidden; }
+
     [[nodiscard]] std::vector<ProcRecord> snapshot(ProcessScope scope) override;
     [[nodiscard]] std::optional<std::string> cwd(int32_t pid) override;
 
@@ -57,6 +59,7 @@ private:
     [[nodiscard]] const std::string& fileOf(const std::string& folder, const char* name);
 
     std::string m_proc;
+    bool m_othersHidden = false;
     uint32_t m_myUID;
     double m_bootEpoch;
     double m_ticksPerSecond;

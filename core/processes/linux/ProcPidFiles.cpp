@@ -1,5 +1,6 @@
 #include "processes/linux/ProcPidFiles.h"
 
+#include "system/linux/Mountinfo.h"
 #include "text/TextScan.h"
 
 #include <array>
@@ -186,6 +187,30 @@ std::optional<std::string> environValue(std::string_view variables, std::string_
         start = end + 1;
     }
     return std::nullopt;
+}
+
+bool procHidesOthers(std::string_view mountinfo, std::string_view mountPoint)
+{
+    // The last mount at the point is the one in sight.
+    const auto mounts = Mountinfo::parse(mountinfo);
+    for (auto mount = mounts.rbegin(); mount != mounts.rend(); ++mount) {
+        if (mount->mountPoint != mountPoint)
+            continue;
+        if (mount->fsType != "proc")
+            return false;
+        bool hides = false;
+        size_t start = 0;
+        const std::string_view options = mount->superOptions;
+        while (start <= options.size()) {
+            const auto comma = std::min(options.find(',', start), options.size());
+            const auto option = options.substr(start, comma - start);
+            hides = hides || option == "hidepid=1" || option == "hidepid=2" || option == "hidepid=noaccess"
+                || option == "hidepid=invisible" || option == "subset=pid";
+            start = comma + 1;
+        }
+        return hides;
+    }
+    return false;
 }
 
 } // namespace vexel::ProcPidFiles

@@ -81,4 +81,8 @@ struct ExeLink {
 // A variable of /proc/<pid>/environ (NUL-separated NAME=value); nothing when unset or empty.
 [[nodiscard]] std::optional<std::string> environValue(std::string_view variables, std::string_view name);
 
+// Whether the proc mount at `mountPoint` in a mountinfo text hides other
+// users' processes: hidepid=1|2 (shown as noaccess, invisible) or subset=pid.
+[[nodiscard]] bool procHidesOthers(std::string_view mountinfo, std::string_view mountPoint = "/proc");
+
 } // namespace vexel::ProcPidFiles
