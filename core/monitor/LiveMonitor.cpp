@@ -37,7 +37,7 @@ std::unique_ptr<Monitor> Monitor::live()
     sources.system = std::make_shared<LiveSystemReader>();
     sources.ports = liveLinuxPortSource();
     const uint32_t uidMin = LoginDefs::liveUidMin();
-    sources.identities = std::make_shared<LinuxIdentityRules>(liveDesktopIndex(), bundleName, uidMin);
+    sources.identities = std::make_shared<LinuxIdentityRules>(liveDesktopIndexSource(), bundleName, uidMin);
     sources.places = ProgramPlaces::linux(uidMin);
 #else
 #error "Vexel's live sources exist for Linux only so far"

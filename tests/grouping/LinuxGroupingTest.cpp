@@ -1,5 +1,6 @@
 #include "grouping/AppGrouper.h"
 #include "grouping/linux/CgroupLeaf.h"
+#include "grouping/linux/DesktopIndexSource.h"
 #include "grouping/linux/LinuxIdentityRules.h"
 #include "grouping/linux/ProgramPaths.h"
 #include "io/Files.h"
@@ -7,9 +8,12 @@
 #include "platform/Environment.h"
 #include "support/Golden.h"
 #include "support/ProcessTable.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
 #include <set>
 
 using namespace vexel;
@@ -327,4 +331,54 @@ TEST_F(KdeSession, KonsoleWithItsTabsChromeFlatpakAndSnap)
     EXPECT_EQ(keyOf(1470), "sys:File indexing");
     const auto differs = vexel::testing::compareGolden("grouping/kde-session.txt", appList());
     EXPECT_TRUE(differs.empty()) << differs;
+}
+
+// An app installed while Vexel runs is known within seconds, without a restart,
+// and the names given before are not reused for its processes.
+TEST(DesktopIndexSource, AnAppInstalledWhileRunning)
+{
+    const vexel::testing::TempFolder folder("vexel-apps");
+    const std::string applications = (folder.path() / "applications").string();
+    std::filesystem::create_directories(applications);
+    std::filesystem::copy_file(trees + "/applications/debian-xterm.desktop", applications + "/debian-xterm.desktop");
+    double now = 100;
+    const auto build = [&] {
+        return std::make_shared<DesktopIndex>(
+            std::vector<std::string>{applications}, resolveProgram, DesktopIndex::standardSharedFolders("/home/alice"));
+    };
+    auto source = std::make_shared<DesktopIndexSource>(
+        std::vector<std::string>{applications}, build, [&now] { return now; }, 5);
+    LinuxIdentityRules rules(source, nullptr);
+    IdentityCache cache;
+    ProcRecord konsole;
+    konsole.pid = 41769;
+    konsole.ppid = 1;
+    konsole.uid = 1000;
+    konsole.name = "konsole";
+    konsole.path = "/usr/bin/konsole";
+    EXPECT_EQ(AppIdentity::resolve({konsole}, rules, &cache).at(41769).key, "tool:konsole");
+
+    // The package manager adds the entry.
+    std::filesystem::copy_file(
+        trees + "/applications/org.kde.konsole.desktop", applications + "/org.kde.konsole.desktop");
+    std::filesystem::last_write_time(
+        applications, std::filesystem::file_time_type::clock::now() + std::chrono::seconds(1));
+    now += 1; // looked at again only after a few seconds
+    EXPECT_EQ(AppIdentity::resolve({konsole}, rules, &cache).at(41769).key, "tool:konsole");
+    EXPECT_EQ(source->generation(), 0u);
+    now += 5;
+    EXPECT_EQ(AppIdentity::resolve({konsole}, rules, &cache).at(41769).key, "app:org.kde.konsole");
+    EXPECT_EQ(source->generation(), 1u);
+    now += 5; // nothing changed since: no rebuild
+    EXPECT_EQ(source->current()->size(), 2u);
+    EXPECT_EQ(source->generation(), 1u);
+
+    // A folder that appears later (the first Flatpak installed) counts too.
+    const std::string exports = (folder.path() / "exports").string();
+    DesktopIndexSource later(
+        {exports}, build, [&now] { return now; }, 5);
+    std::filesystem::create_directories(exports);
+    now += 5;
+    (void)later.current();
+    EXPECT_EQ(later.generation(), 1u);
 }

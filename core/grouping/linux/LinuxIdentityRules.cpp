@@ -81,6 +81,20 @@ LinuxIdentityRules::LinuxIdentityRules(
 {
 }
 
+LinuxIdentityRules::LinuxIdentityRules(
+    std::shared_ptr<DesktopIndexSource> source, BundleNameFunction desktopName, uint32_t uidMin)
+    : m_index(source->current())
+    , m_source(std::move(source))
+    , m_desktopName(std::move(desktopName))
+    , m_uidMin(uidMin)
+{
+}
+
+const DesktopIndex* LinuxIdentityRules::index() const
+{
+    return m_source ? m_source->last().get() : m_index.get();
+}
+
 std::optional<std::string> LinuxIdentityRules::familyByName(std::string_view name)
 {
     for (const auto& family : families) {
@@ -103,7 +117,7 @@ std::optional<Identity> LinuxIdentityRules::fromUnit(const CgroupLeaf::AppUnit& 
 {
     using Kind = CgroupLeaf::AppUnit::Kind;
     if (unit.kind == Kind::flatpak) {
-        const auto* app = m_index->byId(unit.id);
+        const auto* app = index()->byId(unit.id);
         Identity identity = app != nullptr ? desktopApp(*app) : Identity{"", unit.id, AppKind::app, std::nullopt};
         identity.key = "app:flatpak:" + unit.id;
         return identity;
@@ -111,7 +125,7 @@ std::optional<Identity> LinuxIdentityRules::fromUnit(const CgroupLeaf::AppUnit& 
     if (unit.kind == Kind::snap)
         return std::nullopt; // named below, from the snap's desktop file
     for (const auto& id : {unit.id, unit.launcherlessId}) {
-        const auto* app = m_index->byId(id);
+        const auto* app = index()->byId(id);
         // A terminal-based app's processes belong to the terminal that shows them.
         if (app != nullptr && !app->entry.terminal)
             return desktopApp(*app);
@@ -158,9 +172,9 @@ std::optional<Identity> LinuxIdentityRules::fromSnap(const ProcRecord& record) c
     if (!snap)
         return std::nullopt;
     Identity identity{"app:snap:" + *snap, *snap, AppKind::app, std::nullopt};
-    const auto* app = m_index->byId(*snap + "_" + (appName.empty() ? *snap : appName));
+    const auto* app = index()->byId(*snap + "_" + (appName.empty() ? *snap : appName));
     if (app == nullptr && !appName.empty())
-        app = m_index->byId(*snap + "_" + *snap);
+        app = index()->byId(*snap + "_" + *snap);
     if (app != nullptr) {
         identity.name = desktopApp(*app).name;
         identity.path = app->file;
@@ -183,7 +197,7 @@ Identity LinuxIdentityRules::appImage(const ProcRecord& record, const std::strin
 
 std::optional<Identity> LinuxIdentityRules::fromInstall(const std::string& executable) const
 {
-    if (const auto* app = m_index->byExecutable(executable))
+    if (const auto* app = index()->byExecutable(executable))
         return desktopApp(*app);
     return std::nullopt;
 }
@@ -236,7 +250,13 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
 
 void LinuxIdentityRules::cacheKey(const ProcRecord& record, std::string& key) const
 {
-    key.assign(record.name);
+    // Every process's naming starts here, so the index is brought up to date
+    // here; a rebuilt index may name a process anew, so older names are not reused.
+    if (m_source)
+        (void)m_source->current();
+    key.assign(m_source ? std::to_string(m_source->generation()) : std::string());
+    key += '\x1f';
+    key += record.name;
     key += '\x1f';
     key += record.path.value_or("");
     key += '\x1f';
@@ -262,7 +282,7 @@ bool LinuxIdentityRules::isMainExecutable(const ProcRecord& record, const Identi
 {
     if (!record.path || !identity.key.starts_with("app:"))
         return false;
-    const auto* app = m_index->byId(identity.key.substr(4));
+    const auto* app = index()->byId(identity.key.substr(4));
     return app != nullptr && app->program && *app->program == *record.path;
 }
 

@@ -3,6 +3,7 @@
 #include "grouping/AppIdentity.h"
 #include "grouping/linux/CgroupLeaf.h"
 #include "grouping/linux/DesktopIndex.h"
+#include "grouping/linux/DesktopIndexSource.h"
 
 #include <memory>
 #include <string>
@@ -17,6 +18,9 @@ public:
     // `uidMin` is the first uid of ordinary users (UID_MIN of login.defs).
     LinuxIdentityRules(
         std::shared_ptr<const DesktopIndex> index, BundleNameFunction desktopName, uint32_t uidMin = 1000);
+    // With an index that is rebuilt as apps come and go.
+    LinuxIdentityRules(
+        std::shared_ptr<DesktopIndexSource> source, BundleNameFunction desktopName, uint32_t uidMin = 1000);
 
     [[nodiscard]] Identity base(const ProcRecord& record) const override;
     void cacheKey(const ProcRecord& record, std::string& key) const override;
@@ -36,7 +40,10 @@ private:
     [[nodiscard]] Identity desktopApp(const DesktopIndex::App& app) const;
     [[nodiscard]] bool isSystemOwned(const ProcRecord& record) const;
 
+    [[nodiscard]] const DesktopIndex* index() const;
+
     std::shared_ptr<const DesktopIndex> m_index;
+    std::shared_ptr<DesktopIndexSource> m_source;
     BundleNameFunction m_desktopName;
     uint32_t m_uidMin;
 };
