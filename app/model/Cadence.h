@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Route.h"
+#include "model/TickPlan.h"
+#include "settings/VexelSettings.h"
+
+#include <optional>
+
+namespace vexel {
+
+// How often each reading is taken. The cheap ones come with every tick; the
+// costly ones (other users' processes, per-process network, the socket scan,
+// containers) on slower intervals and only where a visible page needs them,
+// to keep the app light.
+class Cadence {
+public:
+    // Where the user is looking when a tick is planned.
+    struct View {
+        bool windowVisible = false;
+        Route route = Route::overview;
+    };
+
+    // Seconds between ticks: 2 while the window is visible, else the settings' interval.
+    [[nodiscard]] static double tickSeconds(bool windowVisible, const VexelSettings& settings);
+
+    // The plan of a tick at `now`, marking what it schedules as taken then.
+    // `full` (the first tick, a manual refresh, the window opening) makes every
+    // slow reading due at once.
+    [[nodiscard]] TickPlan plan(double now, bool full, View view, const VexelSettings& settings);
+
+private:
+    // Due when never taken or at least `interval` seconds ago; taken now if due.
+    static bool take(std::optional<double>& last, double now, double interval, bool full);
+
+    std::optional<double> m_lastEveryone;
+    std::optional<double> m_lastNetwork;
+    std::optional<double> m_lastPorts;
+    std::optional<double> m_lastDocker;
+    std::optional<double> m_lastCompact;
+};
+
+} // namespace vexel

@@ -1,0 +1,153 @@
+// The model's parts that decide what a tick does: the cadence of readings,
+// the ring of recent readings and the batching of history writes.
+
+#include "model/Cadence.h"
+#include "model/HistoryBatch.h"
+#include "model/RecentRing.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+using namespace vexel;
+
+namespace {
+
+// The times at which each slow reading was planned over ticks from `from` to
+// `to` every `step` seconds, the first tick full, the view at each tick given.
+struct Taken {
+    std::vector<double> everyone, network, ports, docker, compact, totals;
+};
+
+Taken run(Cadence& cadence, double from, double to, double step, const std::function<Cadence::View(double)>& view,
+    const VexelSettings& settings, bool firstFull = true)
+{
+    Taken taken;
+    for (double now = from; now <= to; now += step) {
+        const auto plan = cadence.plan(now, firstFull && now == from, view(now), settings);
+        EXPECT_TRUE(plan.record);
+        const std::pair<bool, std::vector<double>*> fields[]
+            = {{plan.everyone, &taken.everyone}, {plan.network, &taken.network}, {plan.ports, &taken.ports},
+                {plan.docker, &taken.docker}, {plan.compact, &taken.compact}, {plan.totals, &taken.totals}};
+        for (const auto& [due, times] : fields)
+            if (due)
+                times->push_back(now - from);
+    }
+    return taken;
+}
+
+std::vector<double> every(double step, double from, double to)
+{
+    std::vector<double> times;
+    for (double t = from; t <= to; t += step)
+        times.push_back(t);
+    return times;
+}
+
+Frame frameAt(double time, double interval)
+{
+    Frame frame;
+    frame.time = time;
+    frame.interval = interval;
+    frame.system = SystemSnapshot::empty(time);
+    frame.system.cpu.user = 0.25;
+    return frame;
+}
+
+} // namespace
+
+TEST(Cadence, HiddenAtTheSettingsInterval)
+{
+    VexelSettings settings;
+    settings.sampleSeconds = 5;
+    EXPECT_EQ(Cadence::tickSeconds(false, settings), 5);
+    EXPECT_EQ(Cadence::tickSeconds(true, settings), 2);
+    Cadence cadence;
+    const auto hidden = [](double) { return Cadence::View{false, Route::developers}; };
+    const auto taken = run(cadence, 1000, 1600, 5, hidden, settings);
+    EXPECT_EQ(taken.everyone, every(60, 0, 600)); // once a minute
+    EXPECT_EQ(taken.network, every(60, 0, 600));
+    EXPECT_EQ(taken.ports, every(300, 0, 600)); // every five minutes
+    EXPECT_EQ(taken.docker, std::vector<double>{0}); // never but with the first, full, tick
+    EXPECT_EQ(taken.compact, every(60, 0, 600));
+    EXPECT_EQ(taken.totals, taken.compact);
+}
+
+TEST(Cadence, VisibleFollowsThePage)
+{
+    VexelSettings settings;
+    Cadence cadence;
+    // Two minutes on Developers, then Overview, at the visible 2 s ticks.
+    const auto view = [](double now) {
+        return Cadence::View{true, now - 1000 < 120 ? Route::developers : Route::overview};
+    };
+    const auto taken = run(cadence, 1000, 1240, 2, view, settings);
+    EXPECT_EQ(taken.everyone, every(6, 0, 240));
+    std::vector<double> network = every(16, 0, 119); // other pages: every 15 s, on 2 s ticks
+    const auto overview = every(4, 120, 240); // Overview shows per-app network: every 4 s
+    network.insert(network.end(), overview.begin(), overview.end());
+    EXPECT_EQ(taken.network, network);
+    EXPECT_EQ(taken.ports, every(8, 0, 119)); // elsewhere every five minutes: not again in this run
+    EXPECT_EQ(taken.docker, every(16, 0, 119)); // leaving Developers stops containers
+    const auto plan = cadence.plan(2000, true, view(2000), settings);
+    EXPECT_TRUE(plan.everyone && plan.network && plan.ports && plan.docker && plan.compact && plan.totals);
+}
+
+TEST(Cadence, SettingsReachThePlan)
+{
+    VexelSettings settings;
+    settings.retentionDays = 30;
+    settings.maxHistoryMB = 64;
+    settings.idleDays = 0.5;
+    Cadence cadence;
+    const auto plan = cadence.plan(0, true, {}, settings);
+    EXPECT_EQ(plan.retentionDays, 30);
+    EXPECT_EQ(plan.maxBytes, 64'000'000); // decimal megabytes
+    EXPECT_EQ(plan.idleAfter, 43200);
+}
+
+TEST(RecentRing, KeepsTheNewest150AndTheirPeaks)
+{
+    RecentRing ring;
+    EXPECT_FALSE(ring.peak(&RingSample::cpu));
+    for (int i = 0; i < 200; ++i) {
+        auto frame = frameAt(i, 2);
+        frame.system.cpu.user = i == 10 ? 0.99 : (i == 120 ? 0.5 : 0.1);
+        ring.append(RingSample::of(frame));
+    }
+    ASSERT_EQ(ring.samples().size(), 150u);
+    EXPECT_EQ(ring.samples().front().t, 50);
+    EXPECT_EQ(ring.samples().back().t, 199);
+    EXPECT_DOUBLE_EQ(*ring.peak(&RingSample::cpu), 50); // the 99 % reading has left the ring
+    EXPECT_FALSE(ring.peak(&RingSample::gpu)); // no GPU reading in any sample
+}
+
+TEST(HistoryBatch, FramesWaitAMinuteAndOnlyUsableOnesAreKept)
+{
+    const vexel::testing::TempFolder folder("vexel-batch");
+    HistoryStore store(folder.path() / "history.sqlite", HistoryAccess::readWrite);
+    HistoryBatch batch;
+    EXPECT_FALSE(batch.add(frameAt(1000, 0))); // the first frame: no interval
+    EXPECT_FALSE(batch.add(frameAt(1200, 200))); // after a long gap
+    EXPECT_FALSE(batch.add(frameAt(1320, 120)));
+    EXPECT_TRUE(batch.add(frameAt(1322, 2)));
+    EXPECT_TRUE(batch.add(frameAt(1441.9, 119.9)));
+    EXPECT_FALSE(batch.due(1381.9));
+    EXPECT_TRUE(batch.due(1382));
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0); // nothing written yet
+    batch.writeTo(store);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 2);
+    EXPECT_EQ(batch.size(), 0u);
+    EXPECT_FALSE(batch.due(99999));
+
+    // A write that fails keeps the points for the next one.
+    EXPECT_TRUE(batch.add(frameAt(1500, 2)));
+    HistoryStore reader(folder.path() / "history.sqlite", HistoryAccess::readOnly);
+    EXPECT_ANY_THROW(batch.writeTo(reader));
+    EXPECT_EQ(batch.size(), 1u);
+    batch.writeTo(store);
+    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 3);
+}
