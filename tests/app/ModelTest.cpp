@@ -4,10 +4,13 @@
 #include "model/Cadence.h"
 #include "model/HistoryBatch.h"
 #include "model/RecentRing.h"
+#include "model/Sampler.h"
 #include "support/TempFolder.h"
+#include "synth/DemoWorld.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <vector>
@@ -150,4 +153,95 @@ TEST(HistoryBatch, FramesWaitAMinuteAndOnlyUsableOnesAreKept)
     EXPECT_EQ(batch.size(), 1u);
     batch.writeTo(store);
     EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 3);
+}
+
+namespace {
+
+// A sampler over the demo world, recording into a file of its own.
+struct DemoSampler {
+    vexel::testing::TempFolder folder{"vexel-sampler"};
+    DemoWorld world;
+    std::optional<std::string> openError;
+    VexelPaths paths{folder.path()};
+    Sampler sampler{world.monitor(), Sampler::openStore(paths, openError), paths, TimeZone::fixed(0)};
+
+    DemoSampler()
+    {
+        sampler.beforeSample = [this](double now) { world.advance(now - world.now()); };
+    }
+
+    TickResult tickAt(double now, TickPlan plan = {.record = true}) { return sampler.tick(now, plan); }
+
+    [[nodiscard]] int64_t storedRows() const
+    {
+        HistoryStore reader(paths.history(), HistoryAccess::readOnly);
+        return reader.rowCount(HistoryTier::raw, HistoryTable::sys);
+    }
+};
+
+} // namespace
+
+TEST(Sampler, HistoryReachesTheFileWithinAMinuteAndAllOfItByQuit)
+{
+    DemoSampler demo;
+    ASSERT_TRUE(demo.sampler.recording()) << demo.openError.value_or("");
+    const double start = demo.world.now();
+    (void)demo.tickAt(start); // the first frame has no interval: shown, never kept
+    for (int i = 1; i <= 29; ++i)
+        EXPECT_FALSE(demo.tickAt(start + 2 * i).error);
+    EXPECT_EQ(demo.storedRows(), 0); // 58 s of frames wait in memory
+    (void)demo.tickAt(start + 62);
+    EXPECT_EQ(demo.storedRows(), 30); // the minute is written in one go
+    (void)demo.tickAt(start + 64);
+    (void)demo.tickAt(start + 66);
+    EXPECT_EQ(demo.storedRows(), 30);
+    demo.sampler.flush(); // at quit
+    EXPECT_EQ(demo.storedRows(), 32);
+    // A frame after a long gap (the machine slept) is shown but not kept.
+    const auto late = demo.tickAt(start + 366);
+    EXPECT_GT(late.frame.interval, 120);
+    demo.sampler.flush();
+    EXPECT_EQ(demo.storedRows(), 32);
+}
+
+TEST(Sampler, CompactionTotalsPortsAndContainers)
+{
+    DemoSampler demo;
+    const double start = demo.world.now();
+    (void)demo.tickAt(start);
+    for (int i = 1; i <= 10; ++i)
+        (void)demo.tickAt(start + 2 * i);
+    const auto result = demo.tickAt(start + 22,
+        {.ports = true, .docker = true, .record = true, .compact = true, .totals = true, .maxBytes = 64'000'000});
+    EXPECT_FALSE(result.error);
+    EXPECT_EQ(demo.storedRows(), 11); // compaction and totals see the waiting points first
+    ASSERT_TRUE(result.today && result.week && result.todaySeries && result.historyBytes);
+    EXPECT_GT(result.today->diskW, 0);
+    ASSERT_EQ(result.week->size(), 7u);
+    EXPECT_DOUBLE_EQ(result.week->back().totals.diskW, result.today->diskW);
+    EXPECT_FALSE(result.todaySeries->empty());
+    ASSERT_TRUE(result.servers && result.listeners && result.docker);
+    EXPECT_FALSE(result.servers->empty());
+    EXPECT_TRUE(std::filesystem::exists(demo.paths.activity())); // saved with each port scan
+    // Readings not planned are not read: the model keeps what it has.
+    const auto plain = demo.tickAt(start + 24);
+    EXPECT_FALSE(plain.servers || plain.docker || plain.today || plain.historyBytes);
+}
+
+TEST(Sampler, AHistoryThatCannotBeOpenedIsSaidAndNothingIsRecorded)
+{
+    const vexel::testing::TempFolder folder("vexel-sampler");
+    std::filesystem::create_directories(folder.path() / "history.sqlite"); // a folder where the file should be
+    const VexelPaths paths(folder.path());
+    std::optional<std::string> error;
+    auto store = Sampler::openStore(paths, error);
+    EXPECT_FALSE(store);
+    ASSERT_TRUE(error);
+    EXPECT_NE(error->find("history"), std::string::npos) << *error;
+    DemoWorld world;
+    Sampler sampler(world.monitor(), nullptr, paths);
+    EXPECT_FALSE(sampler.recording());
+    const auto result = sampler.tick(world.now(), {.record = true, .compact = true, .totals = true});
+    EXPECT_FALSE(result.today);
+    EXPECT_TRUE(sampler.history(HistoryRange::today, world.now(), SpikeRules{}).points.empty());
 }

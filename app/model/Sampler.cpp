@@ -1,0 +1,154 @@
+#include "model/Sampler.h"
+
+#include "history/Downsample.h"
+#include "history/HistoryError.h"
+#include "spikes/SpikeFinder.h"
+
+#include <exception>
+
+namespace vexel {
+
+namespace {
+
+constexpr int weekDays = 7;
+
+// The start of the calendar day `daysBack` days before the one holding `now`.
+double dayStart(double now, int daysBack, const TimeZone& zone)
+{
+    // Noon of the day wanted, so that a daylight-saving hour cannot slip into the next or previous day.
+    CivilTime noon = zone.civil(vexel::start(HistoryRange::today, now, zone) + 43200 - daysBack * 86400.0);
+    noon.hour = noon.minute = noon.second = 0;
+    return zone.toEpoch(noon).value_or(now - daysBack * 86400.0);
+}
+
+} // namespace
+
+Sampler::Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore> store, VexelPaths paths, TimeZone zone)
+    : m_monitor(std::move(monitor))
+    , m_store(std::move(store))
+    , m_paths(std::move(paths))
+    , m_zone(zone)
+    , m_log(ActivityLog::load(m_paths.activity()))
+{
+}
+
+std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::optional<std::string>& error)
+{
+    try {
+        return std::make_unique<HistoryStore>(paths.history(), HistoryAccess::readWrite);
+    } catch (const std::exception& failure) {
+        error = failure.what();
+        return nullptr;
+    }
+}
+
+TickResult Sampler::tick(double now, const TickPlan& plan)
+{
+    if (beforeSample)
+        beforeSample(now);
+    TickResult result;
+    result.frame = m_monitor->sample(now, {.everyone = plan.everyone, .network = plan.network});
+    if (plan.record)
+        record(result.frame, now, result);
+    if (plan.compact)
+        compact(now, plan, result);
+    if (plan.ports)
+        scanPorts(result.frame, plan, result);
+    if (plan.docker)
+        result.docker = m_monitor->dockerState();
+    if (plan.totals)
+        totals(now, result);
+    return result;
+}
+
+void Sampler::record(const Frame& frame, double now, TickResult& result)
+{
+    if (!m_store || !m_batch.add(frame) || !m_batch.due(now))
+        return;
+    try {
+        m_batch.writeTo(*m_store);
+    } catch (const std::exception& failure) {
+        result.error = failure.what();
+    }
+}
+
+void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
+{
+    if (!m_store)
+        return;
+    try {
+        // What compaction rolls up includes the minute still waiting.
+        m_batch.writeTo(*m_store);
+        m_store->maxBytes = plan.maxBytes;
+        m_store->compact(now, plan.retentionDays);
+        result.historyBytes = m_store->usedBytes();
+    } catch (const std::exception& failure) {
+        result.error = failure.what();
+    }
+}
+
+void Sampler::scanPorts(const Frame& frame, const TickPlan& plan, TickResult& result)
+{
+    auto listeners = m_monitor->listeners();
+    result.servers
+        = m_monitor->devServers(frame, listeners.value_or(std::vector<ListenSocket>{}), m_log, plan.idleAfter);
+    result.listeners = std::move(listeners).value_or(std::vector<ListenSocket>{});
+    try {
+        m_log.save(m_paths.activity());
+    } catch (const std::exception&) {
+        // The log is a convenience: servers are flagged idle again from their CPU time.
+    }
+}
+
+void Sampler::totals(double now, TickResult& result)
+{
+    if (!m_store)
+        return;
+    try {
+        m_batch.writeTo(*m_store);
+        const double today = dayStart(now, 0, m_zone);
+        result.today = m_store->totals(today, now);
+        std::vector<DayTotal> week;
+        for (int back = weekDays - 1; back >= 0; --back) {
+            const double start = dayStart(now, back, m_zone);
+            const double end = back == 0 ? now : dayStart(now, back - 1, m_zone);
+            week.push_back({start, m_store->totals(start, end)});
+        }
+        result.week = std::move(week);
+        result.todaySeries = Downsample::regroup(
+            m_store->series(vexel::tier(HistoryRange::today), today, now), vexel::chartBucket(HistoryRange::today));
+    } catch (const std::exception& failure) {
+        result.error = failure.what();
+    }
+}
+
+Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const SpikeRules& rules)
+{
+    HistoryResult result;
+    if (!m_store)
+        return result;
+    flush();
+    const double from = vexel::start(range, now, m_zone);
+    const auto tier = vexel::tier(range);
+    result.points = m_store->series(tier, from, now);
+    result.apps = m_store->appSeries(tier, from, now);
+    result.spikes = SpikeFinder::find(result.points, result.apps, rules);
+    result.first = m_store->firstSample();
+    return result;
+}
+
+void Sampler::flush()
+{
+    if (m_store)
+        m_batch.writeTo(*m_store);
+}
+
+void Sampler::erase()
+{
+    if (!m_store)
+        return;
+    m_batch = HistoryBatch();
+    m_store->eraseAll();
+}
+
+} // namespace vexel
