@@ -2,9 +2,12 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "recorder/HeadlessRecorder.h"
 
 #include <QApplication>
 #include <QStyleHints>
+
+#include <string_view>
 
 namespace vexel {
 
@@ -20,6 +23,10 @@ Appearance systemAppearance()
 
 int runDesktopApp(int& argc, char** argv)
 {
+    // Recording without a desktop needs no Qt at all.
+    for (int i = 1; i < argc; ++i)
+        if (std::string_view(argv[i]) == "--headless")
+            return runHeadlessRecorder();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));

@@ -1,6 +1,8 @@
 // The real `vexel` binary on this machine, with data folders of the tests' own.
 
+#include "history/HistoryStore.h"
 #include "io/Files.h"
+#include "support/ChildProcess.h"
 #include "support/Listener.h"
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
@@ -19,6 +21,7 @@
 #include <sys/mount.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace vexel;
@@ -369,4 +372,42 @@ TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
     ASSERT_TRUE(plain.is_object()) << plain;
     EXPECT_FALSE(plain.contains("processes_note"));
     EXPECT_GT(plain["process_count"].get<int>(), hidden["process_count"].get<int>());
+}
+
+// The headless recorder for real: it says where it records, a second one
+// refuses to write beside it, and on SIGTERM it writes what was waiting and
+// saves when it last ran, so that `vexel history` reads the recording back.
+TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
+{
+    TempFolder data("vexel-live");
+    std::ofstream(data.path() / "settings.json") << R"({"sampleSeconds": 1})";
+    const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
+    ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
+    ChildProcess recorder({app, "--headless"}, {{}, true});
+    ::unsetenv("VEXEL_DATA_DIR");
+    ASSERT_NE(recorder.pid(), 0);
+    EXPECT_EQ(recorder.readLine(), "Recording to " + (data.path() / "history.sqlite").string() + " every 1 s.");
+
+    const auto second = runTool({app, "--headless"}, {{{"VEXEL_DATA_DIR", data.path().string()}}, ""});
+    EXPECT_EQ(second.status, 1);
+    EXPECT_EQ(second.err,
+        "Vexel is already recording on this computer (process " + std::to_string(recorder.pid())
+            + "); this one stops instead of writing beside it.\n");
+
+    // Ticks a second apart: the first frame has no interval, the next ones are kept.
+    const auto started = std::chrono::steady_clock::now();
+    ASSERT_EQ(::waitpid(recorder.pid(), nullptr, WNOHANG), 0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(3500));
+    const int status = recorder.stop(SIGTERM);
+    ASSERT_TRUE(WIFEXITED(status)) << status;
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_EQ(recorder.readLine(), "Stopped recording.");
+    const HistoryStore stored(data.path() / "history.sqlite", HistoryAccess::readOnly);
+    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
+    const json history = jsonOf(vexelIn(data.path(), {"history", "today", "--json"}));
+    EXPECT_FALSE(history["busiest_apps"].empty()) << history.dump(1);
+    const json settings = json::parse(Files::read((data.path() / "settings.json").string()).value_or("{}"));
+    const std::chrono::duration<double> ran = std::chrono::steady_clock::now() - started;
+    EXPECT_NEAR(settings["lastSeen"].get<double>(), static_cast<double>(::time(nullptr)), 5 + ran.count());
+    EXPECT_EQ(settings["sampleSeconds"], 1.0); // the user's settings kept
 }

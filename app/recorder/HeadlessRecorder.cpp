@@ -1,0 +1,109 @@
+#include "recorder/HeadlessRecorder.h"
+
+#include "model/Cadence.h"
+#include "model/Sampler.h"
+#include "recorder/RecorderLock.h"
+#include "settings/VexelSettings.h"
+
+#include <cerrno>
+#include <cmath>
+#include <csignal>
+#include <ctime>
+#include <iostream>
+
+namespace vexel {
+
+namespace {
+
+// The stop signals, blocked so that they wait to be taken between ticks.
+sigset_t stopSignals()
+{
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGTERM);
+    sigaddset(&set, SIGINT);
+    return set;
+}
+
+// Waits `seconds` for a stop signal; whether one came.
+bool stopRequested(const sigset_t& signals, double seconds)
+{
+    timespec wait{};
+    wait.tv_sec = static_cast<time_t>(seconds);
+    wait.tv_nsec = static_cast<long>((seconds - std::floor(seconds)) * 1e9);
+    for (;;) {
+        if (::sigtimedwait(&signals, nullptr, &wait) >= 0)
+            return true;
+        if (errno != EINTR)
+            return false; // EAGAIN: the time is up
+    }
+}
+
+} // namespace
+
+HeadlessRecorder::HeadlessRecorder(Options options)
+    : m_options(std::move(options))
+{
+}
+
+int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
+{
+    const sigset_t signals = stopSignals();
+    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    const auto& paths = m_options.paths;
+    const RecorderLock lock(paths.dir);
+    if (!lock.held()) {
+        if (lock.holder())
+            err << "Vexel is already recording on this computer (process " << *lock.holder()
+                << "); this one stops instead of writing beside it.\n";
+        else
+            err << lock.error().value_or("Couldn't take the recorder's lock.") << "\n";
+        return 1;
+    }
+    auto settings = VexelSettings::load(paths.settings());
+    std::optional<std::string> openError;
+    auto store = Sampler::openStore(paths, openError);
+    if (!store) {
+        err << "Couldn't open the history: " << openError.value_or("unknown error") << "\n";
+        return 1;
+    }
+    Sampler sampler(m_options.makeMonitor(), std::move(store), paths);
+    Cadence cadence;
+    out << "Recording to " << paths.history().string() << " every " << settings.sampleSeconds << " s.\n" << std::flush;
+    std::optional<std::string> lastError;
+    bool first = true;
+    do {
+        const auto plan = cadence.plan(m_options.clock(), first, {false, Route::overview}, settings);
+        first = false;
+        const auto result = sampler.tick(m_options.clock(), plan);
+        // Say a failure once, and again only when it changes.
+        if (result.error && result.error != lastError)
+            err << "History: " << *result.error << "\n" << std::flush;
+        lastError = result.error;
+    } while (!stopRequested(signals, Cadence::tickSeconds(false, settings)));
+
+    int status = 0;
+    try {
+        sampler.flush();
+    } catch (const std::exception& failure) {
+        err << "History: the last minute was lost: " << failure.what() << "\n";
+        status = 1;
+    }
+    settings.lastSeen = m_options.clock();
+    try {
+        settings.save(paths.settings());
+    } catch (const std::exception& failure) {
+        err << "Couldn't save the settings: " << failure.what() << "\n";
+        status = 1;
+    }
+    out << "Stopped recording.\n";
+    return status;
+}
+
+int runHeadlessRecorder()
+{
+    HeadlessRecorder recorder({VexelPaths::standard(), [] { return Monitor::live(); }, currentTime});
+    return recorder.run(std::cout, std::cerr);
+}
+
+} // namespace vexel

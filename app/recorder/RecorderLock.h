@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace vexel {
+
+// The one process that records this user's history holds this lock (a file
+// in the data folder, locked with flock, holding the holder's pid). The
+// kernel drops the lock with the process, however it ends.
+class RecorderLock {
+public:
+    // Takes the lock; `held()` is false when another process has it, and
+    // `holder()` then says which.
+    explicit RecorderLock(const std::filesystem::path& folder);
+    ~RecorderLock();
+    RecorderLock(const RecorderLock&) = delete;
+    RecorderLock& operator=(const RecorderLock&) = delete;
+
+    [[nodiscard]] bool held() const { return m_held; }
+    // The pid written by the holder, when another process holds the lock.
+    [[nodiscard]] const std::optional<int64_t>& holder() const { return m_holder; }
+    // Why the lock could not even be tried (the folder cannot be made, …).
+    [[nodiscard]] const std::optional<std::string>& error() const { return m_error; }
+
+private:
+    int m_fd = -1;
+    bool m_held = false;
+    std::optional<int64_t> m_holder;
+    std::optional<std::string> m_error;
+};
+
+} // namespace vexel
