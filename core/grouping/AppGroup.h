@@ -22,6 +22,7 @@ struct ProcRow {
     bool memoryIsFootprint = false;
     bool readable = false; // its counters could be read
     double start = 0; // seconds since the epoch
+    uint32_t uid = 0; // its user
 
     bool operator==(const ProcRow&) const = default;
 };

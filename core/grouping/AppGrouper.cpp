@@ -18,7 +18,7 @@ struct Building {
 ProcRow rowOf(const ProcRecord& record, const ProcRates& rate)
 {
     return ProcRow{ProcKey::of(record), record.pid, record.ppid, record.name, record.path, record.zombie, rate.cpu,
-        record.memory.value_or(0), record.memoryIsFootprint, record.cpuTime.has_value(), record.start};
+        record.memory.value_or(0), record.memoryIsFootprint, record.cpuTime.has_value(), record.start, record.uid};
 }
 
 void add(Building& building, const ProcRecord& record, const ProcRates& rate, bool isMain)

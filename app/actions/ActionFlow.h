@@ -1,0 +1,57 @@
+#pragma once
+
+#include "actions/ProcessActions.h"
+#include "grouping/AppGroup.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vexel {
+
+// A question put to the user before anything changes: shown as a sheet, run
+// only on confirmation; cancelling it changes nothing.
+struct ConfirmRequest {
+    std::string title;
+    std::string message;
+    std::string button;
+    bool destructive = false;
+    std::function<void()> confirm;
+};
+
+// Quitting apps and stopping processes, each asked first, each ending in a
+// toast that says what happened. The flow decides and words; the hooks show
+// the sheet and the toast and keep time, so that the same flow runs in the
+// window, in the demo world and in tests with a clock of their own.
+class ActionFlow {
+public:
+    struct Hooks {
+        std::function<void(ConfirmRequest)> ask;
+        std::function<void(std::string)> toast;
+        std::function<void()> rescanPortsSoon; // about a second after a stop
+        std::function<void(double seconds, std::function<void()>)> after;
+    };
+
+    // Seconds after an unforced stop before a process still running is offered a forced one.
+    static constexpr double forceOfferDelay = 4;
+
+    ActionFlow(ProcessActions& actions, Hooks hooks, uint32_t myUID, int32_t myPid);
+
+    // Only apps, only the user's own, never this program.
+    [[nodiscard]] static bool canQuit(const AppGroup& app, uint32_t myUID, int32_t myPid);
+
+    void requestQuit(const AppGroup& app, bool force);
+    void performQuit(const AppGroup& app, bool force);
+    // `context` adds lines to the message (a server's port, its project).
+    void requestStop(int32_t pid, const std::string& name, const std::vector<std::string>& context, bool force);
+    void performStop(int32_t pid, const std::string& name, bool force);
+
+private:
+    ProcessActions& m_actions;
+    Hooks m_hooks;
+    uint32_t m_myUID;
+    int32_t m_myPid;
+};
+
+} // namespace vexel

@@ -1,0 +1,206 @@
+// Quitting and stopping: who may be quit, every question and toast, the
+// force offered (never sent) after an ignored SIGTERM, and the live actions.
+
+#include "actions/ActionFlow.h"
+#include "actions/FakeActions.h"
+#include "actions/LiveActions.h"
+#include "support/ChildProcess.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <map>
+#include <optional>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace vexel;
+
+namespace {
+
+constexpr uint32_t me = 1000;
+constexpr int32_t vexelPid = 777;
+
+AppGroup app(const std::string& name, AppKind kind, int helpers, uint32_t uid = me, int32_t mainPid = 500)
+{
+    AppGroup group;
+    group.id = "app:" + name;
+    group.name = name;
+    group.kind = kind;
+    group.mainPID = mainPid;
+    for (int i = 0; i <= helpers; ++i) {
+        ProcRow row;
+        row.pid = mainPid + i;
+        row.uid = uid;
+        group.processes.push_back(row);
+    }
+    return group;
+}
+
+// Processes that ignore SIGTERM: every signal is recorded, none ends them.
+class StubbornActions final : public ProcessActions {
+public:
+    bool quit(const AppGroup&, bool) override { return false; }
+    bool signal(int32_t pid, int32_t sig) override
+    {
+        sent.emplace_back(pid, sig);
+        return true;
+    }
+    [[nodiscard]] bool isAlive(int32_t) override { return true; }
+    void reveal(const std::string&) override { }
+    void copy(const std::string&) override { }
+    std::vector<std::pair<int32_t, int32_t>> sent;
+};
+
+// The window's side of the flow: the sheet shown, the toasts, a clock of the test's own.
+struct Screen {
+    std::optional<ConfirmRequest> sheet;
+    std::vector<std::string> toasts;
+    int rescans = 0;
+    double now = 0;
+    std::multimap<double, std::function<void()>> timers;
+
+    ActionFlow::Hooks hooks()
+    {
+        return {[this](ConfirmRequest request) { sheet = std::move(request); },
+            [this](std::string text) { toasts.push_back(std::move(text)); }, [this] { ++rescans; },
+            [this](double seconds, std::function<void()> work) { timers.emplace(now + seconds, std::move(work)); }};
+    }
+
+    void confirm()
+    {
+        auto request = std::move(sheet);
+        sheet.reset();
+        request->confirm();
+    }
+
+    void advance(double seconds)
+    {
+        now += seconds;
+        while (!timers.empty() && timers.begin()->first <= now) {
+            auto work = std::move(timers.begin()->second);
+            timers.erase(timers.begin());
+            work();
+        }
+    }
+};
+
+} // namespace
+
+TEST(ActionFlow, WhoMayBeQuit)
+{
+    EXPECT_TRUE(ActionFlow::canQuit(app("Firefox", AppKind::app, 3), me, vexelPid));
+    EXPECT_FALSE(ActionFlow::canQuit(app("Linux services", AppKind::system, 5), me, vexelPid));
+    EXPECT_FALSE(ActionFlow::canQuit(app("bash", AppKind::tool, 0), me, vexelPid));
+    EXPECT_FALSE(ActionFlow::canQuit(app("Steam", AppKind::app, 2, 1001), me, vexelPid)); // another user's
+    EXPECT_FALSE(ActionFlow::canQuit(app("Vexel", AppKind::app, 0, me, vexelPid), me, vexelPid));
+
+    FakeActions fake;
+    Screen screen;
+    ActionFlow flow(fake, screen.hooks(), me, vexelPid);
+    flow.requestQuit(app("Linux services", AppKind::system, 5), false);
+    EXPECT_FALSE(screen.sheet);
+    EXPECT_EQ(screen.toasts, std::vector<std::string>{"Linux services can't be quit from Vexel."});
+    EXPECT_TRUE(fake.log.empty());
+}
+
+TEST(ActionFlow, QuitIsAskedThenDoneAndCancelChangesNothing)
+{
+    FakeActions fake;
+    Screen screen;
+    ActionFlow flow(fake, screen.hooks(), me, vexelPid);
+    flow.requestQuit(app("Firefox", AppKind::app, 32), false);
+    ASSERT_TRUE(screen.sheet);
+    EXPECT_EQ(screen.sheet->title, "Quit Firefox?");
+    EXPECT_EQ(screen.sheet->message,
+        "Firefox will be asked to quit, just like choosing Quit from its menu. It may ask you to save first. Its 32 "
+        "helper processes will end with it.");
+    EXPECT_EQ(screen.sheet->button, "Quit");
+    EXPECT_FALSE(screen.sheet->destructive);
+    screen.sheet.reset(); // Cancel
+    EXPECT_TRUE(fake.log.empty());
+
+    flow.requestQuit(app("Firefox", AppKind::app, 1), true);
+    EXPECT_EQ(screen.sheet->title, "Force quit Firefox?");
+    EXPECT_EQ(screen.sheet->message,
+        "Firefox will stop immediately, without a chance to save. Unsaved work in it will be lost. Its 1 helper "
+        "process will end with it.");
+    EXPECT_EQ(screen.sheet->button, "Force Quit");
+    EXPECT_TRUE(screen.sheet->destructive);
+    screen.confirm();
+    flow.requestQuit(app("Files", AppKind::app, 0), false);
+    EXPECT_EQ(screen.sheet->message,
+        "Files will be asked to quit, just like choosing Quit from its menu. It may ask you to save first.");
+    screen.confirm();
+    EXPECT_EQ(fake.log, (std::vector<std::string>{"forceQuit Firefox", "quit Files"}));
+    EXPECT_EQ(screen.toasts, (std::vector<std::string>{"Force quit Firefox", "Asked Files to quit."}));
+
+    StubbornActions refusing;
+    ActionFlow refused(refusing, screen.hooks(), me, vexelPid);
+    refused.performQuit(app("Slack", AppKind::app, 0), false);
+    EXPECT_EQ(screen.toasts.back(), "Slack didn't respond to Quit.");
+}
+
+TEST(ActionFlow, AnIgnoredStopIsOfferedTheForceNeverSentIt)
+{
+    StubbornActions stubborn;
+    Screen screen;
+    ActionFlow flow(stubborn, screen.hooks(), me, vexelPid);
+    flow.requestStop(4242, "node", {"Port 3000 in shop"}, false);
+    ASSERT_TRUE(screen.sheet);
+    EXPECT_EQ(screen.sheet->title, "Stop node?");
+    EXPECT_EQ(screen.sheet->message,
+        "Sends SIGTERM to process 4242, asking it to shut down cleanly — like pressing Ctrl-C in its terminal.\n"
+        "Port 3000 in shop");
+    EXPECT_EQ(screen.sheet->button, "Stop");
+    screen.confirm();
+    EXPECT_EQ(stubborn.sent, (std::vector<std::pair<int32_t, int32_t>>{{4242, SIGTERM}}));
+    EXPECT_EQ(screen.toasts, std::vector<std::string>{"Asked node (process 4242) to stop."});
+    EXPECT_EQ(screen.rescans, 1);
+    screen.advance(3.9);
+    EXPECT_FALSE(screen.sheet);
+    screen.advance(0.1);
+    ASSERT_TRUE(screen.sheet); // offered…
+    EXPECT_EQ(screen.sheet->title, "Force stop node?");
+    EXPECT_EQ(screen.sheet->button, "Force Stop");
+    EXPECT_TRUE(screen.sheet->destructive);
+    EXPECT_EQ(stubborn.sent.size(), 1u); // …not sent
+    screen.confirm();
+    EXPECT_EQ(stubborn.sent.back(), (std::pair<int32_t, int32_t>{4242, SIGKILL}));
+    EXPECT_EQ(screen.toasts.back(), "Sent SIGKILL to node (process 4242).");
+    screen.advance(10);
+    EXPECT_FALSE(screen.sheet); // nothing offered after a forced stop
+}
+
+TEST(ActionFlow, AStopThatEndsTheProcessOffersNothingMoreAndAFailedOneSaysSo)
+{
+    FakeActions fake;
+    fake.alive = {4242};
+    Screen screen;
+    ActionFlow flow(fake, screen.hooks(), me, vexelPid);
+    flow.performStop(4242, "node", false);
+    screen.advance(5);
+    EXPECT_FALSE(screen.sheet);
+    flow.performStop(4242, "node", false); // gone already
+    EXPECT_EQ(screen.toasts.back(), "Couldn't signal node (process 4242). It may have already exited.");
+    EXPECT_EQ(screen.rescans, 1);
+}
+
+TEST(LiveActions, SignalsAliveAndTheClipboard)
+{
+    vexel::testing::ChildProcess sleeper({"sleep", "30"});
+    ASSERT_NE(sleeper.pid(), 0);
+    LiveActions live;
+    EXPECT_TRUE(live.isAlive(sleeper.pid()));
+    AppGroup group = app("sleep", AppKind::app, 0, static_cast<uint32_t>(::getuid()), sleeper.pid());
+    EXPECT_TRUE(live.quit(group, false)); // SIGTERM to the main process
+    const int status = sleeper.wait();
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM) << status;
+    EXPECT_FALSE(live.isAlive(sleeper.pid()));
+    EXPECT_FALSE(live.signal(sleeper.pid(), SIGTERM));
+    EXPECT_TRUE(live.isAlive(1)); // not ours to signal, but there
+    live.copy("vexel top --sort memory");
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "vexel top --sort memory");
+}
