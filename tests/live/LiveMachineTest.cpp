@@ -260,8 +260,14 @@ TEST(LiveMachine, AnotherUsersBusyLoopReadsBusyAtTheAppsCadence)
     std::vector<double> rates;
     TextScan::forEachLine(text, [&](std::string_view line) { rates.push_back(std::stod(std::string(line))); });
     ASSERT_EQ(rates.size(), 7u) << text;
-    // The first tick is a baseline; after it the loop reads busy (a generous
-    // floor: other tests share the two cores), where a lost baseline reads 0.
-    for (size_t tick = 1; tick < rates.size(); ++tick)
-        EXPECT_GT(rates[tick], 0.25) << "tick " << tick << (tick % 3 == 0 ? " (everyone)" : " (own)");
+    // The first tick is a baseline; after it the loop reads busy at every
+    // tick, where a lost baseline reads exactly 0. Other tests share the two
+    // cores, so a tick's share varies: each must be clearly above 0, and the
+    // loop must average a good part of a core.
+    double sum = 0;
+    for (size_t tick = 1; tick < rates.size(); ++tick) {
+        EXPECT_GT(rates[tick], 0.05) << "tick " << tick << (tick % 3 == 0 ? " (everyone)" : " (own)");
+        sum += rates[tick];
+    }
+    EXPECT_GT(sum / static_cast<double>(rates.size() - 1), 0.25) << text;
 }

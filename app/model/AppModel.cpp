@@ -1,0 +1,336 @@
+#include "model/AppModel.h"
+
+#include "grouping/AppGrouper.h"
+#include "io/AtomicFile.h"
+#include "platform/Environment.h"
+#include "spikes/SpikeFinder.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace vexel {
+
+namespace {
+
+// Away this long, the window opens on what happened meanwhile.
+constexpr double awayAfter = 600;
+
+std::filesystem::path autostartFile()
+{
+    const auto config = environmentVariable("XDG_CONFIG_HOME");
+    const std::filesystem::path folder = config && !config->empty() && config->front() == '/'
+        ? std::filesystem::path(*config)
+        : std::filesystem::path(homeFolder()) / ".config";
+    return folder / "autostart" / "dev.vexel.Vexel.desktop";
+}
+
+} // namespace
+
+AppModel::AppModel(Setup setup)
+    : m_paths(std::move(setup.paths))
+    , m_clock(std::move(setup.clock))
+    , m_observesVisibility(setup.observesVisibility)
+    , m_actions(std::move(setup.actions))
+{
+    settings = VexelSettings::load(m_paths.settings());
+    ActionFlow::Hooks hooks{[this](ConfirmRequest request) {
+                                confirm = std::move(request);
+                                notify(confirmChanged);
+                            },
+        [this](std::string text) {
+            toast = std::move(text);
+            notify(toastChanged);
+        },
+        [this] {
+            // The stopped server leaves the list at the next scan, about a second on.
+            QTimer::singleShot(1000, this, [this] {
+                m_cadence = Cadence();
+                refresh(false);
+            });
+        },
+        [this](double seconds, std::function<void()> work) {
+            QTimer::singleShot(static_cast<int>(seconds * 1000), this, std::move(work));
+        }};
+    m_flow = std::make_unique<ActionFlow>(*m_actions, std::move(hooks), setup.myUID, setup.myPid);
+    m_sampler = std::make_unique<SamplerThread>(std::move(setup.buildSampler));
+    m_sampler->run([this](Sampler& sampler) {
+        if (sampler.openError())
+            m_openError = "Couldn't open the history: " + *sampler.openError();
+    });
+    storeError = m_openError;
+    m_timer.callOnTimeout(this, [this] { refresh(false); });
+}
+
+AppModel::~AppModel()
+{
+    m_timer.stop();
+    m_sampler.reset();
+}
+
+void AppModel::start()
+{
+    refresh(true);
+    schedule();
+}
+
+void AppModel::schedule()
+{
+    m_timer.start(static_cast<int>(tickSeconds() * 1000));
+}
+
+void AppModel::setWindowVisible(bool visible)
+{
+    if (!m_observesVisibility || visible == windowVisible)
+        return;
+    windowVisible = visible;
+    notify(visibilityChanged);
+    if (visible) {
+        prepareAway();
+        refresh(true);
+    } else {
+        settings.lastSeen = m_clock();
+        saveSettings();
+    }
+    schedule();
+}
+
+void AppModel::changeSettings(const VexelSettings& changed)
+{
+    settings = changed;
+    saveSettings();
+    notify(settingsChanged);
+    schedule();
+}
+
+void AppModel::shutdown()
+{
+    m_timer.stop();
+    settings.lastSeen = m_clock();
+    saveSettings();
+}
+
+void AppModel::saveSettings()
+{
+    try {
+        settings.save(m_paths.settings());
+    } catch (const std::exception& failure) {
+        toast = std::string("Couldn't save the settings: ") + failure.what();
+        notify(toastChanged);
+    }
+}
+
+void AppModel::setRoute(Route next)
+{
+    if (next == route)
+        return;
+    route = next;
+    notify(routeChanged);
+}
+
+void AppModel::setHistoryRange(HistoryRange range)
+{
+    if (range == historyRange)
+        return;
+    historyRange = range;
+    loadHistory();
+}
+
+void AppModel::refresh(bool full)
+{
+    if (m_busy)
+        return; // ticks never overlap: this one is dropped, not queued
+    const double now = m_clock();
+    const auto plan = m_cadence.plan(now, full, {windowVisible, route}, settings);
+    m_busy = true;
+    m_sampler->post<TickResult>([now, plan](Sampler& sampler) { return sampler.tick(now, plan); }, this,
+        [this](TickResult result) {
+            apply(std::move(result));
+            m_busy = false;
+        });
+}
+
+void AppModel::apply(TickResult result)
+{
+    unsigned what = frameChanged;
+    ring.append(RingSample::of(result.frame));
+    cores = result.frame.system.coreCount();
+    frame = std::move(result.frame);
+    if (result.servers) {
+        servers = std::move(*result.servers);
+        serversLoaded = true;
+        what |= serversChanged;
+    }
+    if (result.listeners)
+        listeners = std::move(*result.listeners);
+    if (result.docker) {
+        docker = std::move(result.docker);
+        what |= dockerChanged;
+    }
+    if (result.today || result.week || result.todaySeries || result.historyBytes)
+        what |= totalsChanged;
+    if (result.today)
+        today = result.today;
+    if (result.week)
+        week = std::move(*result.week);
+    if (result.todaySeries)
+        todaySeries = std::move(*result.todaySeries);
+    if (result.historyBytes)
+        historyBytes = result.historyBytes;
+    // A history that could not be opened stays said; a tick's failure lasts until a tick goes well.
+    auto error = result.error ? result.error : m_openError;
+    if (error != storeError) {
+        storeError = std::move(error);
+        what |= storeErrorChanged;
+    }
+    notify(what);
+}
+
+void AppModel::loadHistory()
+{
+    historyLoading = true;
+    notify(historyChanged);
+    const double now = m_clock();
+    m_sampler->post<Sampler::HistoryResult>([range = historyRange, now, rules = settings.spikes](
+                                                Sampler& sampler) { return sampler.history(range, now, rules); },
+        this,
+        [this](Sampler::HistoryResult result) {
+            history = std::move(result);
+            historyLoading = false;
+            notify(historyChanged);
+        });
+}
+
+void AppModel::loadHistorySync()
+{
+    const double now = m_clock();
+    m_sampler->run([&](Sampler& sampler) { history = sampler.history(historyRange, now, settings.spikes); });
+    historyLoading = false;
+    notify(historyChanged);
+}
+
+void AppModel::prepareAway()
+{
+    const double now = m_clock();
+    if (!settings.lastSeen || now - *settings.lastSeen <= awayAfter) {
+        awaySince.reset();
+        awaySpikes.clear();
+        notify(awayChanged);
+        return;
+    }
+    const double since = *settings.lastSeen;
+    awaySince = since;
+    std::vector<Spike> found;
+    m_sampler->run([&](Sampler& sampler) {
+        auto range = sampler.history(HistoryRange::week, now, settings.spikes);
+        for (auto& spike : range.spikes)
+            if (spike.end >= since)
+                found.push_back(std::move(spike));
+    });
+    awaySpikes = std::move(found);
+    notify(awayChanged);
+}
+
+void AppModel::dismissAway()
+{
+    awaySince.reset();
+    awaySpikes.clear();
+    notify(awayChanged);
+}
+
+void AppModel::eraseHistory()
+{
+    ConfirmRequest request;
+    request.title = "Erase all history?";
+    request.message = "Vexel forgets every sample it has kept, up to a year. This can't be undone. New samples start "
+                      "right away.";
+    request.button = "Erase History";
+    request.destructive = true;
+    request.confirm = [this] {
+        m_sampler->run([](Sampler& sampler) { sampler.erase(); });
+        loadHistory();
+    };
+    confirm = std::move(request);
+    notify(confirmChanged);
+}
+
+void AppModel::confirmPending()
+{
+    auto request = std::move(confirm);
+    confirm.reset();
+    notify(confirmChanged);
+    if (request && request->confirm)
+        request->confirm();
+}
+
+void AppModel::cancelPending()
+{
+    confirm.reset();
+    notify(confirmChanged);
+}
+
+void AppModel::dismissToast()
+{
+    toast.reset();
+    notify(toastChanged);
+}
+
+Strain AppModel::strain(MenuItemKind kind) const
+{
+    if (!frame)
+        return Strain::calm;
+    const auto& rules = settings.strain;
+    const auto& system = frame->system;
+    switch (kind) {
+    case MenuItemKind::cpu: return rules.cpu(system.cpu.user + system.cpu.system);
+    case MenuItemKind::memory: return rules.memory(system.memory);
+    case MenuItemKind::network: return rules.network(system.net);
+    case MenuItemKind::thermal: return rules.thermal(system.thermal);
+    case MenuItemKind::battery: return rules.battery(system.battery);
+    case MenuItemKind::disk: return rules.disk(system.disk);
+    case MenuItemKind::gpu: return rules.gpu(system.gpu);
+    }
+    return Strain::calm;
+}
+
+std::vector<AppGroup> AppModel::apps(AppSort by, size_t limit) const
+{
+    if (!frame)
+        return {};
+    std::vector<AppGroup> sorted = frame->apps;
+    std::stable_sort(sorted.begin(), sorted.end(), [by](const AppGroup& a, const AppGroup& b) {
+        return AppGrouper::sortValue(a, by) > AppGrouper::sortValue(b, by);
+    });
+    if (sorted.size() > limit)
+        sorted.resize(limit);
+    return sorted;
+}
+
+void AppModel::setOpenAtLogin(bool open)
+{
+    const auto file = autostartFile();
+    loginItemError.reset();
+    try {
+        if (open) {
+            std::filesystem::create_directories(file.parent_path());
+            AtomicFile::write(file,
+                "[Desktop Entry]\nType=Application\nName=Vexel\nExec="
+                    + QCoreApplication::applicationFilePath().toStdString()
+                    + " --hidden\nX-GNOME-Autostart-enabled=true\n");
+        } else {
+            std::filesystem::remove(file);
+        }
+    } catch (const std::exception& failure) {
+        loginItemError = failure.what();
+    }
+    notify(loginItemChanged);
+}
+
+bool AppModel::opensAtLogin() const
+{
+    std::error_code error;
+    return std::filesystem::exists(autostartFile(), error);
+}
+
+} // namespace vexel

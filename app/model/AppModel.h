@@ -1,0 +1,145 @@
+#pragma once
+
+#include "Route.h"
+#include "actions/ActionFlow.h"
+#include "grouping/AppSort.h"
+#include "model/Cadence.h"
+#include "model/RecentRing.h"
+#include "model/SamplerThread.h"
+#include "settings/MenuItemConfig.h"
+#include "settings/VexelPaths.h"
+#include "settings/VexelSettings.h"
+#include "spikes/Strain.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace vexel {
+
+// The one model behind the window, its pages and the panel items. It never
+// samples: once per timer tick it decides what is due, hands that plan to the
+// sampler's thread and installs the result when it comes back. Lives on the
+// GUI thread; every published field is written there.
+class AppModel : public QObject {
+    Q_OBJECT
+
+public:
+    // What changed, so that a view repaints only what it shows.
+    enum Change : unsigned {
+        frameChanged = 1U << 0,
+        settingsChanged = 1U << 1,
+        routeChanged = 1U << 2,
+        historyChanged = 1U << 3,
+        awayChanged = 1U << 4,
+        serversChanged = 1U << 5,
+        dockerChanged = 1U << 6,
+        totalsChanged = 1U << 7,
+        confirmChanged = 1U << 8,
+        toastChanged = 1U << 9,
+        storeErrorChanged = 1U << 10,
+        visibilityChanged = 1U << 11,
+        loginItemChanged = 1U << 12,
+        selectionChanged = 1U << 13,
+    };
+
+    struct Setup {
+        VexelPaths paths;
+        std::function<std::unique_ptr<Sampler>()> buildSampler; // runs on the sampler thread
+        std::unique_ptr<ProcessActions> actions;
+        std::function<double()> clock; // seconds since the epoch
+        uint32_t myUID = 0;
+        int32_t myPid = 0;
+        bool observesVisibility = true; // false in snapshot mode: the window's visibility leaves the cadence alone
+    };
+
+    explicit AppModel(Setup setup);
+    ~AppModel() override;
+
+    // Published state.
+    VexelSettings settings;
+    std::optional<Frame> frame;
+    Route route = Route::overview;
+    std::optional<std::string> selectedApp;
+    std::string appSearch;
+    HistoryRange historyRange = HistoryRange::today;
+    std::optional<Sampler::HistoryResult> history;
+    bool historyLoading = false;
+    std::vector<Spike> awaySpikes;
+    std::optional<double> awaySince;
+    std::vector<ProjectGroup> servers;
+    std::vector<ListenSocket> listeners;
+    bool serversLoaded = false;
+    std::optional<DockerState> docker;
+    std::optional<HistoryStore::Totals> today;
+    std::vector<DayTotal> week;
+    std::vector<SysPoint> todaySeries;
+    std::optional<int64_t> historyBytes;
+    std::optional<ConfirmRequest> confirm;
+    std::optional<std::string> toast;
+    std::optional<std::string> storeError;
+    RecentRing ring;
+    bool windowVisible = false;
+    int cores = 1;
+    std::optional<std::string> loginItemError; // shown under "Open Vexel at login"
+
+    // Lifecycle.
+    void start(); // a full refresh, then the timer
+    void setWindowVisible(bool visible);
+    void changeSettings(const VexelSettings& changed);
+    void shutdown(); // the timer stops, lastSeen is saved
+    void setRoute(Route next);
+    void setHistoryRange(HistoryRange range);
+
+    // One tick: dropped when the previous one is still running.
+    void refresh(bool full);
+    [[nodiscard]] bool busy() const { return m_busy; }
+
+    void loadHistory();
+    void loadHistorySync();
+    void prepareAway();
+    void dismissAway();
+    void eraseHistory();
+
+    // The confirmation sheet's two buttons, and the toast's close button.
+    void confirmPending();
+    void cancelPending();
+    void dismissToast();
+    [[nodiscard]] ActionFlow& actions() { return *m_flow; }
+
+    [[nodiscard]] Strain strain(MenuItemKind kind) const;
+    [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return ring.peak(field); }
+    [[nodiscard]] std::vector<AppGroup> apps(AppSort by, size_t limit) const;
+
+    // "Open Vexel at login": the autostart entry of the desktop session.
+    void setOpenAtLogin(bool open);
+    [[nodiscard]] bool opensAtLogin() const;
+
+    // Seconds between ticks now.
+    [[nodiscard]] double tickSeconds() const { return Cadence::tickSeconds(windowVisible, settings); }
+
+signals:
+    void changed(unsigned what);
+
+private:
+    void schedule();
+    void apply(TickResult result);
+    void saveSettings();
+    void notify(unsigned what) { emit changed(what); }
+
+    VexelPaths m_paths;
+    std::function<double()> m_clock;
+    bool m_observesVisibility;
+    Cadence m_cadence;
+    QTimer m_timer;
+    bool m_busy = false;
+    std::optional<std::string> m_openError;
+    std::unique_ptr<ProcessActions> m_actions;
+    std::unique_ptr<ActionFlow> m_flow;
+    std::unique_ptr<SamplerThread> m_sampler; // last: stopped first, before what its results reach
+};
+
+} // namespace vexel

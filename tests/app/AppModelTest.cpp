@@ -1,0 +1,165 @@
+// The model on the demo world, offscreen: ticks on the sampler's thread, the
+// drop of an overlapping tick, the away card, erasing history, quitting
+// through the sheet, the login item, and lastSeen at quit.
+
+#include "model/AppModel.h"
+#include "actions/FakeActions.h"
+#include "support/TempFolder.h"
+#include "synth/DemoWorld.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+
+using namespace vexel;
+
+namespace {
+
+struct DemoModel {
+    vexel::testing::TempFolder folder{"vexel-model"};
+    DemoWorld world;
+    double now = world.now();
+    std::atomic<int> readings{0};
+    std::string samplerThreadName;
+    FakeActions* fake = nullptr;
+    std::unique_ptr<AppModel> model;
+
+    explicit DemoModel(const std::function<void(VexelSettings&)>& adjust = {})
+    {
+        VexelSettings settings;
+        if (adjust)
+            adjust(settings);
+        settings.save(VexelPaths(folder.path()).settings());
+        auto actions = std::make_unique<FakeActions>();
+        fake = actions.get();
+        model = std::make_unique<AppModel>(AppModel::Setup{VexelPaths(folder.path()),
+            [this] {
+                samplerThreadName = QThread::currentThread()->objectName().toStdString();
+                const VexelPaths paths(folder.path());
+                std::optional<std::string> error;
+                auto sampler = std::make_unique<Sampler>(
+                    world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
+                sampler->beforeSample = [this](double at) {
+                    ++readings;
+                    world.advance(at - world.now());
+                };
+                return sampler;
+            },
+            std::move(actions), [this] { return now; }, 501, 99999, true});
+    }
+
+    // Waits for the tick in flight to come back.
+    void settle() const
+    {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !model->busy(); }, 10000));
+    }
+};
+
+} // namespace
+
+TEST(AppModel, TicksRunOnTheSamplerThreadAndNeverOverlap)
+{
+    DemoModel demo;
+    EXPECT_EQ(demo.samplerThreadName, "dev.vexel.Vexel.sampler");
+    EXPECT_FALSE(demo.model->frame); // "Taking the first reading…"
+    QSignalSpy changes(demo.model.get(), &AppModel::changed);
+    demo.model->refresh(true);
+    demo.model->refresh(false); // while the first is in flight: dropped, not queued
+    demo.settle();
+    EXPECT_EQ(demo.readings, 1);
+    ASSERT_TRUE(demo.model->frame);
+    EXPECT_TRUE(demo.model->serversLoaded); // the first tick is full
+    EXPECT_TRUE(demo.model->docker);
+    EXPECT_EQ(demo.model->ring.samples().size(), 1u);
+    EXPECT_FALSE(changes.isEmpty());
+    EXPECT_TRUE(changes.last().at(0).toUInt() & AppModel::frameChanged);
+    demo.now += 2;
+    demo.model->refresh(false);
+    demo.settle();
+    EXPECT_EQ(demo.readings, 2);
+    EXPECT_EQ(demo.model->ring.samples().size(), 2u);
+    EXPECT_EQ(demo.model->tickSeconds(), 5); // hidden: the settings' interval
+}
+
+TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
+{
+    for (const auto& [minutes, shown] : {std::pair{11, true}, std::pair{9, false}}) {
+        DemoModel demo([&](VexelSettings& settings) { settings.lastSeen = 1'795'000'000.0 - minutes * 60; });
+        demo.now = 1'795'000'000.0;
+        demo.model->setWindowVisible(true);
+        demo.settle();
+        EXPECT_EQ(demo.model->awaySince.has_value(), shown) << minutes << " minutes";
+        EXPECT_EQ(demo.model->tickSeconds(), 2);
+        demo.model->dismissAway();
+        EXPECT_FALSE(demo.model->awaySince);
+    }
+}
+
+TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
+{
+    DemoModel demo;
+    demo.model->refresh(true);
+    demo.settle();
+    for (int i = 1; i <= 40; ++i) {
+        demo.now += 2;
+        demo.model->refresh(false);
+        demo.settle();
+    }
+    demo.model->loadHistorySync();
+    ASSERT_TRUE(demo.model->history);
+    EXPECT_FALSE(demo.model->history->points.empty());
+
+    demo.model->eraseHistory();
+    ASSERT_TRUE(demo.model->confirm);
+    EXPECT_EQ(demo.model->confirm->title, "Erase all history?");
+    EXPECT_EQ(demo.model->confirm->message,
+        "Vexel forgets every sample it has kept, up to a year. This can't be undone. New samples start right away.");
+    demo.model->cancelPending();
+    demo.model->loadHistorySync();
+    EXPECT_FALSE(demo.model->history->points.empty()); // cancel changed nothing
+    demo.model->eraseHistory();
+    demo.model->confirmPending();
+    demo.model->loadHistorySync();
+    EXPECT_TRUE(demo.model->history->points.empty());
+
+    const auto apps = demo.model->apps(AppSort::memory, 100);
+    const auto quittable = std::find_if(
+        apps.begin(), apps.end(), [](const AppGroup& app) { return ActionFlow::canQuit(app, 501, 99999); });
+    ASSERT_NE(quittable, apps.end());
+    demo.model->actions().requestQuit(*quittable, false);
+    ASSERT_TRUE(demo.model->confirm);
+    EXPECT_TRUE(demo.fake->log.empty()); // asked, not done
+    demo.model->confirmPending();
+    EXPECT_EQ(demo.fake->log, std::vector<std::string>{"quit " + quittable->name});
+    EXPECT_EQ(demo.model->toast, "Asked " + quittable->name + " to quit.");
+}
+
+TEST(AppModel, LoginItemAndLastSeen)
+{
+    DemoModel demo;
+    const auto config = demo.folder.path() / "config";
+    ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
+    demo.model->setOpenAtLogin(true);
+    EXPECT_FALSE(demo.model->loginItemError);
+    EXPECT_TRUE(demo.model->opensAtLogin());
+    std::ifstream entry(config / "autostart" / "dev.vexel.Vexel.desktop");
+    std::string text((std::istreambuf_iterator<char>(entry)), std::istreambuf_iterator<char>());
+    EXPECT_NE(text.find("Exec="), std::string::npos);
+    EXPECT_NE(text.find(" --hidden\n"), std::string::npos);
+    demo.model->setOpenAtLogin(false);
+    EXPECT_FALSE(demo.model->opensAtLogin());
+    std::ofstream(demo.folder.path() / "a-file") << "x";
+    ::setenv("XDG_CONFIG_HOME", (demo.folder.path() / "a-file").c_str(), 1);
+    demo.model->setOpenAtLogin(true);
+    EXPECT_TRUE(demo.model->loginItemError); // shown under the control
+    ::unsetenv("XDG_CONFIG_HOME");
+
+    demo.now = 1'800'000'000;
+    demo.model->shutdown();
+    EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).lastSeen, 1'800'000'000);
+}
