@@ -2,10 +2,19 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "actions/LiveActions.h"
+#include "model/AppModel.h"
 #include "recorder/HeadlessRecorder.h"
+#include "recorder/RecorderLock.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QSocketNotifier>
 #include <QStyleHints>
+
+#include <csignal>
+#include <sys/signalfd.h>
+#include <unistd.h>
 
 #include <string_view>
 
@@ -19,6 +28,71 @@ Appearance systemAppearance()
     return palette.color(QPalette::Window).lightness() < 128 ? Appearance::dark : Appearance::light;
 }
 
+// Tells the model when the window comes and goes, which sets the cadence.
+class VisibilityWatch final : public QObject {
+public:
+    VisibilityWatch(QWidget& window, AppModel& model)
+        : m_model(model)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show)
+            m_model.setWindowVisible(true);
+        else if (event->type() == QEvent::Hide)
+            m_model.setWindowVisible(false);
+        return false;
+    }
+
+private:
+    AppModel& m_model;
+};
+
+// SIGTERM (the session ending, systemd stopping it) and Ctrl-C quit the app
+// the ordinary way, so that the waiting minute is written and lastSeen saved.
+void quitOnStopSignals(QCoreApplication& app)
+{
+    sigset_t stops;
+    sigemptyset(&stops);
+    sigaddset(&stops, SIGTERM);
+    sigaddset(&stops, SIGINT);
+    ::pthread_sigmask(SIG_BLOCK, &stops, nullptr);
+    const int fd = ::signalfd(-1, &stops, SFD_CLOEXEC | SFD_NONBLOCK);
+    if (fd < 0)
+        return;
+    auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, &app);
+    QObject::connect(notifier, &QSocketNotifier::activated, &app, [fd] {
+        signalfd_siginfo info{};
+        while (::read(fd, &info, sizeof info) == static_cast<ssize_t>(sizeof info)) { }
+        QCoreApplication::quit();
+    });
+}
+
+AppModel::Setup liveSetup(const VexelPaths& paths, const RecorderLock& lock)
+{
+    std::optional<std::string> why;
+    if (!lock.held())
+        why = lock.holder() ? "Vexel's recorder (process " + std::to_string(*lock.holder())
+                + ") keeps the history; this window shows it without writing."
+                            : lock.error().value_or("Couldn't take the history's lock.");
+    const bool records = lock.held();
+    return {paths,
+        [paths, records, why] {
+            std::optional<std::string> error;
+            auto store = records ? Sampler::openStore(paths, error) : nullptr;
+            auto sampler = std::make_unique<Sampler>(Monitor::live(), std::move(store), paths);
+            if (why)
+                sampler->setOpenError(*why);
+            else if (error)
+                sampler->setOpenError("Couldn't open the history: " + *error);
+            return sampler;
+        },
+        std::make_unique<LiveActions>(), currentTime, static_cast<uint32_t>(::geteuid()),
+        static_cast<int32_t>(::getpid()), true};
+}
+
 } // namespace
 
 int runDesktopApp(int& argc, char** argv)
@@ -27,12 +101,30 @@ int runDesktopApp(int& argc, char** argv)
     for (int i = 1; i < argc; ++i)
         if (std::string_view(argv[i]) == "--headless")
             return runHeadlessRecorder();
+    // Blocked before any thread starts, so that every thread leaves them to the signalfd.
+    sigset_t stops;
+    sigemptyset(&stops);
+    sigaddset(&stops, SIGTERM);
+    sigaddset(&stops, SIGINT);
+    ::pthread_sigmask(SIG_BLOCK, &stops, nullptr);
     QApplication app(argc, argv);
+    quitOnStopSignals(app);
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
+    const auto paths = VexelPaths::standard();
+    // Only one process records: with a recorder already running, this window
+    // shows the history without writing beside it.
+    const RecorderLock lock(paths.dir);
+    AppModel model(liveSetup(paths, lock));
     MainWindow window(systemAppearance());
+    VisibilityWatch watch(window, model);
+    QObject::connect(&window, &MainWindow::routeChanged, &model, &AppModel::setRoute);
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
+    model.start();
+    // Until the panel carries the readings, the window is the way back: it
+    // always opens, even when started with --hidden at login.
     window.show();
     return QApplication::exec();
 }

@@ -21,6 +21,8 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
   # tests run ps and python3 servers, and watch a whole session under strace
   procps python3 strace
+  # the desktop app runs for real on a virtual display
+  xvfb xauth
 )
 
 case "${1:-test}" in

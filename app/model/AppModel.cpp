@@ -57,7 +57,7 @@ AppModel::AppModel(Setup setup)
     m_sampler = std::make_unique<SamplerThread>(std::move(setup.buildSampler));
     m_sampler->run([this](Sampler& sampler) {
         if (sampler.openError())
-            m_openError = "Couldn't open the history: " + *sampler.openError();
+            m_openError = *sampler.openError();
     });
     storeError = m_openError;
     m_timer.callOnTimeout(this, [this] { refresh(false); });

@@ -32,8 +32,8 @@ public:
         std::optional<double> first; // the oldest stored sample
     };
 
-    // `store` is absent when the history could not be opened: then nothing is
-    // recorded and `openError` says why.
+    // `store` is absent when the history could not be opened or another
+    // process records it: then nothing is recorded, and `setOpenError` says why.
     Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore> store, VexelPaths paths,
         TimeZone zone = TimeZone::current());
 
@@ -52,6 +52,8 @@ public:
 
     [[nodiscard]] bool recording() const { return m_store != nullptr; }
     [[nodiscard]] const std::optional<std::string>& openError() const { return m_openError; }
+    // Why there is no store, in words for the user.
+    void setOpenError(std::string why) { m_openError = std::move(why); }
 
 private:
     void record(const Frame& frame, double now, TickResult& result);
