@@ -46,7 +46,7 @@ AppModel::AppModel(Setup setup)
         [this] {
             // The stopped server leaves the list at the next scan, about a second on.
             QTimer::singleShot(1000, this, [this] {
-                m_cadence = Cadence();
+                m_cadence.requestPorts();
                 refresh(false);
             });
         },

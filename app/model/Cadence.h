@@ -28,6 +28,9 @@ public:
     // slow reading due at once.
     [[nodiscard]] TickPlan plan(double now, bool full, View view, const VexelSettings& settings);
 
+    // The next plan scans ports whatever the interval (a server was just stopped).
+    void requestPorts() { m_lastPorts.reset(); }
+
 private:
     // Due when never taken or at least `interval` seconds ago; taken now if due.
     static bool take(std::optional<double>& last, double now, double interval, bool full);

@@ -95,6 +95,9 @@ TEST(Cadence, VisibleFollowsThePage)
     EXPECT_EQ(taken.network, network);
     EXPECT_EQ(taken.ports, every(8, 0, 119)); // elsewhere every five minutes: not again in this run
     EXPECT_EQ(taken.docker, every(16, 0, 119)); // leaving Developers stops containers
+    cadence.requestPorts(); // a server was stopped: the next tick scans, wherever the user is
+    EXPECT_TRUE(cadence.plan(1242, false, view(1242), settings).ports);
+    EXPECT_FALSE(cadence.plan(1244, false, view(1244), settings).ports);
     const auto plan = cadence.plan(2000, true, view(2000), settings);
     EXPECT_TRUE(plan.everyone && plan.network && plan.ports && plan.docker && plan.compact && plan.totals);
 }
