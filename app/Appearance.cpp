@@ -82,4 +82,9 @@ QColor secondaryText(Appearance appearance)
     return appearance == Appearance::dark ? QColor(0x9a, 0x9b, 0xa1) : QColor(0x6e, 0x6e, 0x73);
 }
 
+QColor destructive(Appearance appearance)
+{
+    return appearance == Appearance::dark ? QColor(0xff, 0x6b, 0x63) : QColor(0xd7, 0x26, 0x1e);
+}
+
 } // namespace vexel::Look

@@ -29,5 +29,8 @@ bool installFont();
 // Secondary text, for explanations under a figure.
 [[nodiscard]] QColor secondaryText(Appearance appearance);
 
+// The text of a button whose action destroys something (Force Quit, Erase).
+[[nodiscard]] QColor destructive(Appearance appearance);
+
 } // namespace Look
 } // namespace vexel

@@ -120,6 +120,7 @@ int runDesktopApp(int& argc, char** argv)
     AppModel model(liveSetup(paths, lock));
     MainWindow window(systemAppearance());
     VisibilityWatch watch(window, model);
+    window.bind(model);
     QObject::connect(&window, &MainWindow::routeChanged, &model, &AppModel::setRoute);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
     model.start();

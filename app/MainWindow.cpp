@@ -1,6 +1,8 @@
 #include "MainWindow.h"
 
+#include "ConfirmSheet.h"
 #include "SidebarDelegate.h"
+#include "model/AppModel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,7 +31,22 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(buildPlaceholder(appearance));
     layout->addWidget(m_pages, 1);
+    m_sheet = new ConfirmSheet(appearance, this);
+    m_toast = new ToastBar(appearance, this);
     resize(960, 620);
+}
+
+void MainWindow::bind(AppModel& model)
+{
+    connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
+        if (what & AppModel::confirmChanged)
+            m_sheet->show(model.confirm ? &*model.confirm : nullptr);
+        if (what & AppModel::toastChanged)
+            m_toast->show(model.toast);
+    });
+    connect(m_sheet, &ConfirmSheet::confirmed, &model, &AppModel::confirmPending);
+    connect(m_sheet, &ConfirmSheet::cancelled, &model, &AppModel::cancelPending);
+    connect(m_toast, &ToastBar::closed, &model, &AppModel::dismissToast);
 }
 
 QWidget* MainWindow::buildSidebar(Appearance appearance)

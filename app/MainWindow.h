@@ -11,6 +11,10 @@ class QStackedWidget;
 
 namespace vexel {
 
+class AppModel;
+class ConfirmSheet;
+class ToastBar;
+
 // The main window: the sidebar of routes beside the page in view. Until the
 // first frame arrives every page says that the first reading is being taken.
 class MainWindow final : public QWidget {
@@ -27,6 +31,11 @@ public:
     // The text the page area shows.
     [[nodiscard]] QString pageText() const;
 
+    // Shows the model's questions and toasts, and answers them back.
+    void bind(AppModel& model);
+    [[nodiscard]] ConfirmSheet* sheet() const { return m_sheet; }
+    [[nodiscard]] ToastBar* toast() const { return m_toast; }
+
 signals:
     void routeChanged(vexel::Route route);
 
@@ -37,6 +46,8 @@ private:
     QListWidget* m_sidebar = nullptr;
     QStackedWidget* m_pages = nullptr;
     QLabel* m_placeholder = nullptr;
+    ConfirmSheet* m_sheet = nullptr;
+    ToastBar* m_toast = nullptr;
 };
 
 } // namespace vexel

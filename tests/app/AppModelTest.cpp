@@ -3,10 +3,13 @@
 // through the sheet, the login item, and lastSeen at quit.
 
 #include "model/AppModel.h"
+#include "ConfirmSheet.h"
+#include "MainWindow.h"
 #include "actions/FakeActions.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
 
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -162,4 +165,41 @@ TEST(AppModel, LoginItemAndLastSeen)
     demo.now = 1'800'000'000;
     demo.model->shutdown();
     EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).lastSeen, 1'800'000'000);
+}
+
+// The sheet and the toast in the window: what the model asks is shown, and
+// the buttons answer it.
+TEST(AppModel, TheWindowAsksAndToasts)
+{
+    DemoModel demo;
+    demo.model->refresh(true);
+    demo.settle();
+    MainWindow window(Appearance::light);
+    window.bind(*demo.model);
+    window.show();
+    const auto apps = demo.model->apps(AppSort::memory, 100);
+    const auto app = std::find_if(
+        apps.begin(), apps.end(), [](const AppGroup& group) { return ActionFlow::canQuit(group, 501, 99999); });
+    ASSERT_NE(app, apps.end());
+    demo.model->actions().requestQuit(*app, true);
+    ASSERT_TRUE(window.sheet()->isVisible());
+    EXPECT_EQ(window.sheet()->titleText().toStdString(), "Force quit " + app->name + "?");
+    EXPECT_EQ(window.sheet()->confirmButton()->text(), QStringLiteral("Force Quit"));
+    if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
+        window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/confirm-forcequit-light.png"));
+    window.sheet()->cancelButton()->click();
+    EXPECT_FALSE(demo.model->confirm);
+    EXPECT_FALSE(window.sheet()->isVisible());
+    EXPECT_TRUE(demo.fake->log.empty());
+
+    demo.model->actions().requestQuit(*app, false);
+    window.sheet()->confirmButton()->click();
+    EXPECT_EQ(demo.fake->log, std::vector<std::string>{"quit " + app->name});
+    ASSERT_TRUE(window.toast()->isVisible());
+    EXPECT_EQ(window.toast()->text().toStdString(), "Asked " + app->name + " to quit.");
+    if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
+        window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/toast-light.png"));
+    window.toast()->closeButton()->click();
+    EXPECT_FALSE(demo.model->toast);
+    EXPECT_FALSE(window.toast()->isVisible());
 }

@@ -1,0 +1,137 @@
+#include "ConfirmSheet.h"
+
+#include "actions/ActionFlow.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+namespace {
+
+constexpr int sheetWidth = 420;
+constexpr int toastHeight = 40;
+
+} // namespace
+
+ConfirmSheet::ConfirmSheet(Appearance appearance, QWidget* parent)
+    : QFrame(parent)
+    , m_appearance(appearance)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    // Lifted off the page: the base colour, a step brighter (or darker) than the window.
+    QPalette palette = Look::palette(appearance);
+    palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+    setPalette(palette);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(22, 20, 22, 16);
+    layout->setSpacing(10);
+    m_title = new QLabel(this);
+    m_title->setFont(Look::font(14, QFont::DemiBold));
+    m_title->setWordWrap(true);
+    m_message = new QLabel(this);
+    m_message->setFont(Look::font(12));
+    m_message->setWordWrap(true);
+    layout->addWidget(m_title);
+    layout->addWidget(m_message);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    m_cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    m_cancel->setDefault(true);
+    m_confirm = new QPushButton(this);
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_confirm);
+    layout->addLayout(buttons);
+    connect(m_cancel, &QPushButton::clicked, this, &ConfirmSheet::cancelled);
+    connect(m_confirm, &QPushButton::clicked, this, &ConfirmSheet::confirmed);
+    hide();
+}
+
+void ConfirmSheet::show(const ConfirmRequest* request)
+{
+    if (request == nullptr) {
+        hide();
+        return;
+    }
+    m_title->setText(QString::fromStdString(request->title));
+    m_message->setText(QString::fromStdString(request->message));
+    m_confirm->setText(QString::fromStdString(request->button));
+    QPalette palette = Look::palette(m_appearance);
+    palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+    if (request->destructive)
+        palette.setColor(QPalette::ButtonText, Look::destructive(m_appearance));
+    m_confirm->setPalette(palette);
+    place();
+    QFrame::show();
+    raise();
+    m_cancel->setFocus();
+}
+
+void ConfirmSheet::place()
+{
+    const int width = std::min(sheetWidth, parentWidget()->width() - 40);
+    setFixedWidth(width);
+    adjustSize();
+    move((parentWidget()->width() - width) / 2, 24);
+}
+
+QString ConfirmSheet::titleText() const
+{
+    return m_title->text();
+}
+
+QString ConfirmSheet::messageText() const
+{
+    return m_message->text();
+}
+
+ToastBar::ToastBar(Appearance appearance, QWidget* parent)
+    : QFrame(parent)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    QPalette palette = Look::palette(appearance);
+    palette.setColor(QPalette::Window, Look::sidebar(appearance));
+    setPalette(palette);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 0, 6, 0);
+    m_text = new QLabel(this);
+    m_text->setFont(Look::font(12));
+    m_close = new QPushButton(QStringLiteral("×"), this);
+    m_close->setFlat(true);
+    m_close->setToolTip(QStringLiteral("Close"));
+    m_close->setFixedWidth(28);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_close);
+    connect(m_close, &QPushButton::clicked, this, &ToastBar::closed);
+    hide();
+}
+
+void ToastBar::show(const std::optional<std::string>& text)
+{
+    if (!text) {
+        hide();
+        return;
+    }
+    m_text->setText(QString::fromStdString(*text));
+    place();
+    QFrame::show();
+    raise();
+}
+
+void ToastBar::place()
+{
+    const int width = std::min(parentWidget()->width() - 260, 520);
+    setFixedSize(std::max(width, 240), toastHeight);
+    move(parentWidget()->width() - this->width() - 20, parentWidget()->height() - toastHeight - 20);
+}
+
+QString ToastBar::text() const
+{
+    return m_text->text();
+}
+
+} // namespace vexel

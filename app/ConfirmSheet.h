@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <QFrame>
+
+class QLabel;
+class QPushButton;
+
+namespace vexel {
+
+struct ConfirmRequest;
+
+// The question asked before anything changes, drawn over the top of the
+// window: title, message, Cancel and the action's own button (red when it
+// destroys something). Cancel is the default, so Return never destroys.
+class ConfirmSheet final : public QFrame {
+    Q_OBJECT
+
+public:
+    ConfirmSheet(Appearance appearance, QWidget* parent);
+
+    // Shows the request, or hides the sheet when there is none.
+    void show(const ConfirmRequest* request);
+
+    [[nodiscard]] QString titleText() const;
+    [[nodiscard]] QString messageText() const;
+    [[nodiscard]] QPushButton* confirmButton() const { return m_confirm; }
+    [[nodiscard]] QPushButton* cancelButton() const { return m_cancel; }
+
+signals:
+    void confirmed();
+    void cancelled();
+
+private:
+    void place();
+
+    Appearance m_appearance;
+    QLabel* m_title = nullptr;
+    QLabel* m_message = nullptr;
+    QPushButton* m_cancel = nullptr;
+    QPushButton* m_confirm = nullptr;
+};
+
+// A one-line message at the foot of the window with its close button.
+class ToastBar final : public QFrame {
+    Q_OBJECT
+
+public:
+    ToastBar(Appearance appearance, QWidget* parent);
+
+    // Shows the text, or hides the bar when there is none.
+    void show(const std::optional<std::string>& text);
+    [[nodiscard]] QString text() const;
+    [[nodiscard]] QPushButton* closeButton() const { return m_close; }
+
+signals:
+    void closed();
+
+private:
+    void place();
+
+    QLabel* m_text = nullptr;
+    QPushButton* m_close = nullptr;
+};
+
+} // namespace vexel
