@@ -4,8 +4,10 @@
 #include "MainWindow.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
+#include "platform/Environment.h"
 #include "recorder/HeadlessRecorder.h"
 #include "recorder/RecorderLock.h"
+#include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -107,12 +109,18 @@ int runDesktopApp(int& argc, char** argv)
     sigaddset(&stops, SIGTERM);
     sigaddset(&stops, SIGINT);
     ::pthread_sigmask(SIG_BLOCK, &stops, nullptr);
+    // Pictures need no display: offscreen, unless the app is to stay open.
+    const auto snapshot = SnapshotOptions::from(environmentVariable);
+    if (snapshot && !snapshot->stay)
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication app(argc, argv);
     quitOnStopSignals(app);
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
+    if (snapshot)
+        return runSnapshotMode(*snapshot);
     const auto paths = VexelPaths::standard();
     // Only one process records: with a recorder already running, this window
     // shows the history without writing beside it.

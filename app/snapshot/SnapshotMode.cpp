@@ -1,0 +1,129 @@
+#include "snapshot/SnapshotMode.h"
+
+#include "Appearance.h"
+#include "MainWindow.h"
+#include "actions/FakeActions.h"
+#include "model/AppModel.h"
+#include "synth/DemoWorld.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <iostream>
+
+namespace vexel {
+
+namespace {
+
+// Lets queued results arrive until the model's tick in flight is back.
+void settle(AppModel& model)
+{
+    while (model.busy())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+}
+
+// The demo world's model in a data folder of its own: nothing of the user's is read or written.
+std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::path& folder)
+{
+    const VexelPaths paths(folder);
+    return std::make_unique<AppModel>(AppModel::Setup{paths,
+        [&world, paths] {
+            std::optional<std::string> error;
+            auto sampler = std::make_unique<Sampler>(world.monitor(), Sampler::openStore(paths, error), paths);
+            // Each tick reads the world two seconds on.
+            sampler->beforeSample = [&world](double) { world.advance(2); };
+            return sampler;
+        },
+        std::make_unique<FakeActions>(), [&world] { return world.now(); }, 501, 0, false});
+}
+
+void save(const QPixmap& picture, const SnapshotOptions& options, const std::string& name)
+{
+    if (!options.wants(name))
+        return;
+    const auto file = options.folder / name;
+    if (!picture.save(QString::fromStdString(file.string())))
+        std::cerr << "Couldn't write " << file.string() << "\n";
+}
+
+} // namespace
+
+std::optional<SnapshotOptions> SnapshotOptions::from(
+    const std::function<std::optional<std::string>(const char*)>& getenv)
+{
+    const auto folder = getenv("VEXEL_SNAPSHOT_DIR");
+    if (!folder || folder->empty())
+        return std::nullopt;
+    SnapshotOptions options;
+    options.folder = *folder;
+    std::string word;
+    for (const char c : getenv("VEXEL_SNAPSHOT_ONLY").value_or("") + ",") {
+        if (c == ',' || c == ' ' || c == '\t') {
+            if (!word.empty())
+                options.only.insert(word);
+            word.clear();
+        } else {
+            word += c;
+        }
+    }
+    const auto stay = getenv("VEXEL_SNAPSHOT_STAY");
+    options.stay = stay && !stay->empty() && *stay != "0";
+    return options;
+}
+
+bool SnapshotOptions::wants(const std::string& name) const
+{
+    if (only.empty())
+        return true;
+    for (const auto& wanted : only)
+        if (name == wanted || name.starts_with(wanted))
+            return true;
+    return false;
+}
+
+int runSnapshotMode(const SnapshotOptions& options)
+{
+    std::error_code error;
+    std::filesystem::create_directories(options.folder, error);
+    QTemporaryDir data;
+    if (error || !data.isValid()) {
+        std::cerr << "Couldn't prepare " << options.folder.string() << ": " << error.message() << "\n";
+        return 1;
+    }
+    DemoWorld world;
+    auto model = demoModel(world, data.path().toStdString());
+    for (int tick = 0; tick < 3; ++tick) {
+        model->refresh(tick == 0);
+        settle(*model);
+    }
+    model->loadHistorySync();
+
+    for (const auto appearance : {Appearance::light, Appearance::dark}) {
+        const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
+        MainWindow window(appearance);
+        window.bind(*model);
+        window.show();
+        save(window.grab(), options, "window-" + suffix);
+        // The confirmation of a force quit, on the app with the most helpers.
+        const auto apps = model->apps(AppSort::memory, 100);
+        const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
+            return (a.kind == AppKind::app ? a.processes.size() : 0)
+                < (b.kind == AppKind::app ? b.processes.size() : 0);
+        });
+        if (busiest != apps.end()) {
+            model->actions().requestQuit(*busiest, true);
+            save(window.grab(), options, "confirm-forcequit-" + suffix);
+            model->cancelPending();
+        }
+    }
+    if (!options.stay)
+        return 0;
+    MainWindow window(Appearance::light);
+    window.bind(*model);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace vexel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace vexel {
+
+// Pictures of the app on the demo world, for the README and for looking at
+// what a change did: VEXEL_SNAPSHOT_DIR names the folder, VEXEL_SNAPSHOT_ONLY
+// the pictures wanted (names or name prefixes, separated by commas or
+// blanks), VEXEL_SNAPSHOT_STAY keeps the app open afterwards.
+struct SnapshotOptions {
+    std::filesystem::path folder;
+    std::set<std::string> only; // empty: every picture
+    bool stay = false;
+
+    // The options of this environment; nothing without VEXEL_SNAPSHOT_DIR.
+    [[nodiscard]] static std::optional<SnapshotOptions> from(
+        const std::function<std::optional<std::string>(const char*)>& getenv);
+    // Whether the picture `name` ("window-light.png") is wanted.
+    [[nodiscard]] bool wants(const std::string& name) const;
+};
+
+// Runs the app on the demo world with recording actions, writes the
+// pictures it knows in light and dark and quits (unless asked to stay).
+// Needs the QApplication made, offscreen unless the app is to stay.
+int runSnapshotMode(const SnapshotOptions& options);
+
+} // namespace vexel
