@@ -411,3 +411,61 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     EXPECT_NEAR(settings["lastSeen"].get<double>(), static_cast<double>(::time(nullptr)), 5 + ran.count());
     EXPECT_EQ(settings["sampleSeconds"], 1.0); // the user's settings kept
 }
+
+// The desktop app for real, on a virtual display: its window's cadence
+// records history, and SIGTERM quits it the ordinary way, writing what was
+// waiting and saving when it last ran.
+TEST(CliLive, TheDesktopAppRecordsAndQuitsOnSigterm)
+{
+    TempFolder data("vexel-live");
+    const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
+    ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
+    ChildProcess display({"xvfb-run", "-a", app});
+    ::unsetenv("VEXEL_DATA_DIR");
+    ASSERT_NE(display.pid(), 0);
+    // The app writes its pid into the lock once it records.
+    const auto lock = data.path() / "recorder.lock";
+    std::optional<int64_t> pid;
+    for (int look = 0; look < 300 && !pid; ++look) {
+        pid = TextScan::toI64(TextScan::trim(Files::read(lock.string()).value_or("")));
+        if (!pid)
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    ASSERT_TRUE(pid) << "the app never took the recorder's lock";
+    std::this_thread::sleep_for(std::chrono::milliseconds(4500)); // a visible window ticks every 2 s
+    ASSERT_EQ(::kill(static_cast<pid_t>(*pid), SIGTERM), 0);
+    const int status = display.wait();
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    const HistoryStore stored(data.path() / "history.sqlite", HistoryAccess::readOnly);
+    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
+    const json settings = json::parse(Files::read((data.path() / "settings.json").string()).value_or("{}"));
+    EXPECT_TRUE(settings.contains("lastSeen")) << settings.dump();
+}
+
+// Snapshot mode: the demo world's pictures, offscreen, the same from run to
+// run, and only those asked for.
+TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
+{
+    TempFolder first("vexel-snap");
+    TempFolder second("vexel-snap");
+    TempFolder some("vexel-snap");
+    const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
+    for (const auto* folder : {&first, &second})
+        ASSERT_EQ(runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", folder->path().string()}}, ""}).status, 0);
+    const std::vector<std::string> all{
+        "confirm-forcequit-dark.png", "confirm-forcequit-light.png", "window-dark.png", "window-light.png"};
+    for (const auto& name : all) {
+        const auto one = Files::read((first.path() / name).string(), 16 << 20);
+        ASSERT_TRUE(one) << name;
+        EXPECT_EQ(one, Files::read((second.path() / name).string(), 16 << 20)) << name << " differs between runs";
+    }
+    ASSERT_EQ(runTool({app},
+                  {{{"VEXEL_SNAPSHOT_DIR", some.path().string()}, {"VEXEL_SNAPSHOT_ONLY", "confirm-forcequit-"}}, ""})
+                  .status,
+        0);
+    std::vector<std::string> written;
+    for (const auto& entry : std::filesystem::directory_iterator(some.path()))
+        written.push_back(entry.path().filename().string());
+    std::sort(written.begin(), written.end());
+    EXPECT_EQ(written, (std::vector<std::string>{"confirm-forcequit-dark.png", "confirm-forcequit-light.png"}));
+}
