@@ -2,6 +2,7 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "StopSignals.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
 #include "platform/Environment.h"
@@ -56,11 +57,7 @@ private:
 // the ordinary way, so that the waiting minute is written and lastSeen saved.
 void quitOnStopSignals(QCoreApplication& app)
 {
-    sigset_t stops;
-    sigemptyset(&stops);
-    sigaddset(&stops, SIGTERM);
-    sigaddset(&stops, SIGINT);
-    ::pthread_sigmask(SIG_BLOCK, &stops, nullptr);
+    const sigset_t stops = stopSignals();
     const int fd = ::signalfd(-1, &stops, SFD_CLOEXEC | SFD_NONBLOCK);
     if (fd < 0)
         return;
@@ -103,12 +100,8 @@ int runDesktopApp(int& argc, char** argv)
     for (int i = 1; i < argc; ++i)
         if (std::string_view(argv[i]) == "--headless")
             return runHeadlessRecorder();
-    // Blocked before any thread starts, so that every thread leaves them to the signalfd.
-    sigset_t stops;
-    sigemptyset(&stops);
-    sigaddset(&stops, SIGTERM);
-    sigaddset(&stops, SIGINT);
-    ::pthread_sigmask(SIG_BLOCK, &stops, nullptr);
+    // Before any thread starts, so that every thread leaves them to the signalfd.
+    (void)blockStopSignals();
     // Pictures need no display: offscreen, unless the app is to stay open.
     const auto snapshot = SnapshotOptions::from(environmentVariable);
     if (snapshot && !snapshot->stay)

@@ -1,5 +1,6 @@
 #include "recorder/HeadlessRecorder.h"
 
+#include "StopSignals.h"
 #include "model/Cadence.h"
 #include "model/Sampler.h"
 #include "recorder/RecorderLock.h"
@@ -14,16 +15,6 @@
 namespace vexel {
 
 namespace {
-
-// The stop signals, blocked so that they wait to be taken between ticks.
-sigset_t stopSignals()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    sigaddset(&set, SIGTERM);
-    sigaddset(&set, SIGINT);
-    return set;
-}
 
 // Waits `seconds` for a stop signal; whether one came.
 bool stopRequested(const sigset_t& signals, double seconds)
@@ -48,8 +39,7 @@ HeadlessRecorder::HeadlessRecorder(Options options)
 
 int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
 {
-    const sigset_t signals = stopSignals();
-    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    const sigset_t signals = blockStopSignals();
     const auto& paths = m_options.paths;
     const RecorderLock lock(paths.dir);
     if (!lock.held()) {

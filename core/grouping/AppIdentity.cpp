@@ -215,6 +215,8 @@ Identity base(const ProcRecord& record, const BundleNameFunction& bundleName)
 
 Resolution resolveAll(const std::vector<ProcRecord>& records, const IdentityRules& rules, IdentityCache* cache)
 {
+    if (rules.refresh() && cache != nullptr)
+        cache->clear();
     Resolver resolver(records, rules, cache);
     Resolution resolution;
     resolution.indexOfRecord.reserve(records.size());

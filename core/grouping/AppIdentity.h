@@ -22,6 +22,11 @@ class IdentityRules {
 public:
     virtual ~IdentityRules() = default;
 
+    // Brings what the rules read (an index of installed apps) up to date,
+    // once per naming of a process list; true when names given before may no
+    // longer hold.
+    [[nodiscard]] virtual bool refresh() const { return false; }
+
     // The identity of a process taken alone, and the cache key that decides it.
     [[nodiscard]] virtual Identity base(const ProcRecord& record) const = 0;
     // Writes into `key` (reused from call to call) what decides the base identity.

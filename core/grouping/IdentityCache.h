@@ -28,6 +28,7 @@ public:
     }
 
     [[nodiscard]] size_t size() const { return m_base.size(); }
+    void clear() { m_base.clear(); }
 
 private:
     std::unordered_map<std::string, Identity> m_base;

@@ -102,19 +102,6 @@ TEST(Cadence, VisibleFollowsThePage)
     EXPECT_TRUE(plan.everyone && plan.network && plan.ports && plan.docker && plan.compact && plan.totals);
 }
 
-TEST(Cadence, SettingsReachThePlan)
-{
-    VexelSettings settings;
-    settings.retentionDays = 30;
-    settings.maxHistoryMB = 64;
-    settings.idleDays = 0.5;
-    Cadence cadence;
-    const auto plan = cadence.plan(0, true, {}, settings);
-    EXPECT_EQ(plan.retentionDays, 30);
-    EXPECT_EQ(plan.maxBytes, 64'000'000); // decimal megabytes
-    EXPECT_EQ(plan.idleAfter, 43200);
-}
-
 TEST(RecentRing, KeepsTheNewest150AndTheirPeaks)
 {
     RecentRing ring;

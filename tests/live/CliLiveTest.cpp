@@ -320,13 +320,7 @@ namespace {
 // child; its standard output comes back.
 std::string topAsNobodyWithProc(const std::filesystem::path& data, const char* procOptions)
 {
-    int output[2];
-    if (::pipe(output) != 0)
-        return {};
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(output[1], 1);
-        ::close(output[0]);
+    const auto run = runForked([&] {
         constexpr uid_t nobody = 65534;
         const bool ready = ::unshare(CLONE_NEWNS) == 0
             && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
@@ -339,18 +333,9 @@ std::string topAsNobodyWithProc(const std::filesystem::path& data, const char* p
             = {const_cast<char*>(vexelBinary.c_str()), const_cast<char*>("top"), const_cast<char*>("--json"), nullptr};
         char* envp[] = {const_cast<char*>(dataVariable.c_str()), const_cast<char*>("HOME=/nonexistent"), nullptr};
         ::execve(argv[0], argv, envp);
-        ::_exit(126);
-    }
-    ::close(output[1]);
-    std::string text;
-    char chunk[4096];
-    for (ssize_t got; (got = ::read(output[0], chunk, sizeof chunk)) > 0;)
-        text.append(chunk, static_cast<size_t>(got));
-    ::close(output[0]);
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
-    return text;
+    });
+    EXPECT_TRUE(WIFEXITED(run.status) && WEXITSTATUS(run.status) == 0) << "status " << run.status;
+    return run.output;
 }
 
 } // namespace

@@ -239,23 +239,9 @@ TEST(LiveMachine, AnotherUsersBusyLoopReadsBusyAtTheAppsCadence)
         GTEST_SKIP() << "needs root to run a process as another user; CI runs as root";
     vexel::testing::ChildProcess busy({"python3", "-c", "while True: pass"});
     ASSERT_NE(busy.pid(), 0);
-    int pipeFds[2];
-    ASSERT_EQ(::pipe(pipeFds), 0);
-    const pid_t sampler = ::fork();
-    ASSERT_GE(sampler, 0);
-    if (sampler == 0) {
-        ::close(pipeFds[0]);
-        sampleAsNobody(busy.pid(), pipeFds[1]);
-    }
-    ::close(pipeFds[1]);
-    std::string text;
-    char chunk[256];
-    for (ssize_t got; (got = ::read(pipeFds[0], chunk, sizeof chunk)) > 0;)
-        text.append(chunk, static_cast<size_t>(got));
-    ::close(pipeFds[0]);
-    int status = 0;
-    ASSERT_EQ(::waitpid(sampler, &status, 0), sampler);
-    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "sampler status " << status;
+    const auto sampled = vexel::testing::runForked([&] { sampleAsNobody(busy.pid(), 1); });
+    ASSERT_TRUE(WIFEXITED(sampled.status) && WEXITSTATUS(sampled.status) == 0) << "sampler status " << sampled.status;
+    const std::string& text = sampled.output;
 
     std::vector<double> rates;
     TextScan::forEachLine(text, [&](std::string_view line) { rates.push_back(std::stod(std::string(line))); });

@@ -77,4 +77,27 @@ int ChildProcess::wait()
     return status;
 }
 
+ForkedRun runForked(const std::function<void()>& child)
+{
+    ForkedRun run;
+    int output[2];
+    if (::pipe(output) != 0)
+        return run;
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        ::dup2(output[1], 1);
+        ::close(output[0]);
+        child();
+        ::_exit(127);
+    }
+    ::close(output[1]);
+    char chunk[4096];
+    for (ssize_t got; (got = ::read(output[0], chunk, sizeof chunk)) > 0;)
+        run.output.append(chunk, static_cast<size_t>(got));
+    ::close(output[0]);
+    if (pid > 0)
+        while (::waitpid(pid, &run.status, 0) < 0 && errno == EINTR) { }
+    return run;
+}
+
 } // namespace vexel::testing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -43,5 +44,16 @@ private:
     int m_output = -1;
     bool m_reaped = false;
 };
+
+// What a forked child wrote to its standard output, and how it ended.
+struct ForkedRun {
+    int status = -1; // its wait status; -1 when it could not be forked
+    std::string output;
+};
+
+// Runs `child` in a forked copy of this process with its standard output
+// going to a pipe, and waits for it. `child` must end with _exit or exec:
+// it never returns into the test.
+[[nodiscard]] ForkedRun runForked(const std::function<void()>& child);
 
 } // namespace vexel::testing

@@ -90,6 +90,15 @@ LinuxIdentityRules::LinuxIdentityRules(
 {
 }
 
+bool LinuxIdentityRules::refresh() const
+{
+    if (!m_source)
+        return false;
+    const auto before = m_source->generation();
+    (void)m_source->current();
+    return m_source->generation() != before;
+}
+
 const DesktopIndex* LinuxIdentityRules::index() const
 {
     return m_source ? m_source->last().get() : m_index.get();
@@ -250,13 +259,7 @@ Identity LinuxIdentityRules::base(const ProcRecord& record) const
 
 void LinuxIdentityRules::cacheKey(const ProcRecord& record, std::string& key) const
 {
-    // Every process's naming starts here, so the index is brought up to date
-    // here; a rebuilt index may name a process anew, so older names are not reused.
-    if (m_source)
-        (void)m_source->current();
-    key.assign(m_source ? std::to_string(m_source->generation()) : std::string());
-    key += '\x1f';
-    key += record.name;
+    key.assign(record.name);
     key += '\x1f';
     key += record.path.value_or("");
     key += '\x1f';

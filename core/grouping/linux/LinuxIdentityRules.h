@@ -22,6 +22,7 @@ public:
     LinuxIdentityRules(
         std::shared_ptr<DesktopIndexSource> source, BundleNameFunction desktopName, uint32_t uidMin = 1000);
 
+    [[nodiscard]] bool refresh() const override;
     [[nodiscard]] Identity base(const ProcRecord& record) const override;
     void cacheKey(const ProcRecord& record, std::string& key) const override;
     [[nodiscard]] bool isLauncher(const ProcRecord& parent) const override;
