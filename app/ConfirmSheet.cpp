@@ -2,6 +2,7 @@
 
 #include "actions/ActionFlow.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,8 +17,21 @@ constexpr int toastHeight = 40;
 
 } // namespace
 
-ConfirmSheet::ConfirmSheet(Appearance appearance, QWidget* parent)
+OverlayFrame::OverlayFrame(QWidget* parent)
     : QFrame(parent)
+{
+    parent->installEventFilter(this);
+}
+
+bool OverlayFrame::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && isVisible())
+        place();
+    return false;
+}
+
+ConfirmSheet::ConfirmSheet(Appearance appearance, QWidget* parent)
+    : OverlayFrame(parent)
     , m_appearance(appearance)
 {
     setFrameShape(QFrame::StyledPanel);
@@ -89,7 +103,7 @@ QString ConfirmSheet::messageText() const
 }
 
 ToastBar::ToastBar(Appearance appearance, QWidget* parent)
-    : QFrame(parent)
+    : OverlayFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -97,9 +111,10 @@ ToastBar::ToastBar(Appearance appearance, QWidget* parent)
     palette.setColor(QPalette::Window, Look::sidebar(appearance));
     setPalette(palette);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(16, 0, 6, 0);
+    layout->setContentsMargins(16, 8, 6, 8);
     m_text = new QLabel(this);
     m_text->setFont(Look::font(12));
+    m_text->setWordWrap(true);
     m_close = new QPushButton(QStringLiteral("×"), this);
     m_close->setFlat(true);
     m_close->setToolTip(QStringLiteral("Close"));
@@ -124,9 +139,11 @@ void ToastBar::show(const std::optional<std::string>& text)
 
 void ToastBar::place()
 {
-    const int width = std::min(parentWidget()->width() - 260, 520);
-    setFixedSize(std::max(width, 240), toastHeight);
-    move(parentWidget()->width() - this->width() - 20, parentWidget()->height() - toastHeight - 20);
+    const int width = std::max(std::min(parentWidget()->width() - 260, 520), 240);
+    // A longer text wraps onto more lines; the bar grows upwards.
+    const int height = std::max(toastHeight, layout()->heightForWidth(width));
+    setFixedSize(width, height);
+    move(parentWidget()->width() - width - 20, parentWidget()->height() - height - 20);
 }
 
 QString ToastBar::text() const

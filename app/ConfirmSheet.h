@@ -11,10 +11,21 @@ namespace vexel {
 
 struct ConfirmRequest;
 
+// A frame drawn over the window's content that keeps its place when the
+// window is resized.
+class OverlayFrame : public QFrame {
+public:
+    explicit OverlayFrame(QWidget* parent);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    virtual void place() = 0;
+};
+
 // The question asked before anything changes, drawn over the top of the
 // window: title, message, Cancel and the action's own button (red when it
 // destroys something). Cancel is the default, so Return never destroys.
-class ConfirmSheet final : public QFrame {
+class ConfirmSheet final : public OverlayFrame {
     Q_OBJECT
 
 public:
@@ -33,7 +44,7 @@ signals:
     void cancelled();
 
 private:
-    void place();
+    void place() override;
 
     Appearance m_appearance;
     QLabel* m_title = nullptr;
@@ -42,8 +53,9 @@ private:
     QPushButton* m_confirm = nullptr;
 };
 
-// A one-line message at the foot of the window with its close button.
-class ToastBar final : public QFrame {
+// A short message at the foot of the window with its close button; a longer
+// one wraps.
+class ToastBar final : public OverlayFrame {
     Q_OBJECT
 
 public:
@@ -58,7 +70,7 @@ signals:
     void closed();
 
 private:
-    void place();
+    void place() override;
 
     QLabel* m_text = nullptr;
     QPushButton* m_close = nullptr;

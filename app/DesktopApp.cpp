@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "MainWindow.h"
 #include "StopSignals.h"
+#include "WindowKeeper.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
 #include "platform/Environment.h"
@@ -11,9 +12,9 @@
 #include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QSocketNotifier>
 #include <QStyleHints>
+#include <QSystemTrayIcon>
 
 #include <csignal>
 #include <sys/signalfd.h>
@@ -31,28 +32,6 @@ Appearance systemAppearance()
     return palette.color(QPalette::Window).lightness() < 128 ? Appearance::dark : Appearance::light;
 }
 
-// Tells the model when the window comes and goes, which sets the cadence.
-class VisibilityWatch final : public QObject {
-public:
-    VisibilityWatch(QWidget& window, AppModel& model)
-        : m_model(model)
-    {
-        window.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show)
-            m_model.setWindowVisible(true);
-        else if (event->type() == QEvent::Hide)
-            m_model.setWindowVisible(false);
-        return false;
-    }
-
-private:
-    AppModel& m_model;
-};
-
 // SIGTERM (the session ending, systemd stopping it) and Ctrl-C quit the app
 // the ordinary way, so that the waiting minute is written and lastSeen saved.
 void quitOnStopSignals(QCoreApplication& app)
@@ -65,7 +44,9 @@ void quitOnStopSignals(QCoreApplication& app)
     QObject::connect(notifier, &QSocketNotifier::activated, &app, [fd] {
         signalfd_siginfo info{};
         while (::read(fd, &info, sizeof info) == static_cast<ssize_t>(sizeof info)) { }
-        QCoreApplication::quit();
+        // exit, not quit: quit first asks the windows to close, and the
+        // window only minimises while it is the way back.
+        QCoreApplication::exit(0);
     });
 }
 
@@ -92,14 +73,21 @@ AppModel::Setup liveSetup(const VexelPaths& paths, const RecorderLock& lock)
         static_cast<int32_t>(::getpid()), true};
 }
 
+bool hasArgument(int argc, char** argv, std::string_view wanted)
+{
+    for (int i = 1; i < argc; ++i)
+        if (argv[i] == wanted)
+            return true;
+    return false;
+}
+
 } // namespace
 
 int runDesktopApp(int& argc, char** argv)
 {
     // Recording without a desktop needs no Qt at all.
-    for (int i = 1; i < argc; ++i)
-        if (std::string_view(argv[i]) == "--headless")
-            return runHeadlessRecorder();
+    if (hasArgument(argc, argv, "--headless"))
+        return runHeadlessRecorder();
     // Before any thread starts, so that every thread leaves them to the signalfd.
     (void)blockStopSignals();
     // Pictures need no display: offscreen, unless the app is to stay open.
@@ -120,14 +108,14 @@ int runDesktopApp(int& argc, char** argv)
     const RecorderLock lock(paths.dir);
     AppModel model(liveSetup(paths, lock));
     MainWindow window(systemAppearance());
-    VisibilityWatch watch(window, model);
     window.bind(model);
+    // The panel carries no readings yet: the window stays the way back.
+    WindowKeeper keeper(window, model, {.host = QSystemTrayIcon::isSystemTrayAvailable(), .carriesReadings = false});
     QObject::connect(&window, &MainWindow::routeChanged, &model, &AppModel::setRoute);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
     model.start();
-    // Until the panel carries the readings, the window is the way back: it
-    // always opens, even when started with --hidden at login.
-    window.show();
+    // At login the app starts with --hidden (the autostart entry).
+    keeper.showAtStart(hasArgument(argc, argv, "--hidden"));
     return QApplication::exec();
 }
 

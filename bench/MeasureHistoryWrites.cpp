@@ -1,6 +1,7 @@
 // Bytes written to storage per hour of history, as the desktop app would
 // write it: one simulated hour of 5-second samples with ten apps each,
-// compacted every minute, with a transaction per sample or per minute.
+// compacted every minute, with a transaction per sample or one per minute
+// that also compacts.
 // Usage: vexel_measure_history_writes FILE per-sample|per-minute
 
 #include "history/HistoryStore.h"
@@ -49,15 +50,18 @@ int measure(const char* file, bool batched)
             t += 5;
         };
         if (batched) {
+            // As the sampler does: the minute's samples and the compaction in one transaction.
             store.batch([&] {
                 for (int i = 0; i < 12; ++i)
                     sampleOnce();
+                store.compact(t, 365);
             });
+            store.vacuum();
         } else {
             for (int i = 0; i < 12; ++i)
                 store.batch(sampleOnce);
+            store.compact(t, 365);
         }
-        store.compact(t, 365);
     }
     std::printf("%.0f\n", writtenBytes() - before);
     return 0;

@@ -39,10 +39,7 @@ AppModel::AppModel(Setup setup)
                                 confirm = std::move(request);
                                 notify(confirmChanged);
                             },
-        [this](std::string text) {
-            toast = std::move(text);
-            notify(toastChanged);
-        },
+        [this](std::string text) { tell(std::move(text)); },
         [this] {
             // The stopped server leaves the list at the next scan, about a second on.
             QTimer::singleShot(1000, this, [this] {
@@ -268,6 +265,12 @@ void AppModel::cancelPending()
 {
     confirm.reset();
     notify(confirmChanged);
+}
+
+void AppModel::tell(std::string text)
+{
+    toast = std::move(text);
+    notify(toastChanged);
 }
 
 void AppModel::dismissToast()

@@ -108,6 +108,8 @@ public:
     void confirmPending();
     void cancelPending();
     void dismissToast();
+    // Shows a toast of the app's own (what it could not do at start).
+    void tell(std::string text);
     [[nodiscard]] ActionFlow& actions() { return *m_flow; }
 
     [[nodiscard]] Strain strain(MenuItemKind kind) const;

@@ -24,13 +24,15 @@ bool HistoryBatch::due(double now) const
     return m_oldest && now - *m_oldest >= maxWait;
 }
 
-void HistoryBatch::writeTo(HistoryStore& store)
+void HistoryBatch::writeTo(HistoryStore& store, const std::function<void()>& andThen)
 {
-    if (m_pending.empty())
+    if (m_pending.empty() && !andThen)
         return;
     store.batch([&] {
         for (auto& points : m_pending)
             store.append(points.sys, points.apps);
+        if (andThen)
+            andThen();
     });
     m_pending.clear();
     m_oldest.reset();

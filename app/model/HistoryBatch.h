@@ -4,6 +4,7 @@
 #include "history/HistoryStore.h"
 #include "monitor/Frame.h"
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -28,9 +29,11 @@ public:
     [[nodiscard]] bool due(double now) const;
     [[nodiscard]] size_t size() const { return m_pending.size(); }
 
-    // Writes every waiting point in one transaction. The points stay waiting
-    // when the write fails (the store raises), to be written with the next.
-    void writeTo(HistoryStore& store);
+    // Writes every waiting point in one transaction, followed in the same
+    // transaction by `andThen` (compaction: one commit a minute, not two). The
+    // points stay waiting when the write fails (the store raises), to be
+    // written with the next.
+    void writeTo(HistoryStore& store, const std::function<void()>& andThen = {});
 
 private:
     std::vector<FramePoints> m_pending;

@@ -77,10 +77,11 @@ void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
     if (!m_store)
         return;
     try {
-        // What compaction rolls up includes the minute still waiting.
-        m_batch.writeTo(*m_store);
+        // What compaction rolls up includes the minute still waiting, written
+        // in the compaction's own transaction.
         m_store->maxBytes = plan.maxBytes;
-        m_store->compact(now, plan.retentionDays);
+        m_batch.writeTo(*m_store, [&] { m_store->compact(now, plan.retentionDays); });
+        m_store->vacuum();
         result.historyBytes = m_store->usedBytes();
     } catch (const std::exception& failure) {
         result.error = failure.what();

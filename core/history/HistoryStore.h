@@ -57,8 +57,12 @@ public:
 
     // Rolls each finer tier's ended buckets into the next coarser tier, expires
     // old rows (never before they are rolled up) and applies the size cap, in
-    // one transaction; then gives up to 256 free pages back to the file system.
+    // one transaction; then gives up to 256 free pages back to the file system
+    // (inside an outer batch, that is left to the caller's `vacuum`).
     void compact(double now, int retentionDays);
+    // Gives up to 256 free pages back to the file system; a failure is only
+    // put off to the next compaction.
+    void vacuum();
 
     // A tier's points from `from` to `to`, completed past the tier's watermark
     // by regrouping the finer tiers, down to raw samples, all read in one read

@@ -73,12 +73,16 @@ void HistoryStore::compact(double now, int retentionDays)
         expire(now, retentionDays);
         enforceCap();
     });
-    if (outermost) {
-        try {
-            m_db.exec("PRAGMA incremental_vacuum(256)");
-        } catch (const HistoryError&) {
-            // Space is given back at the next compaction instead.
-        }
+    if (outermost)
+        vacuum();
+}
+
+void HistoryStore::vacuum()
+{
+    try {
+        m_db.exec("PRAGMA incremental_vacuum(256)");
+    } catch (const HistoryError&) {
+        // Space is given back at the next compaction instead.
     }
 }
 

@@ -5,6 +5,7 @@
 #include "model/AppModel.h"
 #include "ConfirmSheet.h"
 #include "MainWindow.h"
+#include "WindowKeeper.h"
 #include "actions/FakeActions.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
@@ -202,4 +203,42 @@ TEST(AppModel, TheWindowAsksAndToasts)
     window.toast()->closeButton()->click();
     EXPECT_FALSE(demo.model->toast);
     EXPECT_FALSE(window.toast()->isVisible());
+}
+
+// Without a status area the window is the way back: closing it minimises it
+// (the hidden cadence), --hidden starts it minimised, and the app says once
+// where the readings went. With its readings in the panel, closing hides it.
+TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
+{
+    DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 10; });
+    MainWindow window(Appearance::light);
+    window.bind(*demo.model);
+    WindowKeeper keeper(window, *demo.model, {.host = false, .carriesReadings = false});
+    EXPECT_EQ(demo.model->toast, WindowKeeper::noPanelText);
+    keeper.showAtStart(true);
+    EXPECT_TRUE(window.isMinimized());
+    EXPECT_FALSE(demo.model->windowVisible);
+    window.showNormal();
+    EXPECT_TRUE(demo.model->windowVisible);
+    EXPECT_EQ(demo.model->tickSeconds(), 2);
+    if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
+        window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/no-panel-light.png"));
+    window.resize(1200, 800); // the toast keeps to the corner
+    EXPECT_EQ(window.toast()->geometry().bottomRight(), QPoint(1179, 779));
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isMinimized());
+    EXPECT_FALSE(demo.model->windowVisible);
+    EXPECT_EQ(demo.model->tickSeconds(), 10);
+
+    DemoModel inPanel;
+    MainWindow other(Appearance::light);
+    WindowKeeper panel(other, *inPanel.model, {.host = true, .carriesReadings = true});
+    EXPECT_FALSE(inPanel.model->toast);
+    panel.showAtStart(true);
+    EXPECT_FALSE(other.isVisible());
+    panel.showAtStart(false);
+    EXPECT_TRUE(inPanel.model->windowVisible);
+    EXPECT_TRUE(other.close());
+    EXPECT_FALSE(other.isVisible());
+    EXPECT_FALSE(inPanel.model->windowVisible);
 }
