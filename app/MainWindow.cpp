@@ -2,6 +2,7 @@
 
 #include "ConfirmSheet.h"
 #include "SidebarDelegate.h"
+#include "format/Fmt.h"
 #include "model/AppModel.h"
 
 #include <QHBoxLayout>
@@ -36,9 +37,26 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
     resize(960, 620);
 }
 
+namespace {
+
+// The page area's one line until the pages draw the readings themselves.
+QString readingLine(const Frame& frame)
+{
+    const auto& system = frame.system;
+    return QString::fromStdString("CPU " + Fmt::percent(system.cpu.user + system.cpu.system) + "  ·  Memory "
+        + Fmt::memory(system.memory.used()) + " of " + Fmt::memory(system.memory.total) + "  ·  "
+        + std::to_string(frame.apps.size()) + " apps and tools");
+}
+
+} // namespace
+
 void MainWindow::bind(AppModel& model)
 {
+    if (model.frame)
+        m_placeholder->setText(readingLine(*model.frame));
     connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
+        if ((what & AppModel::frameChanged) && model.frame)
+            m_placeholder->setText(readingLine(*model.frame));
         if (what & AppModel::confirmChanged)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)

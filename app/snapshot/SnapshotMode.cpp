@@ -48,7 +48,42 @@ void save(const QPixmap& picture, const SnapshotOptions& options, const std::str
         std::cerr << "Couldn't write " << file.string() << "\n";
 }
 
+// The pictures of the model as it stands, in light and dark, named with `prefix`.
+void writePictures(AppModel& model, const SnapshotOptions& options, const std::string& prefix)
+{
+    for (const auto appearance : {Appearance::light, Appearance::dark}) {
+        const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
+        MainWindow window(appearance);
+        window.bind(model);
+        window.show();
+        save(window.grab(), options, prefix + "window-" + suffix);
+        // The confirmation of a force quit, on the app with the most helpers.
+        const auto apps = model.apps(AppSort::memory, 100);
+        const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
+            return (a.kind == AppKind::app ? a.processes.size() : 0)
+                < (b.kind == AppKind::app ? b.processes.size() : 0);
+        });
+        if (busiest != apps.end()) {
+            model.actions().requestQuit(*busiest, true);
+            save(window.grab(), options, prefix + "confirm-forcequit-" + suffix);
+            model.cancelPending();
+        }
+    }
+}
+
 } // namespace
+
+void strainDemoWorld(DemoWorld& world, AppModel& model)
+{
+    settle(model); // the world is the sampler thread's while a tick runs
+    world.strained = true;
+    // Enough ticks for the ring and the rates to show the load.
+    for (int tick = 0; tick < 3; ++tick) {
+        model.refresh(tick == 0);
+        settle(model);
+    }
+    model.loadHistorySync();
+}
 
 std::optional<SnapshotOptions> SnapshotOptions::from(
     const std::function<std::optional<std::string>(const char*)>& getenv)
@@ -71,6 +106,16 @@ std::optional<SnapshotOptions> SnapshotOptions::from(
     const auto stay = getenv("VEXEL_SNAPSHOT_STAY");
     options.stay = stay && !stay->empty() && *stay != "0";
     return options;
+}
+
+bool SnapshotOptions::wantsAny(const std::string& prefix) const
+{
+    if (only.empty())
+        return true;
+    for (const auto& wanted : only)
+        if (wanted.starts_with(prefix) || prefix.starts_with(wanted))
+            return true;
+    return false;
 }
 
 bool SnapshotOptions::wants(const std::string& name) const
@@ -99,24 +144,10 @@ int runSnapshotMode(const SnapshotOptions& options)
         settle(*model);
     }
     model->loadHistorySync();
-
-    for (const auto appearance : {Appearance::light, Appearance::dark}) {
-        const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
-        MainWindow window(appearance);
-        window.bind(*model);
-        window.show();
-        save(window.grab(), options, "window-" + suffix);
-        // The confirmation of a force quit, on the app with the most helpers.
-        const auto apps = model->apps(AppSort::memory, 100);
-        const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
-            return (a.kind == AppKind::app ? a.processes.size() : 0)
-                < (b.kind == AppKind::app ? b.processes.size() : 0);
-        });
-        if (busiest != apps.end()) {
-            model->actions().requestQuit(*busiest, true);
-            save(window.grab(), options, "confirm-forcequit-" + suffix);
-            model->cancelPending();
-        }
+    writePictures(*model, options, "");
+    if (options.wantsAny("strained-")) {
+        strainDemoWorld(world, *model);
+        writePictures(*model, options, "strained-");
     }
     if (!options.stay)
         return 0;

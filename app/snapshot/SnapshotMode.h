@@ -22,10 +22,20 @@ struct SnapshotOptions {
         const std::function<std::optional<std::string>(const char*)>& getenv);
     // Whether the picture `name` ("window-light.png") is wanted.
     [[nodiscard]] bool wants(const std::string& name) const;
+    // Whether any picture whose name starts with `prefix` ("strained-") is wanted.
+    [[nodiscard]] bool wantsAny(const std::string& prefix) const;
 };
 
+class AppModel;
+class DemoWorld;
+
+// Puts the demo world under load and lets the model see it (a few ticks and
+// the history), before the "strained-" pictures are taken.
+void strainDemoWorld(DemoWorld& world, AppModel& model);
+
 // Runs the app on the demo world with recording actions, writes the
-// pictures it knows in light and dark and quits (unless asked to stay).
+// pictures it knows in light and dark, then the "strained-" ones of the
+// world under load, and quits (unless asked to stay).
 // Needs the QApplication made, offscreen unless the app is to stay.
 int runSnapshotMode(const SnapshotOptions& options);
 

@@ -7,6 +7,7 @@
 #include "MainWindow.h"
 #include "WindowKeeper.h"
 #include "actions/FakeActions.h"
+#include "snapshot/SnapshotMode.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
 
@@ -178,6 +179,8 @@ TEST(AppModel, TheWindowAsksAndToasts)
     MainWindow window(Appearance::light);
     window.bind(*demo.model);
     window.show();
+    // The page area tells the reading it has (the demo world has 36 GB).
+    EXPECT_TRUE(window.pageText().contains(QStringLiteral(" of 36.0 GB"))) << window.pageText().toStdString();
     const auto apps = demo.model->apps(AppSort::memory, 100);
     const auto app = std::find_if(
         apps.begin(), apps.end(), [](const AppGroup& group) { return ActionFlow::canQuit(group, 501, 99999); });
@@ -241,4 +244,19 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     EXPECT_TRUE(other.close());
     EXPECT_FALSE(other.isVisible());
     EXPECT_FALSE(inPanel.model->windowVisible);
+}
+
+// Snapshot mode's "strained-" pictures are of a model that has seen the
+// world under load.
+TEST(AppModel, StrainedPicturesSeeTheWorldUnderLoad)
+{
+    DemoModel demo;
+    demo.model->refresh(true);
+    demo.settle();
+    EXPECT_EQ(demo.model->strain(MenuItemKind::thermal), Strain::calm);
+    EXPECT_EQ(demo.model->strain(MenuItemKind::memory), Strain::calm);
+    strainDemoWorld(demo.world, *demo.model);
+    EXPECT_EQ(demo.model->strain(MenuItemKind::thermal), Strain::strained);
+    EXPECT_NE(demo.model->strain(MenuItemKind::memory), Strain::calm);
+    EXPECT_TRUE(demo.model->history);
 }

@@ -452,8 +452,9 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
     const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
     for (const auto* folder : {&first, &second})
         ASSERT_EQ(runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", folder->path().string()}}, ""}).status, 0);
-    const std::vector<std::string> all{
-        "confirm-forcequit-dark.png", "confirm-forcequit-light.png", "window-dark.png", "window-light.png"};
+    const std::vector<std::string> all{"confirm-forcequit-dark.png", "confirm-forcequit-light.png", "window-dark.png",
+        "window-light.png", "strained-confirm-forcequit-dark.png", "strained-confirm-forcequit-light.png",
+        "strained-window-dark.png", "strained-window-light.png"};
     for (const auto& name : all) {
         const auto one = Files::read((first.path() / name).string(), 16 << 20);
         ASSERT_TRUE(one) << name;
