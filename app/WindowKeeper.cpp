@@ -46,11 +46,8 @@ bool WindowKeeper::eventFilter(QObject*, QEvent* event)
         return true;
     case QEvent::Show:
     case QEvent::Hide:
-    case QEvent::WindowStateChange:
-        followVisibility();
-        return false;
-    default:
-        return false;
+    case QEvent::WindowStateChange: followVisibility(); return false;
+    default: return false;
     }
 }
 
