@@ -68,6 +68,11 @@ AppModel::~AppModel()
 
 void AppModel::start()
 {
+    if (!settings.onboarded) {
+        firstLaunch = true;
+        settings.onboarded = true;
+        saveSettings();
+    }
     refresh(true);
     schedule();
 }

@@ -85,9 +85,10 @@ public:
     bool windowVisible = false;
     int cores = 1;
     std::optional<std::string> loginItemError; // shown under "Open Vexel at login"
+    bool firstLaunch = false; // no earlier run was marked onboarded: this one may introduce Vexel
 
     // Lifecycle.
-    void start(); // a full refresh, then the timer
+    void start(); // marks the first launch, a full refresh, then the timer
     void setWindowVisible(bool visible);
     void changeSettings(const VexelSettings& changed);
     void shutdown(); // the timer stops, lastSeen is saved

@@ -167,6 +167,19 @@ TEST(AppModel, LoginItemAndLastSeen)
     demo.now = 1'800'000'000;
     demo.model->shutdown();
     EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).lastSeen, 1'800'000'000);
+
+    // The first start is marked once: the next run on the same folder is no first launch.
+    demo.model->start();
+    EXPECT_TRUE(demo.model->firstLaunch);
+    demo.settle();
+    auto world = std::make_shared<DemoWorld>();
+    const VexelPaths paths(demo.folder.path());
+    AppModel again(
+        AppModel::Setup{paths, [world, paths] { return std::make_unique<Sampler>(world->monitor(), nullptr, paths); },
+            std::make_unique<FakeActions>(), [] { return 0.0; }, 501, 1, true});
+    again.start();
+    EXPECT_FALSE(again.firstLaunch);
+    ASSERT_TRUE(QTest::qWaitFor([&again] { return !again.busy(); }, 10000));
 }
 
 // The sheet and the toast in the window: what the model asks is shown, and
