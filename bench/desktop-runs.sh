@@ -60,3 +60,6 @@ for name in recorder hidden visible; do
   printf '%-9s %10s %10s %14s\n' "$name" "$cpu" "$hwm" "$written"
   kill -TERM "$pid"
 done
+# xvfb-run ends its display itself once the app has quit.
+wait "${children[@]}" || true
+children=()

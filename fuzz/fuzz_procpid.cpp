@@ -4,6 +4,9 @@
 #include "FuzzInput.h"
 #include "processes/linux/ProcPidFiles.h"
 
+#include <algorithm>
+#include <string>
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const auto text = fuzzText(data, size);
@@ -18,6 +21,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         require(cgroup->size() < size);
     require(vexel::ProcPidFiles::parseExeLink(text).path.size() <= size);
     require(vexel::ProcPidFiles::programName(text).size() <= size);
+    // A name made whole is the comm or the exe's file name, which begins with it.
+    const std::string comm(text.substr(0, std::min<size_t>(text.size(), 15)));
+    const auto whole = vexel::ProcPidFiles::fullName(comm, text);
+    require(whole.starts_with(comm) && whole.size() <= std::max(comm.size(), size));
     if (const auto app = vexel::ProcPidFiles::parseFlatpakInfo(text))
         require(!app->empty() && app->size() < size);
     if (const auto file = vexel::ProcPidFiles::environValue(text, "APPIMAGE"))

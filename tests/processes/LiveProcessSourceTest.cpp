@@ -36,7 +36,7 @@ TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
 {
     auto source = fixtureSource(0);
     const auto records = source.snapshot(ProcessScope::own);
-    ASSERT_EQ(records.size(), 5u); // "self" and "sys" are not processes
+    ASSERT_EQ(records.size(), 6u); // "self" and "sys" are not processes
 
     const auto* weird = byPid(records, 13233);
     ASSERT_NE(weird, nullptr);
@@ -77,6 +77,11 @@ TEST(LiveProcessSourceOnFixtures, EveryProcessWithWhatItsOwnerMayRead)
     ASSERT_NE(fromMemory, nullptr);
     EXPECT_EQ(fromMemory->name, "binary_backend");
     EXPECT_FALSE(fromMemory->path);
+
+    // The kernel cut its name to "rust-analyzer-p"; the executable has it whole.
+    const auto* longName = byPid(records, 6780);
+    ASSERT_NE(longName, nullptr);
+    EXPECT_EQ(longName->name, "rust-analyzer-proc-macro-srv");
 }
 
 TEST(LiveProcessSourceOnFixtures, OtherUsersMemoryOnlyForEveryoneTheirTimeAlways)
@@ -90,7 +95,7 @@ TEST(LiveProcessSourceOnFixtures, OtherUsersMemoryOnlyForEveryoneTheirTimeAlways
     EXPECT_DOUBLE_EQ(*byPid(records, 13233)->cpuTime, 1.58);
     EXPECT_EQ(byPid(records, 13233)->memory, 55904u * 1024);
     EXPECT_FALSE(byPid(records, 13233)->diskRead); // disk bytes are the owner's only
-    EXPECT_EQ(source.knownCount(), 5u);
+    EXPECT_EQ(source.knownCount(), 6u);
 }
 
 TEST(LiveProcessSourceOnFixtures, AMissingProcFolderGivesAnEmptyList)

@@ -93,6 +93,13 @@ TEST(ProcPidFiles, ExeLinksThatAreNoFile)
     EXPECT_EQ(ProcPidFiles::programName(std::string("node\0server.js\0", 16)), "node");
     EXPECT_EQ(ProcPidFiles::programName(""), "");
     EXPECT_EQ(ProcPidFiles::programName("dir/"), "");
+
+    // A name the kernel cut is made whole only by the executable it was cut from.
+    EXPECT_EQ(ProcPidFiles::fullName("test_history_sl", "/build/tests/test_history_slow"), "test_history_slow");
+    EXPECT_EQ(ProcPidFiles::fullName("unattended-upgr", "/usr/bin/python3.11"), "unattended-upgr");
+    EXPECT_EQ(ProcPidFiles::fullName("next-server (v1", "/usr/bin/node"), "next-server (v1");
+    EXPECT_EQ(ProcPidFiles::fullName("gsd-color", "/usr/libexec/gsd-color-extra"), "gsd-color"); // not cut
+    EXPECT_EQ(ProcPidFiles::fullName("rust-analyzer-p", ""), "rust-analyzer-p");
 }
 
 TEST(ProcPidFiles, FlatpakInfoAndEnviron)

@@ -111,6 +111,8 @@ void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, 
     } else if (link && (!link->deleted || Files::exists(link->path))) {
         // Replaced on disk (an upgrade) is still that program; removed is no path at all.
         known.path = link->path;
+        if (auto full = ProcPidFiles::fullName(comm, link->path); full != comm)
+            known.name = std::move(full);
     }
     learnPackage(folder, known);
 }

@@ -153,6 +153,16 @@ std::string programName(std::string_view cmdline)
     return std::string(slash == std::string_view::npos ? argv0 : argv0.substr(slash + 1));
 }
 
+std::string fullName(const std::string& comm, std::string_view exePath)
+{
+    constexpr size_t commLength = 15; // TASK_COMM_LEN less its NUL
+    const auto slash = exePath.rfind('/');
+    const auto file = slash == std::string_view::npos ? exePath : exePath.substr(slash + 1);
+    if (comm.size() == commLength && file.size() > commLength && file.starts_with(comm))
+        return std::string(file);
+    return comm;
+}
+
 std::optional<std::string> parseFlatpakInfo(std::string_view text)
 {
     std::optional<std::string> name;

@@ -75,6 +75,12 @@ struct ExeLink {
 // "line_io_tools/binary_backend\0--uid\0…" → "binary_backend"; empty when there is none.
 [[nodiscard]] std::string programName(std::string_view cmdline);
 
+// The kernel keeps only the first 15 bytes of a program's name
+// ("rust-analyzer-p"); when the executable's file name begins with them, it
+// is the whole name. Otherwise (a renamed worker, an interpreter's script)
+// the comm as it stands.
+[[nodiscard]] std::string fullName(const std::string& comm, std::string_view exePath);
+
 // The app id of a Flatpak sandbox's /.flatpak-info: `name` in [Application].
 [[nodiscard]] std::optional<std::string> parseFlatpakInfo(std::string_view text);
 
