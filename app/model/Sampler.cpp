@@ -29,6 +29,7 @@ Sampler::Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore>
     , m_paths(std::move(paths))
     , m_zone(zone)
     , m_log(ActivityLog::load(m_paths.activity()))
+    , m_savedLog(m_log)
 {
 }
 
@@ -94,8 +95,11 @@ void Sampler::scanPorts(const Frame& frame, const TickPlan& plan, TickResult& re
     result.servers
         = m_monitor->devServers(frame, listeners.value_or(std::vector<ListenSocket>{}), m_log, plan.idleAfter);
     result.listeners = std::move(listeners).value_or(std::vector<ListenSocket>{});
+    if (m_log == m_savedLog)
+        return; // a scan every 8 s on the Developers page mostly changes nothing
     try {
         m_log.save(m_paths.activity());
+        m_savedLog = m_log;
     } catch (const std::exception&) {
         // The log is a convenience: servers are flagged idle again from their CPU time.
     }

@@ -66,6 +66,7 @@ private:
     VexelPaths m_paths;
     TimeZone m_zone;
     ActivityLog m_log;
+    ActivityLog m_savedLog; // as the file holds it: an unchanged log is not written again
     HistoryBatch m_batch;
     std::optional<std::string> m_openError;
 };

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -212,7 +214,13 @@ TEST(Sampler, CompactionTotalsPortsAndContainers)
     EXPECT_FALSE(result.todaySeries->empty());
     ASSERT_TRUE(result.servers && result.listeners && result.docker);
     EXPECT_FALSE(result.servers->empty());
-    EXPECT_TRUE(std::filesystem::exists(demo.paths.activity())); // saved with each port scan
+    EXPECT_TRUE(std::filesystem::exists(demo.paths.activity())); // saved with each port scan that changed it
+    struct stat before { };
+    ASSERT_EQ(::stat(demo.paths.activity().c_str(), &before), 0);
+    (void)demo.tickAt(start + 22, {.ports = true}); // the same moment: nothing new to log
+    struct stat after { };
+    ASSERT_EQ(::stat(demo.paths.activity().c_str(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino); // not written again (a save replaces the file)
     // Readings not planned are not read: the model keeps what it has.
     const auto plain = demo.tickAt(start + 24);
     EXPECT_FALSE(plain.servers || plain.docker || plain.today || plain.historyBytes);
