@@ -1,7 +1,11 @@
-// The house look's dial: the arc filled to the reading in its strain's
-// colour, the peak marked, nonsense readings drawn empty.
+// The house look: the dial's arc filled to the reading in its strain's
+// colour with the peak marked, the trace scaled to its top with gaps where a
+// reading is missing, the bank of bars each in its own strain; nonsense
+// readings drawn empty.
 
+#include "look/BarBank.h"
 #include "look/Dial.h"
+#include "look/Sparkline.h"
 #include "look/StrainColours.h"
 
 #include <QImage>
@@ -63,4 +67,49 @@ TEST(Dial, FilledToTheReadingInItsStrainsColour)
         onRing(draw({1.7, std::nullopt, Strain::strained, "", ""}), 0.99), Look::strainColour(light, Strain::strained));
     const QImage nonsense = draw({std::numeric_limits<double>::quiet_NaN(), std::nullopt, Strain::calm, "", ""});
     EXPECT_EQ(onRing(nonsense, 0.02), Look::track(light));
+}
+
+TEST(Sparkline, ScaledToItsTopWithGapsWhereReadingsAreMissing)
+{
+    const auto light = Appearance::light;
+    const QColor page = Look::palette(light).color(QPalette::Window);
+    const Sparkline trace{{0.5, 0.5, 0.5, std::nan(""), 2.0, 2.0, 2.0}, 2.0, Strain::elevated};
+    QImage image(120, 40, QImage::Format_ARGB32);
+    image.fill(page);
+    QPainter painter(&image);
+    trace.paint(painter, QRectF(0, 0, 120, 40), light);
+    painter.end();
+    const QColor amber = Look::strainColour(light, Strain::elevated);
+    EXPECT_EQ(image.pixelColor(10, 30), amber); // a quarter of the top: 10 of 40 pixels up
+    EXPECT_EQ(image.pixelColor(10, 5), page); // nothing drawn above the line
+    EXPECT_EQ(image.pixelColor(110, 0), amber); // the top value reaches the top
+    EXPECT_EQ(image.pixelColor(60, 39), page); // the missing reading leaves a gap, line and fill
+    EXPECT_NE(image.pixelColor(10, 38), page); // the fill under the line
+
+    EXPECT_EQ(trace.heightOf(-3, 40), 0); // negative on the floor
+    EXPECT_EQ(trace.heightOf(9, 40), 40); // above the top clipped to it
+    EXPECT_EQ((Sparkline{{1, 1}, 0, Strain::calm}).heightOf(1, 40), 0); // no scale, no height
+}
+
+TEST(BarBank, EachBarToItsValueInItsOwnStrain)
+{
+    const auto dark = Appearance::dark;
+    const BarBank bank{
+        {0.25, 0.95, std::nan(""), 3.0}, [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; }};
+    QImage image(200, 100, QImage::Format_ARGB32);
+    image.fill(Look::palette(dark).color(QPalette::Window));
+    QPainter painter(&image);
+    const QRectF area(0, 0, 200, 100);
+    bank.paint(painter, area, dark);
+    painter.end();
+    const auto at = [&](size_t bar, int height) {
+        const QRectF rect = bank.barRect(bar, area);
+        return image.pixelColor(static_cast<int>(rect.center().x()), 100 - height);
+    };
+    EXPECT_EQ(at(0, 15), Look::strainColour(dark, Strain::calm));
+    EXPECT_EQ(at(0, 40), Look::track(dark));
+    EXPECT_EQ(at(1, 90), Look::strainColour(dark, Strain::strained));
+    EXPECT_EQ(at(2, 5), Look::track(dark)); // a nonsense reading: empty
+    EXPECT_EQ(at(3, 97), Look::strainColour(dark, Strain::strained)); // clamped to full
+    EXPECT_LE(bank.barRect(3, area).right(), 200.5); // the last bar ends at the edge
 }

@@ -1,0 +1,41 @@
+#include "look/BarBank.h"
+
+#include "look/StrainColours.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vexel {
+
+QRectF BarBank::barRect(size_t index, const QRectF& area) const
+{
+    const auto count = static_cast<double>(std::max<size_t>(fractions.size(), 1));
+    // Gaps a third of a bar wide, none after the last.
+    const double pitch = area.width() / (count - 1.0 / 3.0);
+    const double width = pitch * 2 / 3;
+    return {area.left() + pitch * static_cast<double>(index), area.top(), width, area.height()};
+}
+
+void BarBank::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (size_t i = 0; i < fractions.size(); ++i) {
+        const QRectF bar = barRect(i, area);
+        const double radius = std::min(2.0, bar.width() / 2);
+        painter.setBrush(Look::track(appearance));
+        painter.drawRoundedRect(bar, radius, radius);
+        const double value = std::isfinite(fractions[i]) ? std::clamp(fractions[i], 0.0, 1.0) : 0.0;
+        if (value <= 0)
+            continue;
+        const QRectF filled(bar.left(), bar.bottom() - bar.height() * value, bar.width(), bar.height() * value);
+        painter.setBrush(Look::strainColour(appearance, strainOf(fractions[i])));
+        painter.drawRoundedRect(filled, radius, radius);
+    }
+    painter.restore();
+}
+
+} // namespace vexel

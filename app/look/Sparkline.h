@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Appearance.h"
+#include "spikes/Strain.h"
+
+#include <QRectF>
+
+#include <vector>
+
+class QPainter;
+
+namespace vexel {
+
+// A trace of recent values, oldest at the left, newest at the right edge,
+// scaled so that `top` reaches the top of the area; a soft fill under the
+// line. Values that are not finite leave a gap; negative ones sit on the floor.
+struct Sparkline {
+    std::vector<double> values;
+    double top = 1; // the value drawn at the top (values above it are clipped to it)
+    Strain strain = Strain::calm;
+
+    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+
+    // The height in the area, from its bottom, at which `value` is drawn.
+    [[nodiscard]] double heightOf(double value, double areaHeight) const;
+};
+
+} // namespace vexel
