@@ -3,7 +3,9 @@
 #include "ConfirmSheet.h"
 #include "SidebarDelegate.h"
 #include "format/Fmt.h"
+#include "look/Labels.h"
 #include "model/AppModel.h"
+#include "pages/OverviewPage.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,7 +33,13 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
     layout->addWidget(buildSidebar(appearance));
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(buildPlaceholder(appearance));
+    m_overview = new OverviewPage(appearance, m_pages);
+    m_pages->addWidget(m_overview);
+    m_pages->setCurrentWidget(m_overview);
     layout->addWidget(m_pages, 1);
+    // Pages not built yet show the reading line of the placeholder.
+    connect(this, &MainWindow::routeChanged, this,
+        [this](Route route) { m_pages->setCurrentIndex(route == Route::overview ? 1 : 0); });
     m_sheet = new ConfirmSheet(appearance, this);
     m_toast = new ToastBar(appearance, this);
     resize(960, 620);
@@ -54,9 +62,12 @@ void MainWindow::bind(AppModel& model)
 {
     if (model.frame)
         m_placeholder->setText(readingLine(*model.frame));
+    m_overview->showModel(model);
     connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
-        if ((what & AppModel::frameChanged) && model.frame)
+        if ((what & AppModel::frameChanged) && model.frame) {
             m_placeholder->setText(readingLine(*model.frame));
+            m_overview->showModel(model);
+        }
         if (what & AppModel::confirmChanged)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)
@@ -111,12 +122,7 @@ QWidget* MainWindow::buildPlaceholder(Appearance appearance)
 {
     auto* page = new QWidget(this);
     auto* layout = new QVBoxLayout(page);
-    m_placeholder = new QLabel(QStringLiteral("Taking the first reading…"), page);
-    m_placeholder->setAlignment(Qt::AlignCenter);
-    m_placeholder->setFont(Look::font(13));
-    QPalette palette = m_placeholder->palette();
-    palette.setColor(QPalette::WindowText, Look::secondaryText(appearance));
-    m_placeholder->setPalette(palette);
+    m_placeholder = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, page);
     layout->addWidget(m_placeholder);
     return page;
 }

@@ -13,6 +13,7 @@ namespace vexel {
 
 class AppModel;
 class ConfirmSheet;
+class OverviewPage;
 class ToastBar;
 
 // The main window: the sidebar of routes beside the page in view. Until the
@@ -35,6 +36,7 @@ public:
     void bind(AppModel& model);
     [[nodiscard]] ConfirmSheet* sheet() const { return m_sheet; }
     [[nodiscard]] ToastBar* toast() const { return m_toast; }
+    [[nodiscard]] OverviewPage* overview() const { return m_overview; }
 
 signals:
     void routeChanged(vexel::Route route);
@@ -46,6 +48,7 @@ private:
     QListWidget* m_sidebar = nullptr;
     QStackedWidget* m_pages = nullptr;
     QLabel* m_placeholder = nullptr;
+    OverviewPage* m_overview = nullptr;
     ConfirmSheet* m_sheet = nullptr;
     ToastBar* m_toast = nullptr;
 };

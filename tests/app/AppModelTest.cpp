@@ -7,6 +7,9 @@
 #include "MainWindow.h"
 #include "WindowKeeper.h"
 #include "actions/FakeActions.h"
+#include "look/DialView.h"
+#include "pages/OverviewDials.h"
+#include "pages/OverviewPage.h"
 #include "snapshot/SnapshotMode.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
@@ -272,4 +275,39 @@ TEST(AppModel, StrainedPicturesSeeTheWorldUnderLoad)
     EXPECT_EQ(demo.model->strain(MenuItemKind::thermal), Strain::strained);
     EXPECT_NE(demo.model->strain(MenuItemKind::memory), Strain::calm);
     EXPECT_TRUE(demo.model->history);
+}
+
+// The Overview waits for the first frame, then shows the frame's readings on
+// its dials and the busiest apps by CPU; a machine without a GPU reading or a
+// battery says so on those dials instead of showing an empty reading.
+TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
+{
+    DemoModel demo;
+    OverviewPage page(Appearance::light, nullptr);
+    page.showModel(*demo.model);
+    EXPECT_TRUE(page.waitingForFirstReading());
+    demo.model->refresh(true);
+    demo.settle();
+    page.showModel(*demo.model);
+    EXPECT_FALSE(page.waitingForFirstReading());
+    const auto& system = demo.model->frame->system;
+    EXPECT_DOUBLE_EQ(page.dials()[0]->dial().fraction, system.cpu.user + system.cpu.system);
+    EXPECT_EQ(page.dials()[1]->dial().strain, demo.model->strain(MenuItemKind::memory));
+    const auto busiest = demo.model->apps(AppSort::cpu, 5);
+    const QStringList rows = page.busiestRows();
+    ASSERT_EQ(rows.size(), 5);
+    EXPECT_TRUE(rows.front().startsWith(QString::fromStdString(busiest.front().name))) << rows.front().toStdString();
+
+    demo.model->frame->system.gpu.reset();
+    demo.model->frame->system.battery.reset();
+    const auto dials = overviewDials(*demo.model);
+    EXPECT_EQ(dials[4].value, QStringLiteral("—"));
+    EXPECT_EQ(dials[4].fraction, 0);
+    EXPECT_EQ(dials[5].value, QStringLiteral("Mains"));
+
+    // Rates sit on a scale from 1 KB/s to 1 GB/s.
+    EXPECT_EQ(rateFraction(500), 0);
+    EXPECT_DOUBLE_EQ(rateFraction(1e6), 0.5);
+    EXPECT_EQ(rateFraction(5e9), 1);
+    EXPECT_EQ(rateFraction(std::nan("")), 0);
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "look/Dial.h"
+#include "model/AppModel.h"
+
+#include <array>
+
+namespace vexel {
+
+// The Overview's six dials from the model's frame: CPU and memory as shares,
+// disk and network on a scale of ten steps of ten from 1 KB/s to 1 GB/s (a
+// rate has no natural top), the GPU's use where it is reported, and the
+// battery's charge (mains power shows as such).
+[[nodiscard]] std::array<Dial, 6> overviewDials(const AppModel& model);
+
+// Where a rate lies on the dials' scale: 0 at 1 KB/s or less, 1 at 1 GB/s.
+[[nodiscard]] double rateFraction(double bytesPerSecond);
+
+} // namespace vexel
