@@ -64,10 +64,10 @@ void MainWindow::bind(AppModel& model)
         m_placeholder->setText(readingLine(*model.frame));
     m_overview->showModel(model);
     connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
-        if ((what & AppModel::frameChanged) && model.frame) {
+        if ((what & AppModel::frameChanged) && model.frame)
             m_placeholder->setText(readingLine(*model.frame));
+        if (what & (AppModel::frameChanged | AppModel::totalsChanged))
             m_overview->showModel(model);
-        }
         if (what & AppModel::confirmChanged)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)

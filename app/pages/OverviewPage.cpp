@@ -1,12 +1,16 @@
 #include "pages/OverviewPage.h"
 
 #include "format/Fmt.h"
+#include "look/BarBank.h"
 #include "look/DialView.h"
 #include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "look/Sparkline.h"
 #include "model/AppModel.h"
-#include "pages/OverviewDials.h"
+#include "pages/OverviewFigures.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -27,6 +31,7 @@ QLabel* heading(const QString& text, QWidget* parent)
 
 OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     : QWidget(parent)
+    , m_appearance(appearance)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 24);
@@ -45,11 +50,36 @@ OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
         grid->addWidget(m_dials[i], static_cast<int>(i / 3), static_cast<int>(i % 3));
     }
     content->addLayout(grid);
-    content->addWidget(heading(QStringLiteral("Busiest apps"), m_content));
+    // Today on the left, the busiest apps on the right.
+    auto* lower = new QHBoxLayout;
+    lower->setSpacing(28);
+    auto* today = new QVBoxLayout;
+    today->setSpacing(6);
+    today->addWidget(heading(QStringLiteral("Today"), m_content));
+    m_today = new QLabel(m_content);
+    m_today->setFont(Look::font(11));
+    m_today->setWordWrap(true);
+    today->addWidget(m_today);
+    m_todayTrace = new PaintedView(QSize(300, 56), m_content);
+    today->addWidget(m_todayTrace);
+    m_week = new PaintedView(QSize(300, 40), m_content);
+    today->addWidget(m_week);
+    auto* weekCaption
+        = Look::centredNote(QStringLiteral("Data moved each day this week, today at the right"), appearance, m_content);
+    weekCaption->setFont(Look::font(10));
+    weekCaption->setAlignment(Qt::AlignLeft);
+    today->addWidget(weekCaption);
+    today->addStretch(1);
+    lower->addLayout(today, 3);
+    auto* busiest = new QVBoxLayout;
+    busiest->setSpacing(6);
+    busiest->addWidget(heading(QStringLiteral("Busiest apps"), m_content));
     m_busiest = new QVBoxLayout;
     m_busiest->setSpacing(4);
-    content->addLayout(m_busiest);
-    content->addStretch(1);
+    busiest->addLayout(m_busiest);
+    busiest->addStretch(1);
+    lower->addLayout(busiest, 2);
+    content->addLayout(lower, 1);
     layout->addWidget(m_content, 1);
     m_content->hide();
 }
@@ -64,6 +94,7 @@ void OverviewPage::showModel(const AppModel& model)
     const auto dials = overviewDials(model);
     for (size_t i = 0; i < dials.size(); ++i)
         m_dials[i]->setDial(dials[i]);
+    showToday(model);
     const auto apps = model.apps(AppSort::cpu, busiestCount);
     // The scale the settings ask for: a share of the whole machine, or of one core.
     const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
@@ -77,6 +108,26 @@ void OverviewPage::showModel(const AppModel& model)
         if (i < apps.size())
             m_rows[i]->setText(QString::fromStdString(apps[i].name + "   " + Fmt::cpu(apps[i].cpu, cores)));
     }
+}
+
+void OverviewPage::showToday(const AppModel& model)
+{
+    m_today->setText(model.today ? todayLine(*model.today) : QString());
+    Sparkline trace;
+    for (const auto& point : model.todaySeries)
+        trace.values.push_back(point.cpu);
+    trace.strain = model.strain(MenuItemKind::cpu);
+    const Appearance appearance = m_appearance;
+    m_todayTrace->setDrawing(
+        [trace, appearance](QPainter& painter, const QRectF& area) { trace.paint(painter, area, appearance); });
+    const BarBank week{weekShares(model.week)};
+    m_week->setDrawing(
+        [week, appearance](QPainter& painter, const QRectF& area) { week.paint(painter, area, appearance); });
+}
+
+QString OverviewPage::todayText() const
+{
+    return m_today->text();
 }
 
 QStringList OverviewPage::busiestRows() const

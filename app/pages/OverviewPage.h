@@ -13,10 +13,12 @@ namespace vexel {
 
 class AppModel;
 class DialView;
+class PaintedView;
 
 // The Overview: dials for CPU, memory, disk, network, GPU and power in their
-// strain's colours, and the busiest apps. Before the first frame it says
-// that the first reading is being taken.
+// strain's colours; today's totals, today's CPU trace and the week strip;
+// the busiest apps. Before the first frame it says that the first reading is
+// being taken.
 class OverviewPage final : public QWidget {
 public:
     OverviewPage(Appearance appearance, QWidget* parent);
@@ -28,11 +30,19 @@ public:
     // The busiest apps' rows as shown ("Google Chrome  12%").
     [[nodiscard]] QStringList busiestRows() const;
     [[nodiscard]] bool waitingForFirstReading() const;
+    // Today's totals as shown; empty until the history has been read.
+    [[nodiscard]] QString todayText() const;
 
 private:
+    void showToday(const AppModel& model);
+
+    Appearance m_appearance;
     QLabel* m_waiting = nullptr;
     QWidget* m_content = nullptr;
     std::array<DialView*, 6> m_dials{};
+    QLabel* m_today = nullptr;
+    PaintedView* m_todayTrace = nullptr;
+    PaintedView* m_week = nullptr;
     QVBoxLayout* m_busiest = nullptr;
     std::vector<QLabel*> m_rows;
 };

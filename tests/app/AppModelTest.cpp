@@ -8,7 +8,7 @@
 #include "WindowKeeper.h"
 #include "actions/FakeActions.h"
 #include "look/DialView.h"
-#include "pages/OverviewDials.h"
+#include "pages/OverviewFigures.h"
 #include "pages/OverviewPage.h"
 #include "snapshot/SnapshotMode.h"
 #include "support/TempFolder.h"
@@ -304,6 +304,12 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     EXPECT_EQ(dials[4].value, QStringLiteral("—"));
     EXPECT_EQ(dials[4].fraction, 0);
     EXPECT_EQ(dials[5].value, QStringLiteral("Mains"));
+
+    // Today's totals in words, and the week's days as shares of the busiest.
+    EXPECT_EQ(todayLine({2e6, 1.5e9, 3e8, 4e7}),
+        QStringLiteral("Disk 1.5 GB written, 2.0 MB read  ·  Network 300 MB down, 40 MB up"));
+    EXPECT_EQ(weekShares({{0, {1, 1, 0, 0}}, {1, {0, 0, 4, 0}}, {2, {}}}), (std::vector<double>{0.5, 1, 0}));
+    EXPECT_EQ(weekShares({{0, {}}, {1, {}}}), (std::vector<double>{0, 0})); // a quiet week, no division by zero
 
     // Rates sit on a scale from 1 KB/s to 1 GB/s.
     EXPECT_EQ(rateFraction(500), 0);

@@ -1,4 +1,4 @@
-#include "pages/OverviewDials.h"
+#include "pages/OverviewFigures.h"
 
 #include "format/Fmt.h"
 
@@ -20,6 +20,25 @@ QString text(const std::string& value)
 }
 
 } // namespace
+
+QString todayLine(const HistoryStore::Totals& today)
+{
+    return text("Disk " + Fmt::bytes(today.diskW) + " written, " + Fmt::bytes(today.diskR) + " read  ·  Network "
+        + Fmt::bytes(today.netIn) + " down, " + Fmt::bytes(today.netOut) + " up");
+}
+
+std::vector<double> weekShares(const std::vector<DayTotal>& week)
+{
+    std::vector<double> moved;
+    for (const auto& day : week) {
+        const auto& t = day.totals;
+        moved.push_back(t.diskR + t.diskW + t.netIn + t.netOut);
+    }
+    const double busiest = moved.empty() ? 0 : *std::max_element(moved.begin(), moved.end());
+    for (auto& value : moved)
+        value = busiest > 0 ? value / busiest : 0;
+    return moved;
+}
 
 double rateFraction(double bytesPerSecond)
 {

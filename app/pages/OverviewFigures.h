@@ -4,6 +4,7 @@
 #include "model/AppModel.h"
 
 #include <array>
+#include <vector>
 
 namespace vexel {
 
@@ -15,5 +16,13 @@ namespace vexel {
 
 // Where a rate lies on the dials' scale: 0 at 1 KB/s or less, 1 at 1 GB/s.
 [[nodiscard]] double rateFraction(double bytesPerSecond);
+
+// Today's totals in a line: "Disk 1.2 GB written, 300 MB read · Network 2.1 GB
+// down, 120 MB up".
+[[nodiscard]] QString todayLine(const HistoryStore::Totals& today);
+
+// Each day's data moved (disk and network together), as a share of the
+// busiest day of the week: the week strip's bars, oldest first.
+[[nodiscard]] std::vector<double> weekShares(const std::vector<DayTotal>& week);
 
 } // namespace vexel
