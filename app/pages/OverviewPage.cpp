@@ -2,7 +2,6 @@
 
 #include "format/Fmt.h"
 #include "look/BarBank.h"
-#include "look/DialView.h"
 #include "look/Labels.h"
 #include "look/PaintedView.h"
 #include "look/Sparkline.h"
@@ -46,7 +45,7 @@ OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     auto* grid = new QGridLayout;
     grid->setSpacing(8);
     for (size_t i = 0; i < m_dials.size(); ++i) {
-        m_dials[i] = new DialView(appearance, m_content);
+        m_dials[i] = new PaintedView(QSize(132, 132), m_content);
         grid->addWidget(m_dials[i], static_cast<int>(i / 3), static_cast<int>(i % 3));
     }
     content->addLayout(grid);
@@ -91,9 +90,12 @@ void OverviewPage::showModel(const AppModel& model)
     m_content->setVisible(!waiting);
     if (waiting)
         return;
-    const auto dials = overviewDials(model);
-    for (size_t i = 0; i < dials.size(); ++i)
-        m_dials[i]->setDial(dials[i]);
+    m_shown = overviewDials(model);
+    const Appearance appearance = m_appearance;
+    for (size_t i = 0; i < m_shown.size(); ++i)
+        m_dials[i]->setDrawing([dial = m_shown[i], appearance](QPainter& painter, const QRectF& area) {
+            dial.paint(painter, area.adjusted(4, 4, -4, -4), appearance);
+        });
     showToday(model);
     const auto apps = model.apps(AppSort::cpu, busiestCount);
     // The scale the settings ask for: a share of the whole machine, or of one core.

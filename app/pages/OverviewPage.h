@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "look/Dial.h"
 
 #include <QWidget>
 
@@ -12,7 +13,6 @@ class QVBoxLayout;
 namespace vexel {
 
 class AppModel;
-class DialView;
 class PaintedView;
 
 // The Overview: dials for CPU, memory, disk, network, GPU and power in their
@@ -26,7 +26,8 @@ public:
     // Shows what the model holds now.
     void showModel(const AppModel& model);
 
-    [[nodiscard]] const std::array<DialView*, 6>& dials() const { return m_dials; }
+    // The dials as shown, CPU first.
+    [[nodiscard]] const std::array<Dial, 6>& dials() const { return m_shown; }
     // The busiest apps' rows as shown ("Google Chrome  12%").
     [[nodiscard]] QStringList busiestRows() const;
     [[nodiscard]] bool waitingForFirstReading() const;
@@ -39,7 +40,8 @@ private:
     Appearance m_appearance;
     QLabel* m_waiting = nullptr;
     QWidget* m_content = nullptr;
-    std::array<DialView*, 6> m_dials{};
+    std::array<PaintedView*, 6> m_dials{};
+    std::array<Dial, 6> m_shown;
     QLabel* m_today = nullptr;
     PaintedView* m_todayTrace = nullptr;
     PaintedView* m_week = nullptr;

@@ -3,17 +3,11 @@
 #include "Appearance.h"
 #include "MainWindow.h"
 #include "actions/FakeActions.h"
-#include "format/Fmt.h"
-#include "look/BarBank.h"
-#include "look/Dial.h"
-#include "look/Sparkline.h"
 #include "model/AppModel.h"
 #include "synth/DemoWorld.h"
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -54,39 +48,6 @@ void save(const QPixmap& picture, const SnapshotOptions& options, const std::str
         std::cerr << "Couldn't write " << file.string() << "\n";
 }
 
-// The house look's pieces on the model's readings: the CPU and memory dials,
-// the ring's CPU trace and the bank of cores.
-QPixmap houseLook(const AppModel& model, Appearance appearance)
-{
-    QImage image(600, 260, QImage::Format_ARGB32);
-    image.fill(Look::palette(appearance).color(QPalette::Window));
-    QPainter painter(&image);
-    if (model.frame) {
-        const auto& cpu = model.frame->system.cpu;
-        const auto& memory = model.frame->system.memory;
-        const auto cpuPeak = model.peak(&RingSample::cpu);
-        const auto memPeak = model.peak(&RingSample::mem);
-        Dial{cpu.user + cpu.system, cpuPeak ? std::optional(*cpuPeak / 100) : std::nullopt,
-            model.strain(MenuItemKind::cpu), QString::fromStdString(Fmt::percent(cpu.user + cpu.system)),
-            QStringLiteral("CPU")}
-            .paint(painter, QRectF(20, 20, 120, 120), appearance);
-        Dial{memory.usedFraction(), memPeak ? std::optional(*memPeak / 100) : std::nullopt,
-            model.strain(MenuItemKind::memory), QString::fromStdString(Fmt::memory(memory.used())),
-            QStringLiteral("Memory")}
-            .paint(painter, QRectF(160, 20, 120, 120), appearance);
-        Sparkline trace;
-        for (const auto& sample : model.ring.samples())
-            trace.values.push_back(sample.cpu / 100);
-        trace.strain = model.strain(MenuItemKind::cpu);
-        trace.paint(painter, QRectF(20, 170, 260, 70), appearance);
-        const auto rules = model.settings.strain;
-        BarBank{cpu.cores, [rules](double busy) { return rules.cpu(busy); }}.paint(
-            painter, QRectF(320, 30, 260, 210), appearance);
-    }
-    painter.end();
-    return QPixmap::fromImage(image);
-}
-
 // The pictures of the model as it stands, in light and dark, named with `prefix`.
 void writePictures(AppModel& model, const SnapshotOptions& options, const std::string& prefix)
 {
@@ -96,7 +57,6 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
         window.bind(model);
         window.show();
         save(window.grab(), options, prefix + "window-" + suffix);
-        save(houseLook(model, appearance), options, prefix + "house-look-" + suffix);
         // The confirmation of a force quit, on the app with the most helpers.
         const auto apps = model.apps(AppSort::memory, 100);
         const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
