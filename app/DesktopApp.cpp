@@ -111,7 +111,6 @@ int runDesktopApp(int& argc, char** argv)
     window.bind(model);
     // The panel carries no readings yet: the window stays the way back.
     WindowKeeper keeper(window, model, {.host = QSystemTrayIcon::isSystemTrayAvailable(), .carriesReadings = false});
-    QObject::connect(&window, &MainWindow::routeChanged, &model, &AppModel::setRoute);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
     model.start();
     // At login the app starts with --hidden (the autostart entry).

@@ -2,10 +2,18 @@
 
 #include "ConfirmSheet.h"
 #include "SidebarDelegate.h"
-#include "format/Fmt.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
+#include "pages/AppsPage.h"
+#include "pages/CpuPage.h"
+#include "pages/DevelopersPage.h"
+#include "pages/DiskPage.h"
+#include "pages/GpuPage.h"
+#include "pages/HistoryPage.h"
+#include "pages/MemoryPage.h"
+#include "pages/NetworkPage.h"
 #include "pages/OverviewPage.h"
+#include "pages/PowerPage.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -32,42 +40,50 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(buildSidebar(appearance));
     m_pages = new QStackedWidget(this);
-    m_pages->addWidget(buildPlaceholder(appearance));
-    m_overview = new OverviewPage(appearance, m_pages);
-    m_pages->addWidget(m_overview);
-    m_pages->setCurrentWidget(m_overview);
+    buildPages(appearance);
     layout->addWidget(m_pages, 1);
-    // Pages not built yet show the reading line of the placeholder.
     connect(this, &MainWindow::routeChanged, this,
-        [this](Route route) { m_pages->setCurrentIndex(route == Route::overview ? 1 : 0); });
+        [this](Route route) { m_pages->setCurrentIndex(static_cast<int>(route)); });
     m_sheet = new ConfirmSheet(appearance, this);
     m_toast = new ToastBar(appearance, this);
     resize(960, 620);
 }
 
-namespace {
-
-// The page area's one line until the pages draw the readings themselves.
-QString readingLine(const Frame& frame)
+void MainWindow::buildPages(Appearance appearance)
 {
-    const auto& system = frame.system;
-    return QString::fromStdString("CPU " + Fmt::percent(system.cpu.user + system.cpu.system) + "  ·  Memory "
-        + Fmt::memory(system.memory.used()) + " of " + Fmt::memory(system.memory.total) + "  ·  "
-        + std::to_string(frame.apps.size()) + " apps and tools");
+    m_routePages = {new OverviewPage(appearance, m_pages), new AppsPage(appearance, m_pages),
+        new CpuPage(appearance, m_pages), new MemoryPage(appearance, m_pages), new DiskPage(appearance, m_pages),
+        new NetworkPage(appearance, m_pages), new GpuPage(appearance, m_pages), new PowerPage(appearance, m_pages),
+        new HistoryPage(appearance, m_pages), new DevelopersPage(appearance, m_pages)};
+    for (auto* page : m_routePages)
+        m_pages->addWidget(page);
 }
 
-} // namespace
+Page* MainWindow::page(Route route) const
+{
+    return m_routePages.at(static_cast<size_t>(route));
+}
+
+OverviewPage* MainWindow::overview() const
+{
+    return static_cast<OverviewPage*>(page(Route::overview));
+}
 
 void MainWindow::bind(AppModel& model)
 {
-    if (model.frame)
-        m_placeholder->setText(readingLine(*model.frame));
-    m_overview->showModel(model);
+    for (auto* page : m_routePages)
+        page->attach(model);
+    showRoute(model.route);
+    page(model.route)->showModel(model);
+    connect(this, &MainWindow::routeChanged, &model, [this, &model](Route route) {
+        model.setRoute(route);
+        if (route == Route::history)
+            model.loadHistory();
+        page(route)->showModel(model);
+    });
     connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
-        if ((what & AppModel::frameChanged) && model.frame)
-            m_placeholder->setText(readingLine(*model.frame));
-        if (what & (AppModel::frameChanged | AppModel::totalsChanged))
-            m_overview->showModel(model);
+        if (auto* shown = page(currentRoute()); what & shown->shows())
+            shown->showModel(model);
         if (what & AppModel::confirmChanged)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)
@@ -118,15 +134,6 @@ QWidget* MainWindow::buildSidebar(Appearance appearance)
     return panel;
 }
 
-QWidget* MainWindow::buildPlaceholder(Appearance appearance)
-{
-    auto* page = new QWidget(this);
-    auto* layout = new QVBoxLayout(page);
-    m_placeholder = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, page);
-    layout->addWidget(m_placeholder);
-    return page;
-}
-
 Route MainWindow::currentRoute() const
 {
     const int row = m_sidebar->currentRow();
@@ -144,11 +151,6 @@ QStringList MainWindow::sidebarTitles() const
     for (int i = 0; i < m_sidebar->count(); ++i)
         titles << m_sidebar->item(i)->text();
     return titles;
-}
-
-QString MainWindow::pageText() const
-{
-    return m_placeholder->text();
 }
 
 } // namespace vexel

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QLabel;
 class QListWidget;
 class QStackedWidget;
@@ -14,10 +16,12 @@ namespace vexel {
 class AppModel;
 class ConfirmSheet;
 class OverviewPage;
+class Page;
 class ToastBar;
 
-// The main window: the sidebar of routes beside the page in view. Until the
-// first frame arrives every page says that the first reading is being taken.
+// The main window: the sidebar of routes beside the page in view. Only the
+// page in view follows the model's changes; a page coming into view is shown
+// the model as it stands.
 class MainWindow final : public QWidget {
     Q_OBJECT
 
@@ -29,26 +33,25 @@ public:
 
     // The sidebar's titles, top to bottom.
     [[nodiscard]] QStringList sidebarTitles() const;
-    // The text the page area shows.
-    [[nodiscard]] QString pageText() const;
+    // The page of a route.
+    [[nodiscard]] Page* page(Route route) const;
 
     // Shows the model's questions and toasts, and answers them back.
     void bind(AppModel& model);
     [[nodiscard]] ConfirmSheet* sheet() const { return m_sheet; }
     [[nodiscard]] ToastBar* toast() const { return m_toast; }
-    [[nodiscard]] OverviewPage* overview() const { return m_overview; }
+    [[nodiscard]] OverviewPage* overview() const;
 
 signals:
     void routeChanged(vexel::Route route);
 
 private:
     QWidget* buildSidebar(Appearance appearance);
-    QWidget* buildPlaceholder(Appearance appearance);
+    void buildPages(Appearance appearance);
 
     QListWidget* m_sidebar = nullptr;
     QStackedWidget* m_pages = nullptr;
-    QLabel* m_placeholder = nullptr;
-    OverviewPage* m_overview = nullptr;
+    std::vector<Page*> m_routePages; // in the sidebar's order
     ConfirmSheet* m_sheet = nullptr;
     ToastBar* m_toast = nullptr;
 };

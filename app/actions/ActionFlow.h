@@ -41,6 +41,10 @@ public:
     // Only apps, only the user's own, never this program.
     [[nodiscard]] static bool canQuit(const AppGroup& app, uint32_t myUID, int32_t myPid);
 
+    // Whether this user may quit the app from here.
+    [[nodiscard]] bool allows(const AppGroup& app) const { return canQuit(app, m_myUID, m_myPid); }
+    [[nodiscard]] uint32_t myUID() const { return m_myUID; }
+
     void requestQuit(const AppGroup& app, bool force);
     void performQuit(const AppGroup& app, bool force);
     // `context` adds lines to the message (a server's port, its project).

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Appearance.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -15,6 +17,12 @@ public:
     PaintedView(QSize preferred, QWidget* parent);
 
     void setDrawing(Drawing drawing);
+    // Shows one of the house look's drawings (anything with paint(painter, area, appearance)).
+    template <typename Drawable> void draw(Drawable drawable, Appearance appearance)
+    {
+        setDrawing([drawable = std::move(drawable), appearance](
+                       QPainter& painter, const QRectF& area) { drawable.paint(painter, area, appearance); });
+    }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
 
 protected:

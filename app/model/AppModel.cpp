@@ -2,13 +2,16 @@
 
 #include "grouping/AppGrouper.h"
 #include "io/AtomicFile.h"
+#include "model/AppSearch.h"
 #include "platform/Environment.h"
 #include "spikes/SpikeFinder.h"
+#include "texts/PageTexts.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 
 namespace vexel {
 
@@ -29,7 +32,8 @@ std::filesystem::path autostartFile()
 } // namespace
 
 AppModel::AppModel(Setup setup)
-    : m_paths(std::move(setup.paths))
+    : platform(setup.platform)
+    , m_paths(std::move(setup.paths))
     , m_clock(std::move(setup.clock))
     , m_observesVisibility(setup.observesVisibility)
     , m_actions(std::move(setup.actions))
@@ -313,6 +317,61 @@ std::vector<AppGroup> AppModel::apps(AppSort by, size_t limit) const
     if (sorted.size() > limit)
         sorted.resize(limit);
     return sorted;
+}
+
+void AppModel::setAppSearch(std::string text)
+{
+    if (text == appSearch)
+        return;
+    appSearch = std::move(text);
+    notify(selectionChanged);
+}
+
+void AppModel::selectApp(std::optional<std::string> id)
+{
+    if (id == selectedApp)
+        return;
+    selectedApp = std::move(id);
+    notify(selectionChanged);
+}
+
+const AppGroup* AppModel::selected() const
+{
+    if (!frame || !selectedApp)
+        return nullptr;
+    const auto found = std::ranges::find(frame->apps, *selectedApp, &AppGroup::id);
+    return found == frame->apps.end() ? nullptr : &*found;
+}
+
+std::vector<AppGroup> AppModel::searchedApps() const
+{
+    return searchApps(apps(settings.appSort, std::numeric_limits<size_t>::max()), appSearch);
+}
+
+void AppModel::quitSelected()
+{
+    if (const auto* app = selected())
+        m_flow->requestQuit(*app, false);
+    else
+        tell("Select an app in Apps first.");
+}
+
+void AppModel::copyCommand(const std::string& command)
+{
+    m_actions->copy(command);
+    tell(PageTexts::commandCopied(platform));
+}
+
+void AppModel::copyAddress(uint16_t port)
+{
+    const std::string address = "http://localhost:" + std::to_string(port);
+    m_actions->copy(address);
+    tell("Copied " + address + ".");
+}
+
+void AppModel::reveal(const std::string& path)
+{
+    m_actions->reveal(path);
 }
 
 void AppModel::setOpenAtLogin(bool open)

@@ -6,6 +6,7 @@
 #include "model/Cadence.h"
 #include "model/RecentRing.h"
 #include "model/SamplerThread.h"
+#include "platform/Platform.h"
 #include "settings/MenuItemConfig.h"
 #include "settings/VexelPaths.h"
 #include "settings/VexelSettings.h"
@@ -54,12 +55,14 @@ public:
         uint32_t myUID = 0;
         int32_t myPid = 0;
         bool observesVisibility = true; // false in snapshot mode: the window's visibility leaves the cadence alone
+        Platform platform = livePlatform(); // whose words the texts use: the demo world is a Mac
     };
 
     explicit AppModel(Setup setup);
     ~AppModel() override;
 
     // Published state.
+    const Platform platform;
     VexelSettings settings;
     std::optional<Frame> frame;
     Route route = Route::overview;
@@ -112,6 +115,22 @@ public:
     // Shows a toast of the app's own (what it could not do at start).
     void tell(std::string text);
     [[nodiscard]] ActionFlow& actions() { return *m_flow; }
+
+    // The Apps page: its search, the app selected in it (by group id) and
+    // the apps the search finds, in the settings' order.
+    void setAppSearch(std::string text);
+    void selectApp(std::optional<std::string> id);
+    [[nodiscard]] const AppGroup* selected() const;
+    [[nodiscard]] bool canQuit(const AppGroup& app) const { return m_flow->allows(app); }
+    [[nodiscard]] uint32_t myUID() const { return m_flow->myUID(); }
+    [[nodiscard]] std::vector<AppGroup> searchedApps() const;
+    // "Quit Selected App…": asks to quit the app selected in the Apps page.
+    void quitSelected();
+
+    // Small actions that change nothing on the machine, each told in a toast.
+    void copyCommand(const std::string& command);
+    void copyAddress(uint16_t port);
+    void reveal(const std::string& path);
 
     [[nodiscard]] Strain strain(MenuItemKind kind) const;
     [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return ring.peak(field); }

@@ -130,10 +130,12 @@ void Sampler::totals(double now, TickResult& result)
 Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const SpikeRules& rules)
 {
     HistoryResult result;
+    const double from = vexel::start(range, now, m_zone);
+    result.from = from;
+    result.to = now;
     if (!m_store)
         return result;
     flush();
-    const double from = vexel::start(range, now, m_zone);
     const auto tier = vexel::tier(range);
     result.points = m_store->series(tier, from, now);
     result.apps = m_store->appSeries(tier, from, now);

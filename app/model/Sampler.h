@@ -30,6 +30,8 @@ public:
         std::vector<AppPoint> apps;
         std::vector<Spike> spikes;
         std::optional<double> first; // the oldest stored sample
+        double from = 0; // the range read
+        double to = 0;
     };
 
     // `store` is absent when the history could not be opened or another

@@ -2,15 +2,19 @@
 
 #include "format/Fmt.h"
 #include "look/BarBank.h"
+#include "look/Buttons.h"
 #include "look/Labels.h"
 #include "look/PaintedView.h"
 #include "look/Sparkline.h"
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
+#include "pages/TopApps.h"
 
+#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace vexel {
@@ -19,18 +23,15 @@ namespace {
 
 constexpr size_t busiestCount = 5;
 
-QLabel* heading(const QString& text, QWidget* parent)
+QString qs(const std::string& text)
 {
-    auto* label = new QLabel(text, parent);
-    label->setFont(Look::font(13, QFont::DemiBold));
-    return label;
+    return QString::fromStdString(text);
 }
 
 } // namespace
 
 OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
-    : QWidget(parent)
-    , m_appearance(appearance)
+    : Page(appearance, parent)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 24);
@@ -41,7 +42,9 @@ OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     auto* content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
     content->setSpacing(14);
-    content->addWidget(heading(QStringLiteral("Overview"), m_content));
+    content->addWidget(Look::pageTitle(QStringLiteral("Overview"), m_content));
+    m_away = buildAwayCard();
+    content->addWidget(m_away);
     auto* grid = new QGridLayout;
     grid->setSpacing(8);
     for (size_t i = 0; i < m_dials.size(); ++i) {
@@ -54,28 +57,23 @@ OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     lower->setSpacing(28);
     auto* today = new QVBoxLayout;
     today->setSpacing(6);
-    today->addWidget(heading(QStringLiteral("Today"), m_content));
+    today->addWidget(Look::heading(QStringLiteral("Today"), m_content));
     m_today = new QLabel(m_content);
     m_today->setFont(Look::font(11));
     m_today->setWordWrap(true);
     today->addWidget(m_today);
     m_todayTrace = new PaintedView(QSize(300, 56), m_content);
     today->addWidget(m_todayTrace);
+    today->addWidget(Look::explanation(QStringLiteral("CPU since midnight"), appearance, m_content));
     m_week = new PaintedView(QSize(300, 40), m_content);
     today->addWidget(m_week);
-    auto* weekCaption
-        = Look::centredNote(QStringLiteral("Data moved each day this week, today at the right"), appearance, m_content);
-    weekCaption->setFont(Look::font(10));
-    weekCaption->setAlignment(Qt::AlignLeft);
-    today->addWidget(weekCaption);
+    today->addWidget(
+        Look::explanation(QStringLiteral("Data moved each day this week, today at the right"), appearance, m_content));
     today->addStretch(1);
     lower->addLayout(today, 3);
     auto* busiest = new QVBoxLayout;
-    busiest->setSpacing(6);
-    busiest->addWidget(heading(QStringLiteral("Busiest apps"), m_content));
-    m_busiest = new QVBoxLayout;
-    m_busiest->setSpacing(4);
-    busiest->addLayout(m_busiest);
+    m_busiest = new TopApps(QStringLiteral("Busiest apps"), appearance, m_content);
+    busiest->addWidget(m_busiest);
     busiest->addStretch(1);
     lower->addLayout(busiest, 2);
     content->addLayout(lower, 1);
@@ -91,35 +89,28 @@ void OverviewPage::showModel(const AppModel& model)
     if (waiting)
         return;
     m_shown = overviewDials(model);
-    const Appearance appearance = m_appearance;
+    const Appearance appearance = this->appearance();
     for (size_t i = 0; i < m_shown.size(); ++i)
         m_dials[i]->setDrawing([dial = m_shown[i], appearance](QPainter& painter, const QRectF& area) {
             dial.paint(painter, area.adjusted(4, 4, -4, -4), appearance);
         });
     showToday(model);
-    const auto apps = model.apps(AppSort::cpu, busiestCount);
+    showAway(model);
     // The scale the settings ask for: a share of the whole machine, or of one core.
     const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
-    while (m_rows.size() < apps.size()) {
-        m_rows.push_back(new QLabel(m_content));
-        m_rows.back()->setFont(Look::font(12));
-        m_busiest->addWidget(m_rows.back());
-    }
-    for (size_t i = 0; i < m_rows.size(); ++i) {
-        m_rows[i]->setVisible(i < apps.size());
-        if (i < apps.size())
-            m_rows[i]->setText(QString::fromStdString(apps[i].name + "   " + Fmt::cpu(apps[i].cpu, cores)));
-    }
+    m_busiest->show(
+        model, AppSort::cpu, busiestCount, [cores](const AppGroup& app) { return Fmt::cpu(app.cpu, cores); });
 }
 
 void OverviewPage::showToday(const AppModel& model)
 {
-    m_today->setText(model.today ? todayLine(*model.today) : QString());
+    m_today->setText(
+        model.today ? todayLine(*model.today).replace(QStringLiteral(" · "), QStringLiteral("\n")) : QString());
     Sparkline trace;
     for (const auto& point : model.todaySeries)
         trace.values.push_back(point.cpu);
     trace.strain = model.strain(MenuItemKind::cpu);
-    const Appearance appearance = m_appearance;
+    const Appearance appearance = this->appearance();
     m_todayTrace->setDrawing(
         [trace, appearance](QPainter& painter, const QRectF& area) { trace.paint(painter, area, appearance); });
     const BarBank week{weekShares(model.week)};
@@ -129,16 +120,69 @@ void OverviewPage::showToday(const AppModel& model)
 
 QString OverviewPage::todayText() const
 {
-    return m_today->text();
+    return m_today->text().replace(QChar('\n'), QStringLiteral(" · "));
+}
+
+unsigned OverviewPage::shows() const
+{
+    return AppModel::frameChanged | AppModel::totalsChanged | AppModel::awayChanged | AppModel::settingsChanged;
+}
+
+QWidget* OverviewPage::buildAwayCard()
+{
+    auto* card = new QFrame(m_content);
+    card->setFrameShape(QFrame::StyledPanel);
+    card->setAutoFillBackground(true);
+    QPalette palette = card->palette();
+    palette.setColor(QPalette::Window, Look::sidebar(appearance()));
+    card->setPalette(palette);
+    auto* layout = new QVBoxLayout(card);
+    layout->setContentsMargins(14, 10, 14, 10);
+    layout->setSpacing(4);
+    auto* top = new QHBoxLayout;
+    m_awayTitle = Look::heading({}, card);
+    top->addWidget(m_awayTitle, 1);
+    auto* dismiss = Look::button(QStringLiteral("Dismiss"), card);
+    connect(dismiss, &QPushButton::clicked, this, &OverviewPage::dismissAway);
+    top->addWidget(dismiss);
+    layout->addLayout(top);
+    m_awayLines = Look::line(card);
+    layout->addWidget(m_awayLines);
+    card->hide();
+    return card;
+}
+
+void OverviewPage::showAway(const AppModel& model)
+{
+    m_away->setVisible(model.awaySince.has_value());
+    if (!model.awaySince)
+        return;
+    m_awayTitle->setText(QStringLiteral("While you were away"));
+    QStringList lines;
+    for (const auto& spike : model.awaySpikes)
+        lines << qs(spike.summary + (spike.culprit ? ", mostly " + *spike.culprit : ""));
+    if (lines.isEmpty())
+        lines << QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat "
+                                "or fast battery drain.");
+    m_awayLines->setText(lines.join('\n'));
+}
+
+void OverviewPage::dismissAway()
+{
+    if (model())
+        model()->dismissAway();
+}
+
+QStringList OverviewPage::awayLines() const
+{
+    if (m_away->isHidden())
+        return {};
+    return m_awayLines->text().split('\n');
 }
 
 QStringList OverviewPage::busiestRows() const
 {
-    QStringList rows;
-    for (const auto* row : m_rows)
-        if (!row->isHidden())
-            rows << row->text();
-    return rows;
+    return m_busiest->rows();
 }
 
 bool OverviewPage::waitingForFirstReading() const

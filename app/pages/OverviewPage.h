@@ -1,9 +1,7 @@
 #pragma once
 
-#include "Appearance.h"
 #include "look/Dial.h"
-
-#include <QWidget>
+#include "pages/Page.h"
 
 #include <array>
 
@@ -14,17 +12,18 @@ namespace vexel {
 
 class AppModel;
 class PaintedView;
+class TopApps;
 
 // The Overview: dials for CPU, memory, disk, network, GPU and power in their
 // strain's colours; today's totals, today's CPU trace and the week strip;
 // the busiest apps. Before the first frame it says that the first reading is
 // being taken.
-class OverviewPage final : public QWidget {
+class OverviewPage final : public Page {
 public:
     OverviewPage(Appearance appearance, QWidget* parent);
 
-    // Shows what the model holds now.
-    void showModel(const AppModel& model);
+    void showModel(const AppModel& model) override;
+    [[nodiscard]] unsigned shows() const override;
 
     // The dials as shown, CPU first.
     [[nodiscard]] const std::array<Dial, 6>& dials() const { return m_shown; }
@@ -33,11 +32,15 @@ public:
     [[nodiscard]] bool waitingForFirstReading() const;
     // Today's totals as shown; empty until the history has been read.
     [[nodiscard]] QString todayText() const;
+    // The "While you were away" card's lines, empty when it is not shown.
+    [[nodiscard]] QStringList awayLines() const;
+    void dismissAway();
 
 private:
     void showToday(const AppModel& model);
+    void showAway(const AppModel& model);
+    QWidget* buildAwayCard();
 
-    Appearance m_appearance;
     QLabel* m_waiting = nullptr;
     QWidget* m_content = nullptr;
     std::array<PaintedView*, 6> m_dials{};
@@ -45,8 +48,10 @@ private:
     QLabel* m_today = nullptr;
     PaintedView* m_todayTrace = nullptr;
     PaintedView* m_week = nullptr;
-    QVBoxLayout* m_busiest = nullptr;
-    std::vector<QLabel*> m_rows;
+    TopApps* m_busiest = nullptr;
+    QWidget* m_away = nullptr;
+    QLabel* m_awayTitle = nullptr;
+    QLabel* m_awayLines = nullptr;
 };
 
 } // namespace vexel

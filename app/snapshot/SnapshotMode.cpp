@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "actions/FakeActions.h"
 #include "model/AppModel.h"
+#include "snapshot/DemoHistoryFill.h"
 #include "synth/DemoWorld.h"
 
 #include <QApplication>
@@ -36,16 +37,45 @@ std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::pat
             sampler->beforeSample = [&world](double) { world.advance(2); };
             return sampler;
         },
-        std::make_unique<FakeActions>(), [&world] { return world.now(); }, 501, 0, false});
+        std::make_unique<FakeActions>(), [&world] { return world.now(); }, 501, 0, false, Platform::macOS});
 }
 
-void save(const QPixmap& picture, const SnapshotOptions& options, const std::string& name)
+void save(QWidget& window, const SnapshotOptions& options, const std::string& name)
 {
     if (!options.wants(name))
         return;
     const auto file = options.folder / name;
-    if (!picture.save(QString::fromStdString(file.string())))
+    if (!picture(window).save(QString::fromStdString(file.string())))
         std::cerr << "Couldn't write " << file.string() << "\n";
+}
+
+// The staged states of the Apps page: an app selected, a search that finds nothing.
+void writeAppsStates(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& suffix)
+{
+    window.showRoute(Route::apps);
+    if (const auto* iterm = model.frame ? model.frame->app("iTerm") : nullptr) {
+        model.selectApp(iterm->id);
+        save(window, options, "apps-selected-iterm-" + suffix);
+        model.selectApp(std::nullopt);
+    }
+    model.setAppSearch("no such app");
+    save(window, options, "apps-search-empty-" + suffix);
+    model.setAppSearch("");
+}
+
+// The confirmation of a force quit, on the app with the most helpers.
+void writeForceQuit(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& name)
+{
+    const auto apps = model.apps(AppSort::memory, 100);
+    const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
+        return (a.kind == AppKind::app ? a.processes.size() : 0) < (b.kind == AppKind::app ? b.processes.size() : 0);
+    });
+    if (busiest == apps.end())
+        return;
+    window.showRoute(Route::overview);
+    model.actions().requestQuit(*busiest, true);
+    save(window, options, name);
+    model.cancelPending();
 }
 
 // The pictures of the model as it stands, in light and dark, named with `prefix`.
@@ -56,22 +86,30 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
         MainWindow window(appearance);
         window.bind(model);
         window.show();
-        save(window.grab(), options, prefix + "window-" + suffix);
-        // The confirmation of a force quit, on the app with the most helpers.
-        const auto apps = model.apps(AppSort::memory, 100);
-        const auto busiest = std::max_element(apps.begin(), apps.end(), [](const AppGroup& a, const AppGroup& b) {
-            return (a.kind == AppKind::app ? a.processes.size() : 0)
-                < (b.kind == AppKind::app ? b.processes.size() : 0);
-        });
-        if (busiest != apps.end()) {
-            model.actions().requestQuit(*busiest, true);
-            save(window.grab(), options, prefix + "confirm-forcequit-" + suffix);
-            model.cancelPending();
+        for (const auto route : allRoutes) {
+            if (!options.wants(prefix + identifier(route) + "-" + suffix))
+                continue;
+            window.showRoute(route);
+            save(window, options, prefix + identifier(route) + "-" + suffix);
         }
+        if (prefix.empty() && options.wantsAny("apps-"))
+            writeAppsStates(window, model, options, suffix);
+        if (options.wants(prefix + "confirm-forcequit-" + suffix))
+            writeForceQuit(window, model, options, prefix + "confirm-forcequit-" + suffix);
+        window.showRoute(Route::overview);
     }
 }
 
 } // namespace
+
+QPixmap picture(QWidget& window)
+{
+    // Layouts settle and new widgets show in posted events (a wrapped label's height, a scroll
+    // area's extent); a picture taken before them shows text clipped.
+    for (int pass = 0; pass < 3; ++pass)
+        QCoreApplication::sendPostedEvents();
+    return window.grab();
+}
 
 void strainDemoWorld(DemoWorld& world, AppModel& model)
 {
@@ -138,11 +176,16 @@ int runSnapshotMode(const SnapshotOptions& options)
         return 1;
     }
     DemoWorld world;
-    auto model = demoModel(world, data.path().toStdString());
+    const VexelPaths paths(data.path().toStdString());
+    auto model = demoModel(world, paths.dir);
     for (int tick = 0; tick < 3; ++tick) {
         model->refresh(tick == 0);
         settle(*model);
     }
+    // Weeks of history, so that Today, the week strip and History have something to show.
+    fillDemoHistory(paths, world.now(), model->apps(AppSort::cpu, 6), model->cores);
+    model->refresh(true);
+    settle(*model);
     model->loadHistorySync();
     writePictures(*model, options, "");
     if (options.wantsAny("strained-")) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QPixmap>
+#include <QWidget>
+
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -28,6 +31,9 @@ struct SnapshotOptions {
 
 class AppModel;
 class DemoWorld;
+
+// A window's picture once its layouts have settled.
+[[nodiscard]] QPixmap picture(QWidget& window);
 
 // Puts the demo world under load and lets the model see it (a few ticks and
 // the history), before the "strained-" pictures are taken.

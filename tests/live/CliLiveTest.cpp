@@ -452,9 +452,20 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
     const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
     for (const auto* folder : {&first, &second})
         ASSERT_EQ(runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", folder->path().string()}}, ""}).status, 0);
-    const std::vector<std::string> all{"confirm-forcequit-dark.png", "confirm-forcequit-light.png", "window-dark.png",
-        "window-light.png", "strained-confirm-forcequit-dark.png", "strained-confirm-forcequit-light.png",
-        "strained-window-dark.png", "strained-window-light.png"};
+    std::vector<std::string> all;
+    for (const std::string appearance : {"light.png", "dark.png"}) {
+        for (const std::string prefix : {"", "strained-"}) {
+            for (const auto route : {"overview", "apps", "cpu", "memory", "disk", "network", "gpu", "power", "history",
+                     "developers", "confirm-forcequit"})
+                all.push_back(prefix + route + "-" + appearance);
+        }
+        all.push_back("apps-selected-iterm-" + appearance);
+        all.push_back("apps-search-empty-" + appearance);
+    }
+    std::vector<std::string> everything;
+    for (const auto& entry : std::filesystem::directory_iterator(first.path()))
+        everything.push_back(entry.path().filename().string());
+    EXPECT_EQ(everything.size(), all.size());
     for (const auto& name : all) {
         const auto one = Files::read((first.path() / name).string(), 16 << 20);
         ASSERT_TRUE(one) << name;

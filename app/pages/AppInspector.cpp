@@ -1,0 +1,194 @@
+#include "pages/AppInspector.h"
+
+#include "format/Fmt.h"
+#include "look/Buttons.h"
+#include "look/Labels.h"
+#include "model/AppModel.h"
+#include "platform/Environment.h"
+#include "texts/PageTexts.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+QLabel* commandLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    QFont mono = Look::font(10);
+    mono.setFamily(QStringLiteral("monospace"));
+    mono.setStyleHint(QFont::Monospace);
+    label->setFont(mono);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QString kindWord(const AppGroup& app)
+{
+    switch (app.kind) {
+    case AppKind::app: return QStringLiteral("App");
+    case AppKind::system: return QStringLiteral("System service");
+    case AppKind::tool: return QStringLiteral("Tool");
+    }
+    return {};
+}
+
+} // namespace
+
+AppInspector::AppInspector(Appearance appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_appearance(appearance)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    m_name = Look::heading({}, this);
+    m_name->setWordWrap(true);
+    layout->addWidget(m_name);
+    m_summary = Look::line(this);
+    layout->addWidget(m_summary);
+    m_where = Look::explanation({}, appearance, this);
+    layout->addWidget(m_where);
+
+    auto* buttons = new QHBoxLayout;
+    m_reveal = Look::button({}, this);
+    m_quit = Look::button(QStringLiteral("Quit…"), this);
+    m_forceQuit = Look::destructiveButton(QStringLiteral("Force Quit…"), appearance, this);
+    buttons->addWidget(m_quit);
+    buttons->addWidget(m_forceQuit);
+    buttons->addStretch(1);
+    layout->addLayout(buttons);
+    layout->addWidget(m_reveal, 0, Qt::AlignLeft);
+    connect(m_reveal, &QPushButton::clicked, this, [this] {
+        if (m_model && m_path)
+            m_model->reveal(*m_path);
+    });
+    const auto quit = [this](bool force) {
+        if (m_model == nullptr)
+            return;
+        if (const auto* app = m_model->selected(); app && app->id == m_appId)
+            m_model->actions().requestQuit(*app, force);
+    };
+    connect(m_quit, &QPushButton::clicked, this, [quit] { quit(false); });
+    connect(m_forceQuit, &QPushButton::clicked, this, [quit] { quit(true); });
+
+    m_system = Look::explanation({}, appearance, this);
+    m_otherUsers = Look::explanation({}, appearance, this);
+    m_zombies = Look::explanation({}, appearance, this);
+    for (auto* note : {m_system, m_otherUsers, m_zombies})
+        layout->addWidget(note);
+
+    m_processes = new QTreeWidget(this);
+    m_processes->setHeaderLabels(
+        {QStringLiteral("Process"), QStringLiteral("PID"), QStringLiteral("CPU"), QStringLiteral("Memory")});
+    m_processes->setRootIsDecorated(false);
+    m_processes->setFont(Look::font(11));
+    m_processes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    for (int column = 1; column < 4; ++column)
+        m_processes->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_processes->setSelectionMode(QAbstractItemView::NoSelection);
+    m_processes->setMinimumHeight(150);
+    layout->addWidget(m_processes, 1);
+    buildHangingSection(layout);
+}
+
+void AppInspector::buildHangingSection(QVBoxLayout* layout)
+{
+    layout->addWidget(Look::heading(QStringLiteral("If it's hanging or busy"), this));
+    m_sampleCommand = commandLabel(this);
+    m_reportCommand = commandLabel(this);
+    m_reportNote = Look::explanation({}, m_appearance, this);
+    const auto row = [this, layout](QLabel* command, QLabel* note) {
+        auto* line = new QHBoxLayout;
+        line->addWidget(command, 1);
+        auto* copy = Look::button(QStringLiteral("Copy"), this);
+        connect(copy, &QPushButton::clicked, this, [this, command] {
+            if (m_model)
+                m_model->copyCommand(command->text().toStdString());
+        });
+        line->addWidget(copy, 0, Qt::AlignTop);
+        layout->addLayout(line);
+        layout->addWidget(note);
+    };
+    row(m_sampleCommand,
+        Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), m_appearance, this));
+    row(m_reportCommand, m_reportNote);
+}
+
+void AppInspector::showApp(const AppGroup& app, const AppModel& model)
+{
+    const Platform platform = model.platform;
+    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    m_appId = app.id;
+    m_path = app.path;
+    m_name->setText(qs(app.name));
+    const size_t count = app.processes.size();
+    m_summary->setText(qs("CPU " + Fmt::cpu(app.cpu, cores) + "  ·  Memory " + Fmt::memory(app.memory) + "  ·  "
+        + std::to_string(count) + (count == 1 ? " process" : " processes")));
+    m_where->setText(
+        kindWord(app) + (app.path ? qs("  ·  " + PageTexts::shownPath(*app.path, homeFolder())) : QString()));
+    m_reveal->setText(qs(PageTexts::revealInFiles(platform)));
+    m_reveal->setVisible(app.path.has_value());
+    const bool quittable = model.canQuit(app);
+    m_quit->setVisible(quittable);
+    m_forceQuit->setVisible(quittable);
+
+    m_system->setText(qs(PageTexts::systemGroupNote(platform)));
+    m_system->setVisible(app.kind == AppKind::system);
+    const int others = static_cast<int>(
+        std::ranges::count_if(app.processes, [&model](const ProcRow& row) { return row.uid != model.myUID(); }));
+    m_otherUsers->setText(qs(PageTexts::otherUsersNote(platform, others)));
+    m_otherUsers->setVisible(others > 0);
+    m_zombies->setText(qs(PageTexts::zombiesNote(app.zombies)));
+    m_zombies->setVisible(app.zombies > 0);
+
+    m_processes->clear();
+    for (const auto& row : app.processes) {
+        auto* item = new QTreeWidgetItem(m_processes);
+        item->setText(0, qs(row.name) + (row.zombie ? QStringLiteral(" (zombie)") : QString()));
+        item->setText(1, QString::number(row.pid));
+        item->setText(2, qs(Fmt::cpu(row.cpu, cores)));
+        item->setText(3, qs(Fmt::memory(row.memory)));
+        for (int column = 1; column < 4; ++column)
+            item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    m_mainPid = app.mainPID.value_or(app.processes.empty() ? 0 : app.processes.front().pid);
+    m_sampleCommand->setText(qs(PageTexts::sampleCommand(platform, m_mainPid)));
+    m_reportCommand->setText(qs(PageTexts::fullerReportCommand(platform, m_mainPid)));
+    m_reportNote->setText(qs(PageTexts::fullerReportNote(platform)));
+}
+
+bool AppInspector::offersQuit() const
+{
+    return !m_quit->isHidden() && !m_forceQuit->isHidden();
+}
+
+QStringList AppInspector::notes() const
+{
+    QStringList shown;
+    for (const auto* note : {m_system, m_otherUsers, m_zombies})
+        if (!note->isHidden())
+            shown << note->text();
+    return shown;
+}
+
+int AppInspector::processRows() const
+{
+    return m_processes->topLevelItemCount();
+}
+
+} // namespace vexel

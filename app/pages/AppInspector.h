@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <QWidget>
+
+#include <optional>
+#include <string>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+class QVBoxLayout;
+
+namespace vexel {
+
+class AppModel;
+struct AppGroup;
+
+// The Apps page's inspector of the selected app: its processes, where it
+// lives, Quit and Force Quit where the app may be quit from here, what to
+// run when it hangs, and why some of its processes show less.
+class AppInspector final : public QWidget {
+public:
+    AppInspector(Appearance appearance, QWidget* parent);
+
+    void attach(AppModel& model) { m_model = &model; }
+    void showApp(const AppGroup& app, const AppModel& model);
+
+    // For tests: whether Quit and Force Quit are offered, and the notes shown.
+    [[nodiscard]] bool offersQuit() const;
+    [[nodiscard]] QStringList notes() const;
+    [[nodiscard]] int processRows() const;
+
+private:
+    void buildHangingSection(QVBoxLayout* layout);
+
+    Appearance m_appearance;
+    AppModel* m_model = nullptr;
+    std::string m_appId;
+    std::optional<std::string> m_path;
+    int32_t m_mainPid = 0;
+    QLabel* m_name = nullptr;
+    QLabel* m_summary = nullptr;
+    QLabel* m_where = nullptr;
+    QPushButton* m_reveal = nullptr;
+    QPushButton* m_quit = nullptr;
+    QPushButton* m_forceQuit = nullptr;
+    QTreeWidget* m_processes = nullptr;
+    QLabel* m_otherUsers = nullptr;
+    QLabel* m_zombies = nullptr;
+    QLabel* m_system = nullptr;
+    QLabel* m_sampleCommand = nullptr;
+    QLabel* m_reportCommand = nullptr;
+    QLabel* m_reportNote = nullptr;
+};
+
+} // namespace vexel

@@ -1,0 +1,118 @@
+#include "pages/CpuPage.h"
+
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+#include "look/BarBank.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "model/AppModel.h"
+#include "pages/TopApps.h"
+#include "pages/Traces.h"
+#include "texts/PageTexts.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+std::string coresCaption(const CPUStats& cpu)
+{
+    const auto count = std::to_string(cpu.cores.size());
+    if (cpu.performanceCores > 0 && cpu.efficiencyCores > 0)
+        return count + " cores: " + std::to_string(cpu.performanceCores) + " performance and "
+            + std::to_string(cpu.efficiencyCores) + " efficiency";
+    return count + (cpu.cores.size() == 1 ? " core" : " cores");
+}
+
+} // namespace
+
+CpuPage::CpuPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("CPU"));
+    m_total = Look::figure(this);
+    column->addWidget(m_total);
+    m_split = Look::line(this);
+    column->addWidget(m_split);
+    m_trace = new PaintedView(QSize(480, 90), this);
+    column->addWidget(m_trace);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    column->addWidget(m_traceCaption);
+    column->addSpacing(6);
+    column->addWidget(Look::heading(QStringLiteral("Cores"), this));
+    m_coresCaption = Look::explanation({}, appearance, this);
+    column->addWidget(m_coresCaption);
+    m_cores = new PaintedView(QSize(480, 70), this);
+    column->addWidget(m_cores);
+    column->addSpacing(6);
+    column->addWidget(Look::heading(QStringLiteral("Load"), this));
+    m_load = Look::line(this);
+    column->addWidget(m_load);
+    m_loadNote = Look::explanation({}, appearance, this);
+    column->addWidget(m_loadNote);
+    m_scale = Look::explanation({}, appearance, this);
+    column->addWidget(m_scale);
+    column->addSpacing(6);
+    m_top = new TopApps(QStringLiteral("Busiest apps"), appearance, this);
+    column->addWidget(m_top);
+    column->addStretch(1);
+}
+
+unsigned CpuPage::shows() const
+{
+    return AppModel::frameChanged | AppModel::settingsChanged;
+}
+
+void CpuPage::showModel(const AppModel& model)
+{
+    if (!model.frame)
+        return;
+    const auto& cpu = model.frame->system.cpu;
+    const bool wholeMachine = model.settings.cpuScale == CPUScale::mac;
+    const auto cores = wholeMachine ? std::optional(model.cores) : std::nullopt;
+    const double busy = (cpu.user + cpu.system) * model.cores; // in cores
+    m_total->setText(qs(Fmt::cpu(busy, cores)));
+    m_split->setText(qs("User " + Fmt::cpu(cpu.user * model.cores, cores) + "  ·  System "
+        + Fmt::cpu(cpu.system * model.cores, cores)));
+    m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)), appearance());
+    m_coresCaption->setText(qs(coresCaption(cpu)));
+    BarBank bank{cpu.cores};
+    bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };
+    m_cores->draw(bank, appearance());
+    m_load->setText(
+        qs(cformat("%.2f  ·  %.2f  ·  %.2f", cpu.load1, cpu.load5, cpu.load15) + "   (the last 1, 5 and 15 minutes)"));
+    m_loadNote->setText(qs("Load is the number of threads waiting for or using a core. Below "
+        + std::to_string(model.cores) + " (your core count), nothing is waiting."));
+    m_scale->setText(qs("CPU figures are shown as "
+        + (wholeMachine ? PageTexts::cpuScaleMachine(model.platform) : PageTexts::cpuScaleCore(model.platform)) + "."));
+    m_top->show(model, AppSort::cpu, 8, [cores](const AppGroup& app) { return Fmt::cpu(app.cpu, cores); });
+}
+
+QString CpuPage::totalText() const
+{
+    return m_total->text();
+}
+
+QString CpuPage::loadNote() const
+{
+    return m_loadNote->text();
+}
+
+QString CpuPage::scaleText() const
+{
+    return m_scale->text();
+}
+
+QStringList CpuPage::topRows() const
+{
+    return m_top->rows();
+}
+
+} // namespace vexel

@@ -1,0 +1,247 @@
+#include "pages/DevelopersPage.h"
+
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+#include "look/Buttons.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "model/AppModel.h"
+#include "pages/ServerRow.h"
+#include "platform/Environment.h"
+#include "texts/PageTexts.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <set>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+QLabel* commandLabel(QWidget* parent)
+{
+    auto* label = Look::line(parent);
+    QFont mono = Look::font(11);
+    mono.setFamily(QStringLiteral("monospace"));
+    mono.setStyleHint(QFont::Monospace);
+    label->setFont(mono);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+// Where the vexel command lives: beside the app, or in the Mac app's bundle.
+std::string vexelPath(Platform platform)
+{
+    if (platform == Platform::macOS)
+        return "/Applications/Vexel.app/Contents/MacOS/vexel";
+    return QCoreApplication::applicationDirPath().toStdString() + "/vexel";
+}
+
+} // namespace
+
+DevelopersPage::DevelopersPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("Developers"));
+    column->addWidget(Look::explanation(QStringLiteral("Dev servers grouped by project folder."), appearance, this));
+    m_serversHeading = Look::heading({}, this);
+    column->addWidget(m_serversHeading);
+    m_serversNote = Look::explanation({}, appearance, this);
+    column->addWidget(m_serversNote);
+    m_projects = new QVBoxLayout;
+    m_projects->setSpacing(8);
+    column->addLayout(m_projects);
+    column->addSpacing(8);
+
+    column->addWidget(Look::heading(QStringLiteral("Other listening ports"), this));
+    column->addWidget(Look::explanation(QStringLiteral("apps and services, not dev servers"), appearance, this));
+    m_ports = new FigureRows(this);
+    column->addWidget(m_ports);
+    m_noPorts = Look::explanation(QStringLiteral("None."), appearance, this);
+    column->addWidget(m_noPorts);
+    column->addSpacing(8);
+
+    column->addWidget(Look::heading(QStringLiteral("Containers"), this));
+    m_dockerHeading = Look::line(this);
+    column->addWidget(m_dockerHeading);
+    m_dockerNote = Look::explanation({}, appearance, this);
+    column->addWidget(m_dockerNote);
+    m_containers = new FigureRows(this);
+    column->addWidget(m_containers);
+    column->addSpacing(8);
+    buildToolsSection(column);
+    column->addStretch(1);
+}
+
+void DevelopersPage::buildToolsSection(QVBoxLayout* column)
+{
+    column->addWidget(Look::heading(QStringLiteral("Command line and AI tools"), this));
+    m_installNote = Look::explanation({}, appearance(), this);
+    column->addWidget(m_installNote);
+    const auto copyable = [this, column](QLabel* command) {
+        auto* line = new QHBoxLayout;
+        line->addWidget(command, 1);
+        auto* copy = Look::button(QStringLiteral("Copy"), this);
+        connect(copy, &QPushButton::clicked, this, [this, command] {
+            if (model())
+                model()->copyCommand(command->text().toStdString());
+        });
+        line->addWidget(copy, 0, Qt::AlignTop);
+        column->addLayout(line);
+    };
+    m_installCommand = commandLabel(this);
+    copyable(m_installCommand);
+    auto* status = commandLabel(this);
+    status->setText(QStringLiteral("vexel status"));
+    column->addWidget(status);
+    column->addWidget(
+        Look::explanation(QStringLiteral("Add the read-only MCP server to Claude Code:"), appearance(), this));
+    m_mcpCommand = commandLabel(this);
+    copyable(m_mcpCommand);
+    column->addWidget(Look::explanation(QStringLiteral("Your assistant can ask what's busy, what happened overnight, "
+                                                       "which dev servers are idle and what's on a port. It can't "
+                                                       "quit or stop anything — it has to ask you to do it here."),
+        appearance(), this));
+}
+
+unsigned DevelopersPage::shows() const
+{
+    return AppModel::serversChanged | AppModel::dockerChanged | AppModel::settingsChanged;
+}
+
+void DevelopersPage::showModel(const AppModel& model)
+{
+    showServers(model);
+    showDocker(model);
+    m_installNote->setText(qs(PageTexts::installInTerminal(model.platform)));
+    m_installCommand->setText(qs(PageTexts::installCommand(model.platform, vexelPath(model.platform))));
+    m_mcpCommand->setText(qs(PageTexts::mcpAddCommand(model.platform)));
+}
+
+void DevelopersPage::showServers(const AppModel& model)
+{
+    for (auto* widget : m_projectWidgets)
+        widget->deleteLater();
+    m_projectWidgets.clear();
+    m_rows.clear();
+    if (!model.serversLoaded) {
+        m_serversHeading->setText(QStringLiteral("Looking for servers…"));
+        m_serversNote->hide();
+    } else if (model.servers.empty()) {
+        m_serversHeading->setText(QStringLiteral("No dev servers running."));
+        m_serversNote->setText(QStringLiteral("When node, python, rails, a database or your own build listens on a "
+                                              "port, it shows up here under its project."));
+        m_serversNote->show();
+    } else {
+        m_serversHeading->setText(QStringLiteral("Servers"));
+        m_serversNote->hide();
+    }
+    const std::string home = homeFolder();
+    std::set<int32_t> serverPids;
+    for (const auto& group : model.serversLoaded ? model.servers : std::vector<ProjectGroup>{}) {
+        auto* project = new QWidget(this);
+        auto* layout = new QVBoxLayout(project);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(2);
+        auto* name = Look::line(project, qs(group.project.name));
+        name->setFont(Look::font(13, QFont::DemiBold));
+        layout->addWidget(name);
+        layout->addWidget(Look::explanation(qs(PageTexts::shownPath(group.project.path, home)), appearance(), project));
+        for (const auto& server : group.servers) {
+            auto* row = new ServerRow(server, model, appearance(), project);
+            if (auto* acting = Page::model())
+                row->attach(*acting);
+            layout->addWidget(row);
+            m_rows.push_back(row);
+            serverPids.insert(server.pid);
+        }
+        m_projects->addWidget(project);
+        m_projectWidgets.push_back(project);
+    }
+    FigureRows::Rows ports;
+    for (const auto& socket : model.listeners)
+        if (!serverPids.contains(socket.pid))
+            ports.emplace_back(qs(":" + std::to_string(socket.port) + "  " + socket.command),
+                qs("process " + std::to_string(socket.pid)
+                    + (reachableFromNetwork(socket) ? ", reachable from the network" : "")));
+    m_ports->setRows(ports);
+    m_noPorts->setVisible(model.serversLoaded && ports.empty());
+}
+
+void DevelopersPage::showDocker(const AppModel& model)
+{
+    FigureRows::Rows rows;
+    const auto& docker = model.docker;
+    m_dockerNote->hide();
+    if (!docker) {
+        m_dockerHeading->setText(QStringLiteral("Looking for containers…"));
+    } else if (docker->kind == DockerState::Kind::notInstalled) {
+        m_dockerHeading->setText(QStringLiteral("Docker isn't installed"));
+        m_dockerNote->setText(
+            qs("Vexel looks for the docker command from " + PageTexts::dockerEngines(model.platform) + "."));
+        m_dockerNote->show();
+    } else if (docker->kind == DockerState::Kind::notRunning) {
+        m_dockerHeading->setText(QStringLiteral("Docker isn't running"));
+        // The engine may run but refuse this user: then its own sentence says what to do.
+        const bool refused = docker->message == DockerState::notAllowed().message;
+        m_dockerNote->setText(
+            refused ? qs(docker->message) : QStringLiteral("Start Docker Desktop (or your engine) and this fills in."));
+        m_dockerNote->show();
+    } else if (docker->containers.empty()) {
+        m_dockerHeading->setText(QStringLiteral("Docker is running with no containers."));
+    } else {
+        m_dockerHeading->setText(qs(std::to_string(docker->containers.size())
+            + (docker->containers.size() == 1 ? " container" : " containers")));
+        for (const auto& container : docker->containers) {
+            std::string load = container.status;
+            if (container.cpu)
+                load += "  ·  CPU " + cformat("%.1f%%", *container.cpu);
+            if (container.memory)
+                load += "  ·  " + Fmt::memory(*container.memory);
+            rows.emplace_back(qs(container.name + "  (" + container.image + ")"), qs(load));
+        }
+    }
+    m_containers->setRows(rows);
+}
+
+QStringList DevelopersPage::serverState() const
+{
+    QStringList state{m_serversHeading->text()};
+    if (!m_serversNote->isHidden())
+        state << m_serversNote->text();
+    return state;
+}
+
+QStringList DevelopersPage::serverRows() const
+{
+    QStringList rows;
+    for (const auto* row : m_rows)
+        rows << row->summary();
+    return rows;
+}
+
+QStringList DevelopersPage::otherPorts() const
+{
+    return m_ports->rows();
+}
+
+QStringList DevelopersPage::dockerState() const
+{
+    QStringList state{m_dockerHeading->text()};
+    if (!m_dockerNote->isHidden())
+        state << m_dockerNote->text();
+    state << m_containers->rows();
+    return state;
+}
+
+} // namespace vexel

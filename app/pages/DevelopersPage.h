@@ -1,0 +1,51 @@
+#pragma once
+
+#include "pages/Page.h"
+
+#include <vector>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace vexel {
+
+class FigureRows;
+class ServerRow;
+
+// Developers: dev servers grouped by project folder, the other listening
+// ports, Docker's containers in each of its states, and how to install the
+// command line and the MCP server.
+class DevelopersPage final : public Page {
+public:
+    DevelopersPage(Appearance appearance, QWidget* parent);
+
+    void showModel(const AppModel& model) override;
+    [[nodiscard]] unsigned shows() const override;
+
+    // For tests: the servers section's state and rows, the ports, the containers.
+    [[nodiscard]] QStringList serverState() const;
+    [[nodiscard]] QStringList serverRows() const;
+    [[nodiscard]] QStringList otherPorts() const;
+    [[nodiscard]] QStringList dockerState() const;
+
+private:
+    void showServers(const AppModel& model);
+    void showDocker(const AppModel& model);
+    void buildToolsSection(QVBoxLayout* column);
+
+    QLabel* m_serversHeading = nullptr;
+    QLabel* m_serversNote = nullptr;
+    QVBoxLayout* m_projects = nullptr;
+    std::vector<QWidget*> m_projectWidgets;
+    std::vector<ServerRow*> m_rows;
+    FigureRows* m_ports = nullptr;
+    QLabel* m_noPorts = nullptr;
+    QLabel* m_dockerHeading = nullptr;
+    QLabel* m_dockerNote = nullptr;
+    FigureRows* m_containers = nullptr;
+    QLabel* m_installNote = nullptr;
+    QLabel* m_installCommand = nullptr;
+    QLabel* m_mcpCommand = nullptr;
+};
+
+} // namespace vexel

@@ -1,0 +1,88 @@
+#include "pages/DiskPage.h"
+
+#include "format/Fmt.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "model/AppModel.h"
+#include "pages/TopApps.h"
+#include "pages/Traces.h"
+#include "texts/PageTexts.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+std::string rate(double bytesPerSecond)
+{
+    return Fmt::rate(bytesPerSecond, Fmt::RateUnit::bytes);
+}
+
+} // namespace
+
+DiskPage::DiskPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("Disk"));
+    m_rates = Look::figure(this);
+    column->addWidget(m_rates);
+    column->addWidget(Look::explanation(QStringLiteral("Read"), appearance, this));
+    m_readTrace = new PaintedView(QSize(480, 60), this);
+    column->addWidget(m_readTrace);
+    column->addWidget(Look::explanation(QStringLiteral("Write"), appearance, this));
+    m_writeTrace = new PaintedView(QSize(480, 60), this);
+    column->addWidget(m_writeTrace);
+    column->addSpacing(6);
+    column->addWidget(Look::heading(QStringLiteral("Volumes"), this));
+    m_volumes = new FigureRows(this);
+    column->addWidget(m_volumes);
+    m_noVolumes = Look::explanation(QStringLiteral("No volumes could be read."), appearance, this);
+    column->addWidget(m_noVolumes);
+    column->addSpacing(6);
+    m_top = new TopApps(QStringLiteral("Reading and writing most"), appearance, this);
+    column->addWidget(m_top);
+    column->addStretch(1);
+}
+
+unsigned DiskPage::shows() const
+{
+    return AppModel::frameChanged;
+}
+
+void DiskPage::showModel(const AppModel& model)
+{
+    if (!model.frame)
+        return;
+    const auto& disk = model.frame->system.disk;
+    m_rates->setText(qs("Read " + rate(disk.readRate) + "  ·  Write " + rate(disk.writeRate)));
+    m_readTrace->draw(rateTrace(model.ring, &RingSample::diskR, Strain::calm), appearance());
+    m_writeTrace->draw(rateTrace(model.ring, &RingSample::diskW, Strain::calm), appearance());
+    FigureRows::Rows rows;
+    for (const auto& volume : disk.volumes)
+        rows.emplace_back(qs(volume.name + "  (" + volume.path + ")"),
+            qs(Fmt::bytes(volume.available) + " free of " + Fmt::bytes(volume.total)));
+    m_volumes->setRows(rows);
+    m_noVolumes->setVisible(rows.empty());
+    m_top->show(model, AppSort::disk, 8, [](const AppGroup& app) { return rate(app.diskRead + app.diskWrite); });
+    m_top->setNote(qs("Per-app figures cover " + PageTexts::diskPerAppNote(model.platform) + "."));
+}
+
+QString DiskPage::ratesText() const
+{
+    return m_rates->text();
+}
+
+QStringList DiskPage::volumes() const
+{
+    return m_volumes->rows();
+}
+
+} // namespace vexel

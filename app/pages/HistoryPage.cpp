@@ -1,0 +1,293 @@
+#include "pages/HistoryPage.h"
+
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+#include "history/Downsample.h"
+#include "look/Chart.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "model/AppModel.h"
+#include "pages/TimeTicks.h"
+#include "time/TimeZone.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace vexel {
+
+namespace {
+
+constexpr size_t coreTimeCount = 12;
+constexpr int chartsShown = 4;
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+// The longest pause between readings that still counts as one stretch: a
+// few of the tier's own steps.
+double gapFor(const std::vector<SysPoint>& points)
+{
+    double step = 0;
+    for (const auto& point : points)
+        step = std::max(step, std::min(point.dur, 3600.0));
+    return std::max(step, 5.0) * 3;
+}
+
+Chart chartOf(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range)
+{
+    Chart chart;
+    chart.from = history.from;
+    chart.to = history.to;
+    chart.gapAfter = gapFor(points);
+    chart.times = timeTicks(history.from, history.to, range, TimeZone::current());
+    return chart;
+}
+
+// Shares of the machine, in percent.
+Chart shareChart(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range,
+    std::vector<std::pair<QString, double SysPoint::*>> fields)
+{
+    Chart chart = chartOf(points, history, range);
+    chart.top = 100;
+    chart.valueText = [](double value) { return QString::number(value) + "%"; };
+    for (const auto& [name, field] : fields) {
+        Chart::Series series{name, {}};
+        for (const auto& point : points)
+            series.points.emplace_back(point.t + point.dur / 2, point.*field * 100);
+        chart.series.push_back(std::move(series));
+    }
+    return chart;
+}
+
+// Amounts per interval, drawn as rates so that tiers of different steps compare.
+Chart rateChart(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range,
+    std::vector<std::pair<QString, double SysPoint::*>> fields, Fmt::RateUnit unit)
+{
+    Chart chart = chartOf(points, history, range);
+    double top = 1000;
+    for (const auto& [name, field] : fields) {
+        Chart::Series series{name, {}};
+        for (const auto& point : points) {
+            const double rate = point.dur > 0 ? point.*field / point.dur : 0;
+            top = std::max(top, rate);
+            series.points.emplace_back(point.t + point.dur / 2, rate);
+        }
+        chart.series.push_back(std::move(series));
+    }
+    chart.top = top;
+    chart.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
+    return chart;
+}
+
+std::string spikeTime(const Spike& spike)
+{
+    int weekday = 0;
+    const CivilTime civil = TimeZone::current().civil(spike.start, &weekday);
+    return cformat("%d/%d %02d:%02d", civil.day, civil.month, civil.hour, civil.minute);
+}
+
+} // namespace
+
+HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("History"));
+    auto* picker = new QHBoxLayout;
+    picker->setSpacing(4);
+    m_ranges = new QButtonGroup(this);
+    for (const auto range : allHistoryRanges) {
+        auto* button = new QPushButton(qs(title(range)), this);
+        button->setCheckable(true);
+        button->setFont(Look::font(12));
+        m_ranges->addButton(button, static_cast<int>(range));
+        picker->addWidget(button);
+    }
+    picker->addStretch(1);
+    column->addLayout(picker);
+    connect(m_ranges, &QButtonGroup::idClicked, this, [this](int id) { pick(id); });
+
+    m_body = new QStackedWidget(this);
+    auto* empty = new QWidget(m_body);
+    auto* emptyLayout = new QVBoxLayout(empty);
+    emptyLayout->setContentsMargins(0, 40, 0, 40);
+    m_emptyHeading = Look::heading({}, empty);
+    m_emptyHeading->setAlignment(Qt::AlignCenter);
+    emptyLayout->addWidget(m_emptyHeading);
+    m_emptyNote = Look::centredNote({}, appearance, empty);
+    emptyLayout->addWidget(m_emptyNote);
+    emptyLayout->addStretch(1);
+    m_body->addWidget(empty);
+
+    m_charts = new QWidget(m_body);
+    auto* charts = new QVBoxLayout(m_charts);
+    charts->setContentsMargins(0, 0, 0, 0);
+    charts->setSpacing(8);
+    for (const auto* name : {"CPU", "Memory", "Disk", "Network"}) {
+        charts->addWidget(Look::heading(QString::fromLatin1(name), m_charts));
+        m_chartViews.push_back(new PaintedView(QSize(560, 120), m_charts));
+        charts->addWidget(m_chartViews.back());
+    }
+    m_gapNote = Look::explanation({}, appearance, m_charts);
+    charts->addWidget(m_gapNote);
+    charts->addSpacing(6);
+    charts->addWidget(Look::heading(QStringLiteral("Spikes"), m_charts));
+    m_spikes = new FigureRows(m_charts);
+    charts->addWidget(m_spikes);
+    m_noSpikes = Look::explanation(QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or "
+                                                  "downloads, heat or fast battery drain."),
+        appearance, m_charts);
+    charts->addWidget(m_noSpikes);
+    charts->addSpacing(6);
+    charts->addWidget(Look::heading(QStringLiteral("Core time by app"), m_charts));
+    m_coreTime = new FigureRows(m_charts);
+    charts->addWidget(m_coreTime);
+    charts->addWidget(
+        Look::explanation(QStringLiteral("Core time: an hour of one core fully busy. Apps that never made "
+                                         "the top dozen at a moment aren't kept, so small ones may be "
+                                         "missing."),
+            appearance, m_charts));
+    m_body->addWidget(m_charts);
+    column->addWidget(m_body);
+    column->addStretch(1);
+}
+
+unsigned HistoryPage::shows() const
+{
+    return AppModel::historyChanged | AppModel::settingsChanged | AppModel::storeErrorChanged;
+}
+
+void HistoryPage::pick(int index)
+{
+    if (model() && index >= 0 && index < static_cast<int>(allHistoryRanges.size()))
+        model()->setHistoryRange(allHistoryRanges[static_cast<size_t>(index)]);
+}
+
+void HistoryPage::showModel(const AppModel& model)
+{
+    // The range in use stands out in the accent, as the sidebar's page does.
+    for (auto* button : m_ranges->buttons()) {
+        const bool current = m_ranges->id(button) == static_cast<int>(model.historyRange);
+        button->setChecked(current);
+        QPalette palette = Look::palette(appearance());
+        if (current) {
+            palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
+            palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+        }
+        button->setPalette(palette);
+    }
+    const auto& history = model.history;
+    if (!history) {
+        if (model.storeError)
+            showEmpty(QStringLiteral("History can't be read."), qs(*model.storeError));
+        else
+            showEmpty(QStringLiteral("Reading the history…"), {});
+        return;
+    }
+    if (!history->first) {
+        showEmpty(QStringLiteral("History starts now."),
+            QStringLiteral("Vexel takes a reading every few seconds and keeps up to a year, thinning old readings to "
+                           "hourly so the file stays small. Come back in a few minutes."));
+        return;
+    }
+    if (history->points.empty()) {
+        // History began inside this range but hasn't reached its tier yet; or the machine was away all of it.
+        showEmpty(*history->first >= history->from ? QStringLiteral("No samples yet for this range.")
+                                                   : QStringLiteral("Nothing recorded in this range."),
+            {});
+        return;
+    }
+    m_body->setCurrentWidget(m_charts);
+    showCharts(model);
+    showSpikes(model);
+}
+
+void HistoryPage::showEmpty(const QString& heading, const QString& note)
+{
+    m_body->setCurrentIndex(0);
+    m_emptyHeading->setText(heading);
+    m_emptyNote->setText(note);
+    m_emptyNote->setVisible(!note.isEmpty());
+}
+
+void HistoryPage::showCharts(const AppModel& model)
+{
+    const auto& history = *model.history;
+    const auto& points = history.points;
+    const auto range = model.historyRange;
+    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const std::array<Chart, chartsShown> charts{
+        shareChart(points, history, range, {{"Average", &SysPoint::cpu}, {"Peak", &SysPoint::cpuMax}}),
+        shareChart(points, history, range, {{"In use", &SysPoint::mem}}),
+        rateChart(
+            points, history, range, {{"Read", &SysPoint::diskR}, {"Write", &SysPoint::diskW}}, Fmt::RateUnit::bytes),
+        rateChart(points, history, range, {{"Download", &SysPoint::netIn}, {"Upload", &SysPoint::netOut}}, unit)};
+    for (size_t i = 0; i < charts.size(); ++i)
+        m_chartViews[i]->draw(charts[i], appearance());
+    const double gap = gapFor(points);
+    bool gaps = false;
+    for (size_t i = 1; i < points.size(); ++i)
+        gaps = gaps || points[i].t - points[i - 1].t > gap;
+    m_gapNote->setText(qs("The lines break where readings stop. Your " + machineWord(model.platform)
+        + " was off, asleep or Vexel wasn't running."));
+    m_gapNote->setVisible(gaps);
+
+    const SysPoint whole = Downsample::rollup(points, history.from, 0);
+    FigureRows::Rows rows;
+    for (const auto& app : Downsample::rollupApps(history.apps, history.from, whole.dur, coreTimeCount)) {
+        const double hours = app.cpu * whole.dur / 3600;
+        rows.emplace_back(qs(app.name), qs(hours >= 1 ? cformat("%.1f h", hours) : cformat("%.0f min", hours * 60)));
+        if (rows.size() == coreTimeCount)
+            break;
+    }
+    m_coreTime->setRows(rows);
+}
+
+void HistoryPage::showSpikes(const AppModel& model)
+{
+    FigureRows::Rows rows;
+    for (const auto& spike : model.history->spikes) {
+        std::string culprit;
+        if (spike.culprit)
+            culprit = "mostly " + *spike.culprit + (spike.share ? " (" + Fmt::percent(*spike.share) + ")" : "");
+        rows.emplace_back(qs(spikeTime(spike) + "   " + spike.summary), qs(culprit));
+    }
+    m_spikes->setRows(rows);
+    m_noSpikes->setVisible(rows.empty());
+}
+
+QStringList HistoryPage::emptyState() const
+{
+    if (m_body->currentWidget() == m_charts)
+        return {};
+    QStringList state{m_emptyHeading->text()};
+    if (!m_emptyNote->isHidden())
+        state << m_emptyNote->text();
+    return state;
+}
+
+QStringList HistoryPage::spikeRows() const
+{
+    return m_spikes->rows();
+}
+
+QStringList HistoryPage::coreTimeRows() const
+{
+    return m_coreTime->rows();
+}
+
+int HistoryPage::chartCount() const
+{
+    return m_body->currentWidget() == m_charts ? static_cast<int>(m_chartViews.size()) : 0;
+}
+
+} // namespace vexel

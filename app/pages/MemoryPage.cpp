@@ -1,0 +1,90 @@
+#include "pages/MemoryPage.h"
+
+#include "format/Fmt.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "look/StrainColours.h"
+#include "model/AppModel.h"
+#include "pages/TopApps.h"
+#include "pages/Traces.h"
+#include "texts/PageTexts.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+MemoryPage::MemoryPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("Memory"));
+    m_used = Look::figure(this);
+    column->addWidget(m_used);
+    m_pressure = Look::line(this);
+    column->addWidget(m_pressure);
+    m_trace = new PaintedView(QSize(480, 90), this);
+    column->addWidget(m_trace);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    column->addWidget(m_traceCaption);
+    column->addSpacing(6);
+    column->addWidget(Look::heading(QStringLiteral("What's in memory"), this));
+    m_contents = new FigureRows(this);
+    column->addWidget(m_contents);
+    m_note = Look::explanation({}, appearance, this);
+    column->addWidget(m_note);
+    column->addSpacing(6);
+    m_top = new TopApps(QStringLiteral("Most memory"), appearance, this);
+    column->addWidget(m_top);
+    column->addStretch(1);
+}
+
+unsigned MemoryPage::shows() const
+{
+    return AppModel::frameChanged;
+}
+
+void MemoryPage::showModel(const AppModel& model)
+{
+    if (!model.frame)
+        return;
+    const auto& memory = model.frame->system.memory;
+    m_used->setText(qs(Fmt::memory(memory.used()) + " of " + Fmt::memory(memory.total) + " in use"));
+    m_pressure->setText(qs("Pressure: " + title(memory.pressure) + "  ·  Swap used: " + Fmt::memory(memory.swapUsed)));
+    QPalette palette = m_pressure->palette();
+    const Strain strain = model.strain(MenuItemKind::memory);
+    palette.setColor(QPalette::WindowText,
+        strain == Strain::calm ? Look::palette(appearance()).color(QPalette::WindowText)
+                               : Look::strainColour(appearance(), strain));
+    m_pressure->setPalette(palette);
+    m_trace->draw(shareTrace(model.ring, &RingSample::mem, strain), appearance());
+    m_contents->setRows({{QStringLiteral("App memory"), qs(Fmt::memory(memory.app))},
+        {QStringLiteral("Wired"), qs(Fmt::memory(memory.wired))},
+        {QStringLiteral("Compressed"), qs(Fmt::memory(memory.compressed))},
+        {QStringLiteral("Cached files"), qs(Fmt::memory(memory.cached))},
+        {QStringLiteral("Free"), qs(Fmt::memory(memory.free))}});
+    m_note->setText(qs(PageTexts::memoryPressureNote(model.platform)));
+    m_top->show(model, AppSort::memory, 8, [](const AppGroup& app) { return Fmt::memory(app.memory); });
+    m_top->setNote(qs("Per-app memory is the footprint, " + PageTexts::likeTheSystemMonitor(model.platform) + "."));
+}
+
+QString MemoryPage::usedText() const
+{
+    return m_used->text();
+}
+
+QStringList MemoryPage::contents() const
+{
+    return m_contents->rows();
+}
+
+} // namespace vexel

@@ -1,0 +1,62 @@
+#include "pages/NetworkPage.h"
+
+#include "format/Fmt.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "model/AppModel.h"
+#include "pages/TopApps.h"
+#include "pages/Traces.h"
+#include "texts/PageTexts.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+NetworkPage::NetworkPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("Network"));
+    m_rates = Look::figure(this);
+    column->addWidget(m_rates);
+    column->addWidget(
+        Look::explanation(QStringLiteral("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("Download"), appearance, this));
+    m_inTrace = new PaintedView(QSize(480, 60), this);
+    column->addWidget(m_inTrace);
+    column->addWidget(Look::explanation(QStringLiteral("Upload"), appearance, this));
+    m_outTrace = new PaintedView(QSize(480, 60), this);
+    column->addWidget(m_outTrace);
+    column->addSpacing(6);
+    m_top = new TopApps(QStringLiteral("Moving most"), appearance, this);
+    column->addWidget(m_top);
+    column->addStretch(1);
+}
+
+unsigned NetworkPage::shows() const
+{
+    return AppModel::frameChanged | AppModel::settingsChanged;
+}
+
+void NetworkPage::showModel(const AppModel& model)
+{
+    if (!model.frame)
+        return;
+    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const auto& net = model.frame->system.net;
+    m_rates->setText(
+        QString::fromStdString("Down " + Fmt::rate(net.inRate, unit) + "  ·  Up " + Fmt::rate(net.outRate, unit)));
+    const Strain strain = model.strain(MenuItemKind::network);
+    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain), appearance());
+    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain), appearance());
+    m_top->show(
+        model, AppSort::network, 8, [unit](const AppGroup& app) { return Fmt::rate(app.netIn + app.netOut, unit); });
+    m_top->setNote(QString::fromStdString("Per-app figures " + PageTexts::networkPerAppNote(model.platform) + "."));
+}
+
+QString NetworkPage::ratesText() const
+{
+    return m_rates->text();
+}
+
+} // namespace vexel

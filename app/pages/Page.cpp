@@ -1,0 +1,35 @@
+#include "pages/Page.h"
+
+#include "look/Labels.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+Page::Page(Appearance appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_appearance(appearance)
+{
+}
+
+QVBoxLayout* Page::scrollingColumn(const QString& title)
+{
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* content = new QWidget(scroll);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(28, 24, 28, 24);
+    column->setSpacing(10);
+    column->addWidget(Look::pageTitle(title, content));
+    scroll->setWidget(content);
+    outer->addWidget(scroll);
+    return column;
+}
+
+} // namespace vexel

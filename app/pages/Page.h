@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace vexel {
+
+class AppModel;
+
+// One page of the window. It shows what the model holds and acts only
+// through the model; it never reads the machine itself.
+class Page : public QWidget {
+public:
+    Page(Appearance appearance, QWidget* parent);
+
+    // Shows what the model holds now.
+    virtual void showModel(const AppModel& model) = 0;
+    // The model's changes (AppModel::Change bits) that this page shows.
+    [[nodiscard]] virtual unsigned shows() const = 0;
+    // The model the page's buttons act on.
+    void attach(AppModel& model) { m_model = &model; }
+
+protected:
+    [[nodiscard]] Appearance appearance() const { return m_appearance; }
+    [[nodiscard]] AppModel* model() const { return m_model; }
+    // A scrolling column under the page's title, for pages taller than the window.
+    QVBoxLayout* scrollingColumn(const QString& title);
+
+private:
+    Appearance m_appearance;
+    AppModel* m_model = nullptr;
+};
+
+} // namespace vexel

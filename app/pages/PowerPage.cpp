@@ -1,0 +1,150 @@
+#include "pages/PowerPage.h"
+
+#include "format/Fmt.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "look/LevelScale.h"
+#include "look/PaintedView.h"
+#include "model/AppModel.h"
+#include "pages/TopApps.h"
+#include "texts/PageTexts.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vexel {
+
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+std::string stateOf(const BatteryStats& battery)
+{
+    if (battery.charging)
+        return battery.minutesToFull ? "Charging, full in " + Fmt::minutes(*battery.minutesToFull) : "Charging";
+    if (battery.onAC)
+        return "On power adapter";
+    return battery.minutesLeft ? "On battery, " + Fmt::minutes(*battery.minutesLeft) + " left" : "On battery";
+}
+
+} // namespace
+
+PowerPage::PowerPage(Appearance appearance, QWidget* parent)
+    : Page(appearance, parent)
+{
+    auto* column = scrollingColumn(QStringLiteral("Power & Heat"));
+    column->addWidget(Look::heading(QStringLiteral("Battery"), this));
+    m_charge = Look::figure(this);
+    column->addWidget(m_charge);
+    m_state = Look::line(this);
+    column->addWidget(m_state);
+    m_battery = new FigureRows(this);
+    column->addWidget(m_battery);
+    m_capacityNote = Look::explanation(QStringLiteral("Capacity left compares the battery's full charge today with "
+                                                      "when it was new. Below 80% it holds noticeably less."),
+        appearance, this);
+    column->addWidget(m_capacityNote);
+    column->addSpacing(8);
+    column->addWidget(Look::heading(QStringLiteral("Heat"), this));
+    m_thermal = Look::line(this);
+    column->addWidget(m_thermal);
+    m_scale = new PaintedView(QSize(420, 36), this);
+    column->addWidget(m_scale);
+    m_thermalNote = Look::explanation({}, appearance, this);
+    column->addWidget(m_thermalNote);
+    column->addSpacing(8);
+    m_energy = new TopApps(QStringLiteral("Using most energy"), appearance, this);
+    column->addWidget(m_energy);
+    column->addStretch(1);
+}
+
+unsigned PowerPage::shows() const
+{
+    return AppModel::frameChanged;
+}
+
+void PowerPage::showModel(const AppModel& model)
+{
+    if (!model.frame)
+        return;
+    showBattery(model);
+    // Energy per app is measured where the system meters it and estimated from CPU time elsewhere.
+    const auto apps = model.apps(AppSort::energy, 8);
+    const bool mixed = std::ranges::any_of(apps, [](const AppGroup& app) {
+        return app.energyW && !app.energyEstimated;
+    }) && std::ranges::any_of(apps, [](const AppGroup& app) { return app.energyW && app.energyEstimated; });
+    m_energy->show(model, AppSort::energy, 8, [mixed](const AppGroup& app) {
+        const std::string watts = Fmt::watts(app.energyW.value_or(0));
+        return mixed ? watts + (app.energyEstimated ? "  estimated" : "  measured") : watts;
+    });
+    const bool allEstimated = std::ranges::all_of(apps, [](const AppGroup& app) { return app.energyEstimated; });
+    const Platform platform = model.platform;
+    m_energy->setNote(qs(mixed ? "Measured: " + PageTexts::energyMeasured(platform)
+                + ". Estimated: " + PageTexts::energyEstimated(platform) + "."
+                               : "Energy per app is "
+                + (allEstimated ? PageTexts::energyEstimated(platform) : PageTexts::energyMeasured(platform)) + "."));
+
+    const ThermalLevel level = model.frame->system.thermal;
+    m_thermal->setText(qs(title(level) + ": " + detail(level, platform)));
+    LevelScale scale;
+    for (const auto step : allThermalLevels)
+        scale.steps.push_back({qs(title(step)), model.settings.strain.thermal(step)});
+    scale.current = static_cast<size_t>(rawValue(level));
+    m_scale->draw(scale, appearance());
+    m_thermalNote->setText(qs(PageTexts::thermalNote(platform)));
+}
+
+void PowerPage::showBattery(const AppModel& model)
+{
+    const auto& battery = model.frame->system.battery;
+    m_state->setVisible(battery.has_value());
+    m_battery->setVisible(battery.has_value());
+    m_capacityNote->setVisible(battery && battery->health());
+    if (!battery) {
+        m_charge->setFont(Look::font(13));
+        m_charge->setWordWrap(true);
+        m_charge->setText(qs(PageTexts::mainsPower(model.platform)));
+        return;
+    }
+    m_charge->setFont(Look::font(22, QFont::DemiBold));
+    m_charge->setText(qs(std::to_string(battery->percent) + "%"));
+    m_state->setText(qs(stateOf(*battery)));
+    FigureRows::Rows rows;
+    if (battery->powerW)
+        rows.emplace_back(*battery->powerW < 0 ? QStringLiteral("Drawing") : QStringLiteral("Charging at"),
+            qs(Fmt::watts(std::abs(*battery->powerW))));
+    if (const auto health = battery->health())
+        rows.emplace_back(QStringLiteral("Capacity left"), qs(Fmt::percent(*health)));
+    if (battery->cycles)
+        rows.emplace_back(QStringLiteral("Charge cycles"), QString::number(*battery->cycles));
+    if (battery->condition)
+        rows.emplace_back(QStringLiteral("Condition"), qs(*battery->condition));
+    m_battery->setRows(rows);
+}
+
+QString PowerPage::batteryText() const
+{
+    return m_charge->text();
+}
+
+QStringList PowerPage::batteryRows() const
+{
+    return m_battery->isHidden() ? QStringList() : m_battery->rows();
+}
+
+QStringList PowerPage::energyRows() const
+{
+    return m_energy->rows();
+}
+
+QString PowerPage::thermalText() const
+{
+    return m_thermal->text();
+}
+
+} // namespace vexel

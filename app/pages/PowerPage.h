@@ -1,0 +1,40 @@
+#pragma once
+
+#include "pages/Page.h"
+
+class QLabel;
+
+namespace vexel {
+
+class FigureRows;
+class PaintedView;
+class TopApps;
+
+// Power & Heat: the battery (or the sentence for mains power), the apps
+// using most energy with how their figures were had, and the thermal scale.
+class PowerPage final : public Page {
+public:
+    PowerPage(Appearance appearance, QWidget* parent);
+
+    void showModel(const AppModel& model) override;
+    [[nodiscard]] unsigned shows() const override;
+
+    [[nodiscard]] QString batteryText() const; // the charge, or the mains-power sentence
+    [[nodiscard]] QStringList batteryRows() const;
+    [[nodiscard]] QStringList energyRows() const;
+    [[nodiscard]] QString thermalText() const;
+
+private:
+    void showBattery(const AppModel& model);
+
+    QLabel* m_charge = nullptr;
+    QLabel* m_state = nullptr;
+    FigureRows* m_battery = nullptr;
+    QLabel* m_capacityNote = nullptr;
+    TopApps* m_energy = nullptr;
+    QLabel* m_thermal = nullptr;
+    PaintedView* m_scale = nullptr;
+    QLabel* m_thermalNote = nullptr;
+};
+
+} // namespace vexel

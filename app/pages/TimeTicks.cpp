@@ -1,0 +1,100 @@
+#include "pages/TimeTicks.h"
+
+#include "format/CFormat.h"
+
+#include <array>
+#include <cmath>
+#include <functional>
+
+namespace vexel {
+
+namespace {
+
+constexpr double quarter = 900;
+constexpr double day = 86400;
+constexpr size_t mostTicks = 6;
+
+constexpr std::array<const char*, 7> weekdays{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+constexpr std::array<const char*, 12> months{
+    "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+// Whole hours from `from` on, every `hours` in local time.
+std::vector<std::pair<double, QString>> hourTicks(double from, double to, int hours, const TimeZone& zone)
+{
+    std::vector<std::pair<double, QString>> ticks;
+    // Quarter hours find the local whole hour in every zone, even those set off by 30 or 45 minutes.
+    for (double t = std::ceil(from / quarter) * quarter; t <= to; t += quarter) {
+        const CivilTime civil = zone.civil(t);
+        if (civil.minute == 0 && civil.hour % hours == 0)
+            ticks.emplace_back(t, QString::fromStdString(cformat("%02d:00", civil.hour)));
+    }
+    return ticks;
+}
+
+// The first local midnight at or after `t`.
+double nextMidnight(double t, const TimeZone& zone)
+{
+    for (double at = std::ceil(t / quarter) * quarter;; at += quarter) {
+        const CivilTime civil = zone.civil(at);
+        if (civil.hour == 0 && civil.minute == 0)
+            return at;
+    }
+}
+
+// Local midnights from `from` on that `keep` accepts, labelled by `label`.
+std::vector<std::pair<double, QString>> dayTicks(double from, double to, const TimeZone& zone,
+    const std::function<bool(const CivilTime&, int)>& keep, const std::function<QString(const CivilTime&, int)>& label)
+{
+    std::vector<std::pair<double, QString>> ticks;
+    for (double t = nextMidnight(from, zone); t <= to; t += day) {
+        int weekday = 0;
+        CivilTime civil = zone.civil(t, &weekday);
+        // A day of 23 or 25 hours moves the next midnight by an hour.
+        if (civil.hour == 23)
+            civil = zone.civil(t += 3600, &weekday);
+        else if (civil.hour == 1)
+            civil = zone.civil(t -= 3600, &weekday);
+        if (keep(civil, weekday))
+            ticks.emplace_back(t, label(civil, weekday));
+    }
+    return ticks;
+}
+
+QString dayAndMonth(const CivilTime& civil, int)
+{
+    return QString::fromStdString(cformat("%d %s", civil.day, months.at(static_cast<size_t>(civil.month - 1) % 12)));
+}
+
+} // namespace
+
+std::vector<std::pair<double, QString>> timeTicks(double from, double to, HistoryRange range, const TimeZone& zone)
+{
+    if (!(to > from) || !std::isfinite(from) || !std::isfinite(to) || to - from > 400 * day)
+        return {};
+    switch (range) {
+    case HistoryRange::today:
+        for (const int hours : {1, 2, 3, 4, 6, 12}) {
+            auto ticks = hourTicks(from, to, hours, zone);
+            if (ticks.size() <= mostTicks)
+                return ticks;
+        }
+        return {};
+    case HistoryRange::week:
+        return dayTicks(
+            from, to, zone, [](const CivilTime&, int) { return true; },
+            [](const CivilTime&, int weekday) {
+                return QString::fromLatin1(weekdays.at(static_cast<size_t>(weekday) % 7));
+            });
+    case HistoryRange::month:
+        return dayTicks(
+            from, to, zone, [](const CivilTime& civil, int) { return civil.day % 5 == 0 && civil.day < 31; },
+            dayAndMonth);
+    case HistoryRange::year:
+        return dayTicks(
+            from, to, zone, [](const CivilTime& civil, int) { return civil.day == 1 && civil.month % 2 == 1; },
+            dayAndMonth);
+    }
+    return {};
+}
+
+} // namespace vexel

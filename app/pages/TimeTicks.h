@@ -1,0 +1,21 @@
+#pragma once
+
+#include "history/HistoryRange.h"
+#include "time/TimeZone.h"
+
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+namespace vexel {
+
+// The times a history chart marks under its plot, at round local times:
+// whole hours for a day (every 1, 2, 3, 4 or 6 hours, so that at most
+// six fit), each midnight for a week, every fifth day for a month and the
+// first of every other month for a year. Each with its label: "14:00",
+// "Mon", "5 Nov", "1 Jan".
+[[nodiscard]] std::vector<std::pair<double, QString>> timeTicks(
+    double from, double to, HistoryRange range, const TimeZone& zone);
+
+} // namespace vexel

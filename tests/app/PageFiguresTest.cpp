@@ -1,0 +1,119 @@
+// The pages' pure parts: the search of the Apps page, the platform's words,
+// and the times marked under history charts.
+
+#include "model/AppSearch.h"
+#include "pages/TimeTicks.h"
+#include "texts/PageTexts.h"
+
+#include <gtest/gtest.h>
+
+using namespace vexel;
+
+namespace {
+
+AppGroup app(const std::string& name, std::vector<std::pair<int32_t, std::string>> processes)
+{
+    AppGroup group;
+    group.id = "app:" + name;
+    group.name = name;
+    for (auto& [pid, process] : processes) {
+        ProcRow row;
+        row.pid = pid;
+        row.name = process;
+        group.processes.push_back(row);
+    }
+    return group;
+}
+
+std::vector<std::string> names(const std::vector<AppGroup>& apps)
+{
+    std::vector<std::string> result;
+    for (const auto& group : apps)
+        result.push_back(group.name);
+    return result;
+}
+
+} // namespace
+
+TEST(AppSearch, NamesProcessesAndPids)
+{
+    const std::vector<AppGroup> apps{app("Google Chrome", {{100, "Google Chrome"}, {101, "Google Chrome Helper"}}),
+        app("Visual Studio Code", {{200, "code"}, {4100, "node"}}), app("node", {{41, "node"}})};
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(names(searchApps(apps, "")), (Names{"Google Chrome", "Visual Studio Code", "node"}));
+    EXPECT_EQ(names(searchApps(apps, "  chrome ")), Names{"Google Chrome"}); // ignoring case and blanks
+    EXPECT_EQ(names(searchApps(apps, "helper")), Names{"Google Chrome"}); // a process's name finds its app
+    EXPECT_EQ(names(searchApps(apps, "node")), (Names{"Visual Studio Code", "node"}));
+    // A PID finds its owner only: 41 is not a part of 4100.
+    EXPECT_EQ(names(searchApps(apps, "41")), Names{"node"});
+    EXPECT_EQ(names(searchApps(apps, "4100")), Names{"Visual Studio Code"});
+    EXPECT_TRUE(searchApps(apps, "99999").empty());
+    EXPECT_TRUE(searchApps(apps, "zzz").empty());
+    EXPECT_TRUE(searchApps(apps, "-1").empty());
+}
+
+TEST(PageTexts, EachPlatformInItsOwnWords)
+{
+    EXPECT_EQ(PageTexts::revealInFiles(Platform::macOS), "Reveal in Finder");
+    EXPECT_EQ(PageTexts::revealInFiles(Platform::linux), "Show in Files");
+    EXPECT_EQ(PageTexts::cpuScaleMachine(Platform::macOS), "% of the whole Mac");
+    EXPECT_EQ(PageTexts::cpuScaleCore(Platform::linux), "% of one core (like top)");
+    EXPECT_EQ(PageTexts::commandCopied(Platform::linux), "Command copied. Paste it into a terminal.");
+    EXPECT_EQ(PageTexts::mainsPower(Platform::macOS), "This Mac runs on mains power — no battery to report.");
+    EXPECT_EQ(PageTexts::systemGroupNote(Platform::linux),
+        "Linux manages these processes itself; Vexel doesn't offer to quit them.");
+    EXPECT_EQ(PageTexts::energyEstimated(Platform::linux), "estimated from CPU use on this computer");
+    EXPECT_TRUE(PageTexts::neuralEngineNote(Platform::linux).empty());
+    // Linux does report temperatures: its sentence must not say otherwise.
+    EXPECT_EQ(PageTexts::thermalNote(Platform::linux).find("aren't available"), std::string::npos);
+    EXPECT_NE(PageTexts::thermalNote(Platform::macOS).find("aren't available"), std::string::npos);
+    EXPECT_EQ(PageTexts::otherUsersNote(Platform::macOS, 1).substr(0, 21), "1 process belongs to ");
+    EXPECT_EQ(PageTexts::zombiesNote(3).substr(0, 16), "3 processes have");
+    // The commands name the process they were shown for.
+    EXPECT_EQ(PageTexts::sampleCommand(Platform::macOS, 386), "sample 386 5");
+    EXPECT_NE(PageTexts::sampleCommand(Platform::linux, 386).find("gdb -p 386 "), std::string::npos);
+    EXPECT_NE(
+        PageTexts::fullerReportCommand(Platform::linux, 386).find("sudo perf record -g -p 386 "), std::string::npos);
+}
+
+TEST(PageTexts, PathsUnderHomeShowATilde)
+{
+    EXPECT_EQ(PageTexts::shownPath("/home/ann/code/site", "/home/ann"), "~/code/site");
+    EXPECT_EQ(PageTexts::shownPath("/home/ann/code", "/home/ann/"), "~/code");
+    EXPECT_EQ(PageTexts::shownPath("/home/ann", "/home/ann"), "~");
+    EXPECT_EQ(PageTexts::shownPath("/home/anna/code", "/home/ann"), "/home/anna/code");
+    EXPECT_EQ(PageTexts::shownPath("/srv/site", "/"), "/srv/site");
+    EXPECT_EQ(PageTexts::shownPath("/srv/site", ""), "/srv/site");
+}
+
+TEST(TimeTicks, RoundLocalTimesForEachRange)
+{
+    // Sunday 1 November 2026, 00:00 UTC.
+    const double midnight = 1'793'491'200;
+    const auto utc = TimeZone::fixed(0);
+    // A day until 11:06: every two hours, six marks at most.
+    auto today = timeTicks(midnight, midnight + 11 * 3600 + 360, HistoryRange::today, utc);
+    ASSERT_EQ(today.size(), 6U);
+    EXPECT_EQ(today.front(), (std::pair<double, QString>{midnight, "00:00"}));
+    EXPECT_EQ(today.back().second, QStringLiteral("10:00"));
+    // Early in the day, every hour.
+    EXPECT_EQ(timeTicks(midnight, midnight + 3 * 3600, HistoryRange::today, utc).size(), 4U);
+    // A zone half an hour off UTC marks its own whole hours.
+    const auto india = TimeZone::fixed(19800);
+    const auto shifted = timeTicks(midnight, midnight + 4 * 3600, HistoryRange::today, india);
+    ASSERT_FALSE(shifted.empty());
+    EXPECT_EQ(shifted.front(), (std::pair<double, QString>{midnight + 1800, "06:00"}));
+    // A week: each midnight, by weekday.
+    const auto week = timeTicks(midnight - 7 * 86400 + 60, midnight + 60, HistoryRange::week, utc);
+    ASSERT_EQ(week.size(), 7U);
+    EXPECT_EQ(week.back(), (std::pair<double, QString>{midnight, "Sun"}));
+    EXPECT_EQ(week.front().second, QStringLiteral("Mon"));
+    // A year: the first of every other month, both ends included.
+    const auto year = timeTicks(midnight - 365 * 86400, midnight, HistoryRange::year, utc);
+    ASSERT_EQ(year.size(), 7U);
+    EXPECT_EQ(year[1].second, QStringLiteral("1 Jan"));
+    EXPECT_EQ(year.back(), (std::pair<double, QString>{midnight, "1 Nov"}));
+    // Nonsense spans mark nothing.
+    EXPECT_TRUE(timeTicks(midnight, midnight - 1, HistoryRange::today, utc).empty());
+    EXPECT_TRUE(timeTicks(0, 1e300, HistoryRange::year, utc).empty());
+}

@@ -1,0 +1,269 @@
+// The pages on the demo world, offscreen: what each shows from the model,
+// its empty states, and what its controls ask of the model.
+
+#include "DemoModel.h"
+#include "MainWindow.h"
+#include "pages/AppInspector.h"
+#include "pages/AppsPage.h"
+#include "pages/DevelopersPage.h"
+#include "pages/GpuPage.h"
+#include "pages/HistoryPage.h"
+#include "pages/OverviewPage.h"
+#include "pages/PowerPage.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+using namespace vexel;
+using vexel::testing::DemoModel;
+
+namespace {
+
+// A model with its first frame in.
+std::unique_ptr<DemoModel> readModel(Platform platform = Platform::macOS)
+{
+    auto demo = std::make_unique<DemoModel>(std::function<void(VexelSettings&)>{}, platform);
+    demo->model->refresh(true);
+    demo->settle();
+    return demo;
+}
+
+const AppGroup& appNamed(const AppModel& model, const std::string& name)
+{
+    const auto* app = model.frame->app(name);
+    EXPECT_NE(app, nullptr) << name;
+    return *app;
+}
+
+} // namespace
+
+TEST(AppsPage, SearchFindsTheOwnerOfAPidAndNothingForNonsense)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    AppsPage page(Appearance::light, nullptr);
+    page.attach(model);
+    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
+    page.showModel(model);
+    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame->apps.size()));
+
+    // A helper's PID finds the app that owns it, not a process row.
+    const AppGroup& iterm = appNamed(model, "iTerm2");
+    const auto helper = std::ranges::find_if(iterm.processes, [&](const ProcRow& row) { return row.name != "iTerm2"; });
+    ASSERT_NE(helper, iterm.processes.end());
+    page.searchField()->setText(QString::number(helper->pid));
+    EXPECT_EQ(model.appSearch, std::to_string(helper->pid));
+    EXPECT_EQ(page.rowNames(), QStringList{"iTerm2"});
+
+    page.searchField()->setText(QStringLiteral("no such thing"));
+    EXPECT_TRUE(page.rowNames().isEmpty());
+    page.searchField()->clear();
+    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame->apps.size()));
+}
+
+TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    AppsPage page(Appearance::light, nullptr);
+    page.attach(model);
+    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
+    page.showModel(model);
+    EXPECT_FALSE(page.inspectorShown());
+
+    // Selecting a row selects its app in the model and opens the inspector.
+    const AppGroup& iterm = appNamed(model, "iTerm2");
+    const int row = static_cast<int>(page.rowNames().indexOf("iTerm2"));
+    page.list()->setCurrentItem(page.list()->topLevelItem(row));
+    EXPECT_EQ(model.selectedApp, iterm.id);
+    ASSERT_TRUE(page.inspectorShown());
+    EXPECT_EQ(page.inspector()->offersQuit(), model.canQuit(iterm));
+    EXPECT_TRUE(page.inspector()->offersQuit());
+    EXPECT_EQ(page.inspector()->processRows(), static_cast<int>(iterm.processes.size()));
+    // iTerm2's login shells run as root and one child is a zombie: both are explained.
+    const QStringList notes = page.inspector()->notes();
+    EXPECT_TRUE(notes.filter("to another user (usually macOS)").size() == 1) << notes.join('|').toStdString();
+    EXPECT_TRUE(notes.filter("(zombie). They use no CPU or memory.").size() == 1) << notes.join('|').toStdString();
+
+    // A system group is never offered a quit, and the inspector says why.
+    const auto system = std::ranges::find(model.frame->apps, AppKind::system, &AppGroup::kind);
+    ASSERT_NE(system, model.frame->apps.end());
+    model.selectApp(system->id);
+    EXPECT_FALSE(page.inspector()->offersQuit());
+    EXPECT_TRUE(page.inspector()->notes().contains(
+        QStringLiteral("macOS manages these processes itself; Vexel doesn't offer to quit them.")));
+}
+
+TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
+{
+    auto demo = readModel(Platform::linux);
+    auto& model = *demo->model;
+    model.frame->system.battery.reset();
+    model.frame->system.gpu.reset();
+    model.docker = DockerState::notInstalled();
+    model.serversLoaded = true;
+    model.servers.clear();
+
+    PowerPage power(Appearance::light, nullptr);
+    power.showModel(model);
+    EXPECT_EQ(power.batteryText(), QStringLiteral("This computer runs on mains power — no battery to report."));
+    EXPECT_TRUE(power.batteryRows().isEmpty());
+
+    GpuPage gpu(Appearance::light, nullptr);
+    gpu.showModel(model);
+    EXPECT_FALSE(gpu.showsChart());
+    EXPECT_EQ(gpu.unavailableText(),
+        QStringLiteral("This computer's graphics driver doesn't report utilisation, so there's nothing to show here."));
+
+    DevelopersPage developers(Appearance::light, nullptr);
+    developers.showModel(model);
+    EXPECT_EQ(developers.dockerState(),
+        (QStringList{"Docker isn't installed",
+            "Vexel looks for the docker command from Docker Engine, Docker Desktop or Podman."}));
+    EXPECT_EQ(developers.serverState(),
+        (QStringList{"No dev servers running.",
+            "When node, python, rails, a database or your own build listens on a "
+            "port, it shows up here under its project."}));
+    model.docker = DockerState::notRunning();
+    developers.showModel(model);
+    EXPECT_EQ(developers.dockerState(),
+        (QStringList{"Docker isn't running", "Start Docker Desktop (or your engine) and this fills in."}));
+    model.docker = DockerState{DockerState::Kind::containers, "", {}};
+    developers.showModel(model);
+    EXPECT_EQ(developers.dockerState(), QStringList{"Docker is running with no containers."});
+}
+
+TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    ASSERT_TRUE(model.serversLoaded); // the first, full, tick scans ports
+    ASSERT_FALSE(model.servers.empty());
+    DevelopersPage page(Appearance::light, nullptr);
+    model.serversLoaded = false;
+    page.showModel(model);
+    EXPECT_EQ(page.serverState(), QStringList{"Looking for servers…"});
+    EXPECT_TRUE(page.serverRows().isEmpty());
+    model.serversLoaded = true;
+    page.showModel(model);
+    const QStringList rows = page.serverRows();
+    int servers = 0;
+    for (const auto& group : model.servers)
+        servers += static_cast<int>(group.servers.size());
+    EXPECT_EQ(rows.size(), servers);
+    EXPECT_EQ(rows.filter("Idle for ").size(), rows.filter("Idle for 4 days").size());
+    EXPECT_FALSE(rows.filter("Idle for ").isEmpty()) << rows.join('|').toStdString();
+    EXPECT_FALSE(rows.filter("Reachable from other devices on your network").isEmpty());
+    // Listeners that are no server's are listed beside them.
+    for (const auto& port : page.otherPorts())
+        for (const auto& group : model.servers)
+            for (const auto& server : group.servers)
+                EXPECT_FALSE(port.contains(QString::fromStdString("process " + std::to_string(server.pid))));
+}
+
+// Leaving Developers stops the container reads that being on it started.
+TEST(Pages, DevelopersInViewReadsContainersAndLeavingStopsThem)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    MainWindow window(Appearance::light);
+    window.bind(model);
+    model.setWindowVisible(true);
+    demo->settle();
+    unsigned seen = 0;
+    QObject::connect(&model, &AppModel::changed, [&seen](unsigned what) { seen |= what; });
+    const auto ticks = [&](int count) {
+        seen = 0;
+        for (int i = 0; i < count; ++i) {
+            demo->now += 2;
+            model.refresh(false);
+            demo->settle();
+        }
+    };
+    ticks(10); // 20 s on Overview
+    EXPECT_FALSE(seen & AppModel::dockerChanged);
+    window.showRoute(Route::developers);
+    EXPECT_EQ(model.route, Route::developers);
+    ticks(1); // the next plan reads ports and containers
+    EXPECT_TRUE(seen & AppModel::serversChanged);
+    EXPECT_TRUE(seen & AppModel::dockerChanged);
+    window.showRoute(Route::cpu);
+    ticks(10);
+    EXPECT_FALSE(seen & AppModel::dockerChanged);
+}
+
+TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
+{
+    auto demo = readModel(Platform::linux);
+    auto& model = *demo->model;
+    HistoryPage page(Appearance::light, nullptr);
+    const double now = demo->now;
+    model.history = Sampler::HistoryResult{{}, {}, {}, std::nullopt, now - 3600, now};
+    page.showModel(model);
+    EXPECT_EQ(page.emptyState(),
+        (QStringList{"History starts now.",
+            "Vexel takes a reading every few seconds and keeps up to a year, thinning "
+            "old readings to hourly so the file stays small. Come back in a few "
+            "minutes."}));
+    // History began before the range, but nothing was recorded in it.
+    model.history->first = now - 86400;
+    page.showModel(model);
+    EXPECT_EQ(page.emptyState(), QStringList{"Nothing recorded in this range."});
+    // History began inside the range and hasn't reached its tier.
+    model.history->first = now - 600;
+    page.showModel(model);
+    EXPECT_EQ(page.emptyState(), QStringList{"No samples yet for this range."});
+
+    // With samples the charts show, and without spikes the list says nothing was unusual.
+    for (int tick = 0; tick < 3; ++tick) {
+        demo->now += 2;
+        model.refresh(false);
+        demo->settle();
+    }
+    model.loadHistorySync();
+    page.showModel(model);
+    EXPECT_TRUE(page.emptyState().isEmpty());
+    EXPECT_EQ(page.chartCount(), 4);
+    EXPECT_TRUE(page.spikeRows().isEmpty());
+    EXPECT_FALSE(page.coreTimeRows().isEmpty());
+}
+
+TEST(HistoryPage, PickingARangeReadsThatRange)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    HistoryPage page(Appearance::light, nullptr);
+    page.attach(model);
+    QSignalSpy changes(&model, &AppModel::changed);
+    page.pick(static_cast<int>(HistoryRange::month));
+    EXPECT_EQ(model.historyRange, HistoryRange::month);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !model.historyLoading; }, 10000));
+    ASSERT_TRUE(model.history);
+    EXPECT_NEAR(model.history->to - model.history->from, 30 * 86400.0, 1);
+}
+
+TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    OverviewPage page(Appearance::light, nullptr);
+    page.attach(model);
+    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
+    page.showModel(model);
+    EXPECT_TRUE(page.awayLines().isEmpty());
+    model.awaySince = demo->now - 3600;
+    model.awaySpikes
+        = {Spike{SpikeKind::cpu, demo->now - 3000, demo->now - 2400, 0.95, "Xcode", 0.8, "CPU at 95% for 10 minutes"}};
+    page.showModel(model);
+    EXPECT_EQ(page.awayLines(), QStringList{"CPU at 95% for 10 minutes, mostly Xcode"});
+    model.awaySpikes.clear();
+    page.showModel(model);
+    EXPECT_EQ(page.awayLines(),
+        QStringList{"Nothing unusual: no long CPU spikes, memory pressure, big writes or "
+                    "downloads, heat or fast battery drain."});
+    page.dismissAway();
+    EXPECT_FALSE(model.awaySince);
+    EXPECT_TRUE(page.awayLines().isEmpty());
+}
