@@ -69,6 +69,11 @@ QPalette palette(Appearance appearance)
     p.setColor(QPalette::Highlight, highlight);
     p.setColor(QPalette::HighlightedText, QColor(0xff, 0xff, 0xff));
     p.setColor(QPalette::PlaceholderText, secondaryText(appearance));
+    // Controls that can't be used now fade towards the background.
+    QColor faded = secondaryText(appearance);
+    faded.setAlphaF(0.55F);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, faded);
     return p;
 }
 

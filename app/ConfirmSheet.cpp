@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -82,6 +83,15 @@ void ConfirmSheet::show(const ConfirmRequest* request)
     QFrame::show();
     raise();
     m_cancel->setFocus();
+}
+
+void ConfirmSheet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        emit cancelled();
+        return;
+    }
+    OverlayFrame::keyPressEvent(event);
 }
 
 void ConfirmSheet::place()

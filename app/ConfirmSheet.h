@@ -43,6 +43,10 @@ signals:
     void confirmed();
     void cancelled();
 
+protected:
+    // Escape answers Cancel, as in any dialog.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void place() override;
 

@@ -3,12 +3,15 @@
 #include "Appearance.h"
 #include "MainWindow.h"
 #include "StopSignals.h"
+#include "VexelCommands.h"
 #include "WindowKeeper.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
 #include "platform/Environment.h"
+#include "processes/Shell.h"
 #include "recorder/HeadlessRecorder.h"
 #include "recorder/RecorderLock.h"
+#include "settings/SettingsWindow.h"
 #include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
@@ -48,6 +51,13 @@ void quitOnStopSignals(QCoreApplication& app)
         // window only minimises while it is the way back.
         QCoreApplication::exit(0);
     });
+}
+
+// Where the Developer settings find the vexel command and Claude Code.
+DeveloperTab::Places commandLinePlaces()
+{
+    return {QCoreApplication::applicationDirPath().toStdString() + "/vexel", homeFolder(),
+        [] { return Shell::find("claude"); }};
 }
 
 AppModel::Setup liveSetup(const VexelPaths& paths, const RecorderLock& lock)
@@ -109,6 +119,13 @@ int runDesktopApp(int& argc, char** argv)
     AppModel model(liveSetup(paths, lock));
     MainWindow window(systemAppearance());
     window.bind(model);
+    SettingsWindow settings(systemAppearance(), commandLinePlaces());
+    settings.bind(model);
+    VexelCommands commands(window, model, [&settings] {
+        settings.show();
+        settings.raise();
+        settings.activateWindow();
+    });
     // The panel carries no readings yet: the window stays the way back.
     WindowKeeper keeper(window, model, {.host = QSystemTrayIcon::isSystemTrayAvailable(), .carriesReadings = false});
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);

@@ -18,6 +18,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -57,6 +58,11 @@ void MainWindow::buildPages(Appearance appearance)
         new HistoryPage(appearance, m_pages), new DevelopersPage(appearance, m_pages)};
     for (auto* page : m_routePages)
         m_pages->addWidget(page);
+}
+
+void MainWindow::setMenuBar(QMenuBar* bar)
+{
+    layout()->setMenuBar(bar);
 }
 
 Page* MainWindow::page(Route route) const
@@ -114,7 +120,7 @@ QWidget* MainWindow::buildSidebar(Appearance appearance)
     m_sidebar = new QListWidget(panel);
     m_sidebar->setItemDelegate(new SidebarDelegate(appearance, m_sidebar));
     m_sidebar->setFrameShape(QFrame::NoFrame);
-    m_sidebar->setFocusPolicy(Qt::NoFocus);
+    m_sidebar->setFocusPolicy(Qt::StrongFocus); // arrow keys move between pages
     QPalette palette = Look::palette(appearance);
     palette.setColor(QPalette::Base, Look::sidebar(appearance));
     m_sidebar->setPalette(palette);

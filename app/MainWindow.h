@@ -9,6 +9,7 @@
 
 class QLabel;
 class QListWidget;
+class QMenuBar;
 class QStackedWidget;
 
 namespace vexel {
@@ -35,6 +36,9 @@ public:
     [[nodiscard]] QStringList sidebarTitles() const;
     // The page of a route.
     [[nodiscard]] Page* page(Route route) const;
+
+    // Puts the app's command menu above the sidebar and the page.
+    void setMenuBar(QMenuBar* bar);
 
     // Shows the model's questions and toasts, and answers them back.
     void bind(AppModel& model);

@@ -15,6 +15,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace vexel {
@@ -33,12 +35,22 @@ QString qs(const std::string& text)
 OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     : Page(appearance, parent)
 {
-    auto* layout = new QVBoxLayout(this);
+    // Scrolls when the away card makes the page taller than the window.
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* inner = new QWidget(scroll);
+    scroll->setWidget(inner);
+    outer->addWidget(scroll);
+    auto* layout = new QVBoxLayout(inner);
     layout->setContentsMargins(28, 24, 28, 24);
-    m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, this);
+    m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, inner);
     layout->addWidget(m_waiting, 1);
 
-    m_content = new QWidget(this);
+    m_content = new QWidget(inner);
     auto* content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
     content->setSpacing(14);
@@ -104,8 +116,9 @@ void OverviewPage::showModel(const AppModel& model)
 
 void OverviewPage::showToday(const AppModel& model)
 {
-    m_today->setText(
-        model.today ? todayLine(*model.today).replace(QStringLiteral(" · "), QStringLiteral("\n")) : QString());
+    m_today->setText(model.today
+            ? todayLine(*model.today).replace(QRegularExpression(QStringLiteral("\\s*·\\s*")), QStringLiteral("\n"))
+            : QString());
     Sparkline trace;
     for (const auto& point : model.todaySeries)
         trace.values.push_back(point.cpu);
@@ -120,7 +133,7 @@ void OverviewPage::showToday(const AppModel& model)
 
 QString OverviewPage::todayText() const
 {
-    return m_today->text().replace(QChar('\n'), QStringLiteral(" · "));
+    return m_today->text().replace(QChar('\n'), QStringLiteral("  ·  "));
 }
 
 unsigned OverviewPage::shows() const
@@ -159,8 +172,11 @@ void OverviewPage::showAway(const AppModel& model)
         return;
     m_awayTitle->setText(QStringLiteral("While you were away"));
     QStringList lines;
-    for (const auto& spike : model.awaySpikes)
-        lines << qs(spike.summary + (spike.culprit ? ", mostly " + *spike.culprit : ""));
+    for (const auto& spike : model.awaySpikes) {
+        // Most summaries name the app already.
+        const bool named = !spike.culprit || spike.summary.find(*spike.culprit) != std::string::npos;
+        lines << qs(spike.summary + (named ? "" : ", mostly " + *spike.culprit));
+    }
     if (lines.isEmpty())
         lines << QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat "
                                 "or fast battery drain.");

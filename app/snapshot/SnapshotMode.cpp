@@ -2,15 +2,19 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "VexelCommands.h"
 #include "actions/FakeActions.h"
 #include "model/AppModel.h"
+#include "settings/SettingsWindow.h"
 #include "snapshot/DemoHistoryFill.h"
 #include "synth/DemoWorld.h"
 
 #include <QApplication>
+
 #include <QEventLoop>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <array>
 
 #include <iostream>
 
@@ -63,6 +67,34 @@ void writeAppsStates(MainWindow& window, AppModel& model, const SnapshotOptions&
     model.setAppSearch("");
 }
 
+// The Overview after a night away: the spikes since the user was last here.
+void writeAway(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& suffix)
+{
+    const auto lastSeen = model.settings.lastSeen;
+    model.settings.lastSeen = model.frame ? model.frame->time - 16 * 3600 : 0;
+    model.prepareAway();
+    window.showRoute(Route::overview);
+    save(window, options, "overview-away-" + suffix);
+    model.dismissAway();
+    model.settings.lastSeen = lastSeen;
+}
+
+// Each settings tab, with the demo Mac's places.
+void writeSettings(AppModel& model, Appearance appearance, const SnapshotOptions& options, const std::string& suffix)
+{
+    SettingsWindow settings(
+        appearance, {"/Applications/Vexel.app/Contents/MacOS/vexel", "/Users/alex", [] { return std::nullopt; }});
+    settings.bind(model);
+    settings.show();
+    const std::array<std::pair<SettingsWindow::Tab, const char*>, 5> tabs{{{SettingsWindow::Tab::general, "general"},
+        {SettingsWindow::Tab::panel, "panel"}, {SettingsWindow::Tab::alerts, "alerts"},
+        {SettingsWindow::Tab::history, "history"}, {SettingsWindow::Tab::developer, "developer"}}};
+    for (const auto& [tab, name] : tabs) {
+        settings.showTab(tab);
+        save(settings, options, std::string("settings-") + name + "-" + suffix);
+    }
+}
+
 // The confirmation of a force quit, on the app with the most helpers.
 void writeForceQuit(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& name)
 {
@@ -85,6 +117,7 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
         const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
         MainWindow window(appearance);
         window.bind(model);
+        const VexelCommands commands(window, model, [] {});
         window.show();
         for (const auto route : allRoutes) {
             if (!options.wants(prefix + identifier(route) + "-" + suffix))
@@ -94,6 +127,10 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
         }
         if (prefix.empty() && options.wantsAny("apps-"))
             writeAppsStates(window, model, options, suffix);
+        if (prefix.empty() && options.wants("overview-away-" + suffix))
+            writeAway(window, model, options, suffix);
+        if (prefix.empty() && options.wantsAny("settings-"))
+            writeSettings(model, appearance, options, suffix);
         if (options.wants(prefix + "confirm-forcequit-" + suffix))
             writeForceQuit(window, model, options, prefix + "confirm-forcequit-" + suffix);
         window.showRoute(Route::overview);

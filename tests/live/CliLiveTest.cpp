@@ -459,8 +459,10 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
                      "developers", "confirm-forcequit"})
                 all.push_back(prefix + route + "-" + appearance);
         }
-        all.push_back("apps-selected-iterm-" + appearance);
-        all.push_back("apps-search-empty-" + appearance);
+        for (const std::string staged :
+            {"apps-selected-iterm-", "apps-search-empty-", "overview-away-", "settings-general-", "settings-panel-",
+                "settings-alerts-", "settings-history-", "settings-developer-"})
+            all.push_back(staged + appearance);
     }
     std::vector<std::string> everything;
     for (const auto& entry : std::filesystem::directory_iterator(first.path()))

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "settings/SettingsTab.h"
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+class QLabel;
+
+namespace vexel {
+
+class ChoiceBox;
+
+// Developer: when a dev server counts as idle, and setting up the command
+// line and the MCP server for AI assistants.
+class DeveloperTab final : public SettingsTab {
+public:
+    // Where things are: the vexel command beside the app, the home folder,
+    // and Claude Code's claude command when it is installed.
+    struct Places {
+        std::filesystem::path vexel;
+        std::filesystem::path home;
+        std::function<std::optional<std::string>()> findClaude;
+    };
+
+    DeveloperTab(Appearance appearance, Places places, QWidget* parent);
+
+    void showModel(const AppModel& model) override;
+
+    [[nodiscard]] ChoiceBox* idle() const { return m_idle; }
+    void installCommand();
+    void addToClaude();
+    [[nodiscard]] QString outcomeText() const;
+
+private:
+    Places m_places;
+    ChoiceBox* m_idle = nullptr;
+    QLabel* m_outcome = nullptr;
+};
+
+} // namespace vexel

@@ -1,0 +1,85 @@
+#include "settings/GeneralTab.h"
+
+#include "look/Labels.h"
+#include "look/StrainColours.h"
+#include "model/AppModel.h"
+#include "settings/ChoiceBox.h"
+#include "texts/PageTexts.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+GeneralTab::GeneralTab(Appearance appearance, QWidget* parent)
+    : SettingsTab(appearance, parent)
+{
+    auto* reading = section(QStringLiteral("Readings"));
+    m_interval = new ChoiceBox(
+        {{QStringLiteral("2 seconds"), 2}, {QStringLiteral("3 seconds"), 3}, {QStringLiteral("5 seconds"), 5},
+            {QStringLiteral("10 seconds"), 10}, {QStringLiteral("30 seconds"), 30}, {QStringLiteral("1 minute"), 60}},
+        this);
+    m_intervalLabel = label({});
+    reading->addRow(m_intervalLabel, m_interval);
+    m_intervalNote = Look::explanation({}, appearance, this);
+    column()->addWidget(m_intervalNote);
+    connect(m_interval, &QComboBox::currentIndexChanged, this,
+        [this] { change([this](VexelSettings& settings) { settings.sampleSeconds = m_interval->value(); }); });
+
+    section(QStringLiteral("CPU figures"));
+    m_wholeMachine = new QRadioButton(this);
+    m_perCore = new QRadioButton(this);
+    column()->addWidget(m_wholeMachine);
+    column()->addWidget(m_perCore);
+    connect(m_perCore, &QRadioButton::toggled, this, [this](bool perCore) {
+        change([perCore](VexelSettings& settings) { settings.cpuScale = perCore ? CPUScale::core : CPUScale::mac; });
+    });
+    m_bits = new QCheckBox(QStringLiteral("Show network rates in bits (Mb/s)"), this);
+    column()->addWidget(m_bits);
+    connect(m_bits, &QCheckBox::toggled, this,
+        [this](bool bits) { change([bits](VexelSettings& settings) { settings.networkBits = bits; }); });
+
+    column()->addSpacing(8);
+    m_atLogin = new QCheckBox(QStringLiteral("Open Vexel at login"), this);
+    column()->addWidget(m_atLogin);
+    m_loginError = Look::explanation({}, appearance, this);
+    QPalette palette = m_loginError->palette();
+    palette.setColor(QPalette::WindowText, Look::destructive(appearance));
+    m_loginError->setPalette(palette);
+    m_loginError->hide();
+    column()->addWidget(m_loginError);
+    connect(m_atLogin, &QCheckBox::toggled, this, [this](bool open) {
+        if (!m_filling && model())
+            model()->setOpenAtLogin(open);
+    });
+    column()->addStretch(1);
+}
+
+void GeneralTab::showModel(const AppModel& model)
+{
+    m_filling = true;
+    const std::string machine = machineWord(model.platform);
+    m_intervalLabel->setText(QString::fromStdString("Read the " + machine + " every"));
+    m_intervalNote->setText(QString::fromStdString("With the window closed Vexel reads the " + machine
+        + " at this interval; while you're looking it reads every 2 seconds. Other users' processes, per-app network "
+          "and ports are read less often to keep Vexel light."));
+    m_interval->select(model.settings.sampleSeconds);
+    m_wholeMachine->setText(QString::fromStdString(PageTexts::cpuScaleMachine(model.platform) + " (0–100)"));
+    m_perCore->setText(QString::fromStdString(PageTexts::cpuScaleCore(model.platform)));
+    (model.settings.cpuScale == CPUScale::core ? m_perCore : m_wholeMachine)->setChecked(true);
+    m_bits->setChecked(model.settings.networkBits);
+    m_atLogin->setChecked(model.opensAtLogin());
+    m_loginError->setText(QString::fromStdString(model.loginItemError.value_or("")));
+    m_loginError->setVisible(model.loginItemError.has_value());
+    m_filling = false;
+}
+
+QString GeneralTab::loginError() const
+{
+    return m_loginError->isHidden() ? QString() : m_loginError->text();
+}
+
+} // namespace vexel

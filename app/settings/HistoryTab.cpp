@@ -1,0 +1,72 @@
+#include "settings/HistoryTab.h"
+
+#include "format/Fmt.h"
+#include "look/Buttons.h"
+#include "look/Labels.h"
+#include "model/AppModel.h"
+#include "settings/ChoiceBox.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+HistoryTab::HistoryTab(Appearance appearance, QWidget* parent)
+    : SettingsTab(appearance, parent)
+{
+    auto* form = section(QStringLiteral("History"),
+        QStringLiteral("Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes "
+                       "for 5 weeks and hourly after that — so a year stays small."));
+    m_keep = new ChoiceBox(
+        {{QStringLiteral("1 week"), 7}, {QStringLiteral("1 month"), 30}, {QStringLiteral("3 months"), 91},
+            {QStringLiteral("6 months"), 182}, {QStringLiteral("1 year"), 365}},
+        this);
+    form->addRow(label(QStringLiteral("Keep history for")), m_keep);
+    m_cap = new ChoiceBox(
+        {{QStringLiteral("16 MB"), 16}, {QStringLiteral("32 MB"), 32}, {QStringLiteral("64 MB"), 64},
+            {QStringLiteral("128 MB"), 128}, {QStringLiteral("256 MB"), 256}, {QStringLiteral("512 MB"), 512}},
+        this);
+    form->addRow(label(QStringLiteral("Never let the file grow past")), m_cap);
+    m_size = Look::line(this);
+    column()->addWidget(m_size);
+    auto* erase = Look::destructiveButton(QStringLiteral("Erase History…"), appearance, this);
+    column()->addWidget(erase, 0, Qt::AlignLeft);
+    column()->addStretch(1);
+    connect(erase, &QPushButton::clicked, this, &HistoryTab::erase);
+    connect(m_keep, &QComboBox::currentIndexChanged, this, [this] {
+        change([this](VexelSettings& settings) { settings.retentionDays = static_cast<int>(m_keep->value()); });
+    });
+    connect(m_cap, &QComboBox::currentIndexChanged, this, [this] {
+        change([this](VexelSettings& settings) { settings.maxHistoryMB = static_cast<int>(m_cap->value()); });
+    });
+}
+
+void HistoryTab::erase()
+{
+    if (model())
+        model()->eraseHistory();
+}
+
+void HistoryTab::showModel(const AppModel& model)
+{
+    m_filling = true;
+    m_keep->select(model.settings.retentionDays);
+    m_cap->select(model.settings.maxHistoryMB);
+    if (model.storeError)
+        m_size->setText(QString::fromStdString("The history can't be read: " + *model.storeError));
+    else if (model.historyBytes)
+        m_size->setText(QString::fromStdString(
+            "The history takes " + Fmt::bytes(static_cast<double>(*model.historyBytes)) + " on disk."));
+    else
+        m_size->setText(QStringLiteral("Measuring the history's size…"));
+    m_filling = false;
+}
+
+QString HistoryTab::sizeText() const
+{
+    return m_size->text();
+}
+
+} // namespace vexel

@@ -1,0 +1,51 @@
+#include "settings/SettingsTab.h"
+
+#include "look/Labels.h"
+#include "model/AppModel.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+SettingsTab::SettingsTab(Appearance appearance, QWidget* parent)
+    : QWidget(parent)
+    , m_appearance(appearance)
+{
+    m_column = new QVBoxLayout(this);
+    m_column->setContentsMargins(24, 20, 24, 20);
+    m_column->setSpacing(10);
+}
+
+void SettingsTab::change(const std::function<void(VexelSettings&)>& edit)
+{
+    if (m_filling || m_model == nullptr)
+        return;
+    VexelSettings changed = m_model->settings;
+    edit(changed);
+    if (changed != m_model->settings)
+        m_model->changeSettings(changed);
+}
+
+QFormLayout* SettingsTab::section(const QString& heading, const QString& explanation)
+{
+    m_column->addWidget(Look::heading(heading, this));
+    auto* form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignLeft);
+    form->setHorizontalSpacing(14);
+    m_column->addLayout(form);
+    if (!explanation.isEmpty())
+        m_column->addWidget(Look::explanation(explanation, m_appearance, this));
+    m_column->addSpacing(8);
+    return form;
+}
+
+QLabel* SettingsTab::label(const QString& text)
+{
+    auto* made = Look::line(this, text);
+    made->setWordWrap(false);
+    return made;
+}
+
+} // namespace vexel

@@ -1,0 +1,71 @@
+#include "settings/SettingsWindow.h"
+
+#include "model/AppModel.h"
+#include "settings/AlertsTab.h"
+#include "settings/GeneralTab.h"
+#include "settings/HistoryTab.h"
+#include "settings/PanelTab.h"
+
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace vexel {
+
+SettingsWindow::SettingsWindow(Appearance appearance, DeveloperTab::Places places, QWidget* parent)
+    : QWidget(parent, Qt::Window)
+{
+    setWindowTitle(QStringLiteral("Vexel Settings"));
+    setPalette(Look::palette(appearance));
+    setAutoFillBackground(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setFont(Look::font(12));
+    m_pages = {new GeneralTab(appearance, m_tabs), new PanelTab(appearance, m_tabs), new AlertsTab(appearance, m_tabs),
+        new HistoryTab(appearance, m_tabs), new DeveloperTab(appearance, std::move(places), m_tabs)};
+    const QStringList titles{QStringLiteral("General"), QStringLiteral("Panel"), QStringLiteral("Alerts"),
+        QStringLiteral("History"), QStringLiteral("Developer")};
+    for (size_t i = 0; i < m_pages.size(); ++i)
+        m_tabs->addTab(m_pages[i], titles[static_cast<int>(i)]);
+    layout->addWidget(m_tabs);
+    resize(560, 520);
+}
+
+void SettingsWindow::bind(AppModel& model)
+{
+    // The menu bar of a Mac is the panel of a Linux desktop.
+    m_tabs->setTabText(static_cast<int>(Tab::panel),
+        model.platform == Platform::macOS ? QStringLiteral("Menu Bar") : QStringLiteral("Panel"));
+    for (auto* page : m_pages) {
+        page->attach(model);
+        page->showModel(model);
+    }
+    connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
+        if (what
+            & (AppModel::settingsChanged | AppModel::loginItemChanged | AppModel::totalsChanged
+                | AppModel::storeErrorChanged))
+            for (auto* page : m_pages)
+                page->showModel(model);
+    });
+}
+
+void SettingsWindow::showTab(Tab tab)
+{
+    m_tabs->setCurrentIndex(static_cast<int>(tab));
+}
+
+SettingsTab* SettingsWindow::tab(Tab tab) const
+{
+    return m_pages.at(static_cast<size_t>(tab));
+}
+
+QStringList SettingsWindow::tabTitles() const
+{
+    QStringList titles;
+    for (int i = 0; i < m_tabs->count(); ++i)
+        titles << m_tabs->tabText(i);
+    return titles;
+}
+
+} // namespace vexel

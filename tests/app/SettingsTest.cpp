@@ -1,0 +1,205 @@
+// The settings tabs save each change at once and the model follows them; the
+// command menu reaches every page; the command-line setup links and adds
+// what it says.
+
+#include "ConfirmSheet.h"
+#include "DemoModel.h"
+#include "MainWindow.h"
+#include "VexelCommands.h"
+#include "actions/CommandLineSetup.h"
+#include "pages/CpuPage.h"
+#include "settings/AlertsTab.h"
+#include "settings/ChoiceBox.h"
+#include "settings/DeveloperTab.h"
+#include "settings/GeneralTab.h"
+#include "settings/HistoryTab.h"
+#include "settings/PanelTab.h"
+#include "settings/SettingsWindow.h"
+
+#include <QAction>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+using namespace vexel;
+using vexel::testing::DemoModel;
+using vexel::testing::TempFolder;
+
+namespace {
+
+DeveloperTab::Places nowhere()
+{
+    return {"/nonexistent/vexel", "/nonexistent", [] { return std::nullopt; }};
+}
+
+template <typename Tab> Tab& tabOf(SettingsWindow& window, SettingsWindow::Tab which)
+{
+    return *static_cast<Tab*>(window.tab(which));
+}
+
+} // namespace
+
+TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
+{
+    DemoModel demo;
+    auto& model = *demo.model;
+    model.refresh(true);
+    demo.settle();
+    SettingsWindow settings(Appearance::light, nowhere());
+    settings.bind(model);
+    EXPECT_EQ(settings.tabTitles(), (QStringList{"General", "Menu Bar", "Alerts", "History", "Developer"}));
+
+    auto& general = tabOf<GeneralTab>(settings, SettingsWindow::Tab::general);
+    general.interval()->select(10);
+    EXPECT_EQ(model.settings.sampleSeconds, 10);
+    EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).sampleSeconds, 10);
+    EXPECT_EQ(model.tickSeconds(), 10); // hidden: the new interval
+
+    // The CPU scale reaches the pages.
+    CpuPage cpu(Appearance::light, nullptr);
+    QObject::connect(&model, &AppModel::changed, &cpu, [&](unsigned) { cpu.showModel(model); });
+    general.perCore()->setChecked(true);
+    EXPECT_EQ(model.settings.cpuScale, CPUScale::core);
+    EXPECT_EQ(cpu.scaleText(), QStringLiteral("CPU figures are shown as % of one core (like Activity Monitor)."));
+
+    // Red stays beyond amber when amber moves past it.
+    auto& alerts = tabOf<AlertsTab>(settings, SettingsWindow::Tab::alerts);
+    alerts.diskAmber()->select(0.05);
+    EXPECT_DOUBLE_EQ(model.settings.strain.diskFreeElevated, 0.05);
+    EXPECT_LE(model.settings.strain.diskFreeStrained, 0.05);
+    alerts.batteryAmber()->select(10);
+    EXPECT_EQ(model.settings.strain.batteryElevated, 10);
+    EXPECT_LE(model.settings.strain.batteryStrained, 10);
+
+    // Filling a tab from the model saves nothing.
+    const auto before = model.settings;
+    for (const auto tab : {SettingsWindow::Tab::general, SettingsWindow::Tab::alerts, SettingsWindow::Tab::history})
+        settings.tab(tab)->showModel(model);
+    EXPECT_EQ(model.settings, before);
+}
+
+TEST(Settings, PanelItemsReorderSwitchAndRestore)
+{
+    DemoModel demo;
+    auto& model = *demo.model;
+    SettingsWindow settings(Appearance::dark, nowhere());
+    settings.bind(model);
+    auto& panel = tabOf<PanelTab>(settings, SettingsWindow::Tab::panel);
+    EXPECT_EQ(panel.rows().mid(0, 3), (QStringList{"CPU on, Both", "Memory on, Value", "Network on, Value"}));
+    panel.move(0, 1);
+    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings.menuItems[1].kind, MenuItemKind::cpu);
+    EXPECT_EQ(panel.rows().front(), QStringLiteral("Memory on, Value"));
+    panel.move(0, -1); // the first can't go up
+    panel.move(6, 1); // nor the last down
+    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings.menuItems[6].kind, MenuItemKind::gpu);
+    panel.restoreDefaults();
+    EXPECT_EQ(model.settings.menuItems, defaultMenuItems());
+}
+
+TEST(Settings, EraseHistoryAsksFirst)
+{
+    DemoModel demo;
+    auto& model = *demo.model;
+    SettingsWindow settings(Appearance::light, nowhere());
+    settings.bind(model);
+    auto& history = tabOf<HistoryTab>(settings, SettingsWindow::Tab::history);
+    history.erase();
+    ASSERT_TRUE(model.confirm);
+    EXPECT_EQ(model.confirm->title, "Erase all history?");
+    EXPECT_TRUE(model.confirm->destructive);
+    model.cancelPending();
+    EXPECT_FALSE(model.confirm);
+}
+
+TEST(CommandLineSetup, LinksTheCommandIntoTheUsersBin)
+{
+    TempFolder home("vexel-home");
+    const auto vexel = home.path() / "app" / "vexel";
+    std::filesystem::create_directories(vexel.parent_path());
+    std::ofstream(vexel) << "#!/bin/true\n";
+    const auto link = home.path() / ".local" / "bin" / "vexel";
+
+    auto outcome = CommandLineSetup::installCommand(vexel, home.path());
+    EXPECT_TRUE(outcome.done) << outcome.text;
+    EXPECT_EQ(std::filesystem::read_symlink(link), vexel);
+    // Again, over its own link.
+    EXPECT_TRUE(CommandLineSetup::installCommand(vexel, home.path()).done);
+    // A file of the user's own is left alone.
+    std::filesystem::remove(link);
+    std::ofstream(link) << "mine\n";
+    outcome = CommandLineSetup::installCommand(vexel, home.path());
+    EXPECT_FALSE(outcome.done);
+    EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::symlink_status(link)));
+    // Nothing to link: said so.
+    EXPECT_FALSE(CommandLineSetup::installCommand(home.path() / "missing", home.path()).done);
+}
+
+TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
+{
+    TempFolder home("vexel-home");
+    const auto without = CommandLineSetup::addToClaude(std::nullopt, home.path());
+    EXPECT_FALSE(without.done);
+    EXPECT_NE(without.text.find(CommandLineSetup::claudeLine()), std::string::npos);
+    EXPECT_NE(without.text.find("\"args\": [\"--mcp\"]"), std::string::npos);
+    EXPECT_NE(without.text.find((home.path() / ".local/bin/vexel").string()), std::string::npos);
+
+    // A claude that writes down what it was asked.
+    const auto claude = home.path() / "claude";
+    const auto asked = home.path() / "asked";
+    std::ofstream(claude) << "#!/bin/sh\necho \"$@\" > " << asked.string() << "\necho Added\n";
+    std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
+    const auto with = CommandLineSetup::addToClaude(claude.string(), home.path());
+    EXPECT_TRUE(with.done) << with.text;
+    std::ifstream said(asked);
+    std::string line;
+    std::getline(said, line);
+    EXPECT_EQ(line, "mcp add vexel -- " + (home.path() / ".local/bin/vexel").string() + " --mcp");
+
+    // A claude that refuses says why.
+    std::ofstream(claude, std::ios::trunc) << "#!/bin/sh\necho 'MCP server vexel already exists' >&2\nexit 1\n";
+    const auto refused = CommandLineSetup::addToClaude(claude.string(), home.path());
+    EXPECT_FALSE(refused.done);
+    EXPECT_NE(refused.text.find("already exists"), std::string::npos);
+}
+
+TEST(VexelCommands, EveryRouteWithItsShortcutThenTheTwoCommands)
+{
+    DemoModel demo;
+    auto& model = *demo.model;
+    model.refresh(true);
+    demo.settle();
+    MainWindow window(Appearance::light);
+    window.bind(model);
+    int opened = 0;
+    const VexelCommands commands(window, model, [&opened] { ++opened; });
+    const auto actions = commands.goActions();
+    ASSERT_EQ(actions.size(), static_cast<int>(allRoutes.size()) + 2);
+    for (const auto route : allRoutes) {
+        const auto* action = actions.at(static_cast<int>(route));
+        EXPECT_EQ(action->text().toStdString(), title(route));
+        EXPECT_EQ(action->shortcut(), QKeySequence(QString::fromStdString(shortcut(route))));
+    }
+    EXPECT_EQ(actions.at(10)->text(), QStringLiteral("Quit Selected App…"));
+    EXPECT_EQ(actions.at(11)->text(), QStringLiteral("Open Vexel Window"));
+
+    actions.at(static_cast<int>(Route::memory))->trigger();
+    EXPECT_EQ(window.currentRoute(), Route::memory);
+    EXPECT_EQ(model.route, Route::memory);
+
+    // Nothing selected: said so; an app selected: its quit is asked.
+    actions.at(10)->trigger();
+    EXPECT_FALSE(model.confirm);
+    EXPECT_TRUE(model.toast);
+    model.selectApp(model.frame->app("iTerm2")->id);
+    actions.at(10)->trigger();
+    ASSERT_TRUE(model.confirm);
+    EXPECT_EQ(model.confirm->title, "Quit iTerm2?");
+    // Escape on the sheet cancels, changing nothing.
+    QTest::keyClick(window.sheet(), Qt::Key_Escape);
+    EXPECT_FALSE(model.confirm);
+    EXPECT_TRUE(demo.fake->log.empty());
+}
