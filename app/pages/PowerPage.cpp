@@ -1,5 +1,6 @@
 #include "pages/PowerPage.h"
 
+#include "format/CFormat.h"
 #include "format/Fmt.h"
 #include "look/FigureRows.h"
 #include "look/Labels.h"
@@ -57,6 +58,10 @@ PowerPage::PowerPage(Appearance appearance, QWidget* parent)
     column->addWidget(m_scale);
     m_thermalNote = Look::explanation({}, appearance, this);
     column->addWidget(m_thermalNote);
+    m_sensors = new FigureRows(this);
+    column->addWidget(m_sensors);
+    m_noSensors = Look::explanation({}, appearance, this);
+    column->addWidget(m_noSensors);
     column->addSpacing(8);
     m_energy = new TopApps(QStringLiteral("Using most energy"), appearance, this);
     column->addWidget(m_energy);
@@ -97,6 +102,22 @@ void PowerPage::showModel(const AppModel& model)
     scale.current = static_cast<size_t>(rawValue(level));
     m_scale->draw(scale, appearance());
     m_thermalNote->setText(qs(PageTexts::thermalNote(platform)));
+    showSensors(model);
+}
+
+void PowerPage::showSensors(const AppModel& model)
+{
+    const auto& sensors = model.frame->system.sensors;
+    FigureRows::Rows rows;
+    for (const auto& t : sensors.temperatures)
+        rows.emplace_back(qs(chipTitle(t.chip) + " · " + t.label), qs(cformat("%.0f °C", t.celsius)));
+    for (const auto& fan : sensors.fans)
+        rows.emplace_back(qs(chipTitle(fan.chip) + " · " + fan.label), qs(cformat("%.0f rpm", fan.rpm)));
+    m_sensors->setRows(rows);
+    // A Mac keeps its sensors private; a Linux machine without any says so.
+    const bool none = rows.empty() && model.platform != Platform::macOS;
+    m_noSensors->setText(qs("No temperature or fan sensors can be read on this " + machineWord(model.platform) + "."));
+    m_noSensors->setVisible(none);
 }
 
 void PowerPage::showBattery(const AppModel& model)
@@ -140,6 +161,11 @@ QStringList PowerPage::batteryRows() const
 QStringList PowerPage::energyRows() const
 {
     return m_energy->rows();
+}
+
+QStringList PowerPage::sensorRows() const
+{
+    return m_sensors->rows();
 }
 
 QString PowerPage::thermalText() const

@@ -23,9 +23,12 @@ public:
     [[nodiscard]] QStringList batteryRows() const;
     [[nodiscard]] QStringList energyRows() const;
     [[nodiscard]] QString thermalText() const;
+    // "CPU · Tctl  62 °C", "Laptop · fan1  2960 rpm": what Linux's sensors say.
+    [[nodiscard]] QStringList sensorRows() const;
 
 private:
     void showBattery(const AppModel& model);
+    void showSensors(const AppModel& model);
 
     QLabel* m_charge = nullptr;
     QLabel* m_state = nullptr;
@@ -35,6 +38,8 @@ private:
     QLabel* m_thermal = nullptr;
     PaintedView* m_scale = nullptr;
     QLabel* m_thermalNote = nullptr;
+    FigureRows* m_sensors = nullptr;
+    QLabel* m_noSensors = nullptr;
 };
 
 } // namespace vexel

@@ -6,6 +6,7 @@
 #include "system/GPUStats.h"
 #include "system/MemoryStats.h"
 #include "system/NetStats.h"
+#include "system/SensorStats.h"
 #include "system/ThermalLevel.h"
 
 #include <optional>
@@ -22,6 +23,7 @@ struct SystemSnapshot {
     std::optional<GPUStats> gpu; // absent when no accelerator could be read
     std::optional<BatteryStats> battery; // absent without an internal battery
     ThermalLevel thermal = ThermalLevel::nominal;
+    SensorStats sensors; // temperatures and fans, where the system reports them
 
     // The empty reading for a time: every number 0, no cores, no volumes.
     [[nodiscard]] static SystemSnapshot empty(double time)

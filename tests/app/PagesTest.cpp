@@ -110,6 +110,12 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
     power.showModel(model);
     EXPECT_EQ(power.batteryText(), QStringLiteral("This computer runs on mains power — no battery to report."));
     EXPECT_TRUE(power.batteryRows().isEmpty());
+    // Linux reports its sensors: shown, or said to be missing.
+    EXPECT_TRUE(power.sensorRows().isEmpty());
+    model.frame->system.sensors
+        = {{{"k10temp", "Tctl", 62.1, std::nullopt, std::nullopt}}, {{"thinkpad", "fan1", 2960}}};
+    power.showModel(model);
+    EXPECT_EQ(power.sensorRows(), (QStringList{"CPU · Tctl  62 °C", "Laptop · fan1  2960 rpm"}));
 
     GpuPage gpu(Appearance::light, nullptr);
     gpu.showModel(model);

@@ -186,6 +186,30 @@ TEST(LiveSystemReaderOnFixtures, AmdLaptopChargingWithItsGpuBusy)
     EXPECT_EQ(snapshot.gpu->name, "Navi 21 [Radeon RX 6800/6800 XT / 6900 XT]");
     EXPECT_DOUBLE_EQ(snapshot.gpu->utilisation, 0.37);
     EXPECT_EQ(snapshot.thermal, ThermalLevel::nominal);
+    // Every chip's temperatures in hwmon order, numbered sensors by number;
+    // thinkpad's absent third sensor (-128 °C) left out; the ACPI zone no chip mirrors.
+    std::vector<std::string> temperatures;
+    for (const auto& t : snapshot.sensors.temperatures)
+        temperatures.push_back(t.chip + " " + t.label + " " + std::to_string(static_cast<int>(t.celsius)));
+    EXPECT_EQ(temperatures,
+        (std::vector<std::string>{"nvme Composite 38", "k10temp Tctl 62", "thinkpad temp1 58", "thinkpad temp2 47",
+            "amdgpu edge 51", "acpitz zone 0 55"}));
+    ASSERT_FALSE(snapshot.sensors.temperatures.empty());
+    EXPECT_EQ(snapshot.sensors.temperatures.front().high, 81.85);
+    EXPECT_EQ(snapshot.sensors.temperatures.front().critical, 84.85);
+    EXPECT_EQ(snapshot.sensors.fans, (std::vector<FanSpeed>{{"thinkpad", "fan1", 2960}}));
+    EXPECT_EQ(chipTitle("nvme"), "SSD");
+    EXPECT_EQ(chipTitle("k10temp"), "CPU");
+    EXPECT_EQ(chipTitle("iwlwifi_1"), "Wi-Fi");
+    EXPECT_EQ(chipTitle("it8792"), "it8792");
+
+    // A sensor that reads nonsense is left out, the others stay.
+    tree.write("sys/class/hwmon/hwmon2/temp1_input", "N/A\n");
+    tree.write("sys/class/hwmon/hwmon3/fan1_input", "\n");
+    LiveSystemReader again(tree.roots());
+    const auto broken = again.read(5).sensors;
+    EXPECT_EQ(broken.temperatures.size(), temperatures.size() - 1);
+    EXPECT_TRUE(broken.fans.empty());
     // Nothing under /proc in this tree: zeros, never a failure.
     EXPECT_EQ(snapshot.memory, MemoryStats{});
     EXPECT_TRUE(snapshot.cpu.cores.empty());

@@ -33,6 +33,7 @@ LiveSystemReader::LiveSystemReader(LinuxRoots roots)
     , m_gpuReader(m_roots)
     , m_batteryReader(m_roots)
     , m_thermalReader(m_roots)
+    , m_sensorReader(m_roots)
 {
     readLevels();
 }
@@ -190,6 +191,7 @@ SystemSnapshot LiveSystemReader::read(double now)
     }
     snapshot.battery = m_battery;
     snapshot.thermal = m_thermalReader.read(now);
+    snapshot.sensors = m_sensorReader.read(now);
     return snapshot;
 }
 

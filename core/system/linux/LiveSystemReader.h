@@ -6,6 +6,7 @@
 #include "system/linux/BatteryReader.h"
 #include "system/linux/GpuReader.h"
 #include "system/linux/LinuxRoots.h"
+#include "system/linux/SensorReader.h"
 #include "system/linux/ThermalReader.h"
 #include "system/linux/VolumeReader.h"
 
@@ -45,6 +46,7 @@ private:
     GpuReader m_gpuReader;
     BatteryReader m_batteryReader;
     ThermalReader m_thermalReader;
+    SensorReader m_sensorReader;
 
     std::optional<std::vector<CoreTicks>> m_lastTicks;
     CounterDeltas m_disk;

@@ -1,0 +1,105 @@
+#include "system/linux/SensorReader.h"
+
+#include "io/Files.h"
+#include "text/TextScan.h"
+
+#include <algorithm>
+#include <set>
+
+namespace vexel {
+
+namespace {
+
+constexpr double rediscoverSeconds = 60;
+// Readings outside these are a sensor that isn't there (thinkpad reports -128 °C).
+constexpr double coldest = -40;
+constexpr double hottest = 150;
+
+std::vector<std::string> entriesWithPrefix(const std::string& folder, std::string_view prefix)
+{
+    std::vector<std::string> paths;
+    for (const auto& name : Files::list(folder))
+        if (name.starts_with(prefix))
+            paths.push_back(folder + "/" + name);
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
+std::optional<double> celsiusAt(const std::string& path)
+{
+    const auto milli = TextScan::toDouble(Files::readValue(path));
+    if (!milli)
+        return std::nullopt;
+    return *milli / 1000.0;
+}
+
+// tempN and fanN files sort by their number, not as text: temp10 after temp9.
+bool byNumber(const std::string& a, const std::string& b)
+{
+    return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
+} // namespace
+
+void SensorReader::discover(double now)
+{
+    m_discoveredAt = now;
+    m_inputs.clear();
+    std::set<std::string> chips;
+    for (const auto& hwmon : entriesWithPrefix(m_roots.sys + "/class/hwmon", "hwmon")) {
+        // Some drivers put their files one level down, under device/.
+        std::string base = hwmon;
+        auto chip = Files::readValue(base + "/name");
+        if (chip.empty()) {
+            base = hwmon + "/device";
+            chip = Files::readValue(base + "/name");
+        }
+        if (chip.empty())
+            continue;
+        chips.insert(chip);
+        std::vector<std::string> names;
+        for (const auto& name : Files::list(base))
+            if ((name.starts_with("temp") || name.starts_with("fan")) && name.ends_with("_input"))
+                names.push_back(name);
+        std::sort(names.begin(), names.end(), byNumber);
+        for (const auto& name : names) {
+            const std::string stem = name.substr(0, name.size() - 6);
+            const auto label = Files::readValue(base + "/" + stem + "_label");
+            m_inputs.push_back(
+                {chip, label.empty() ? stem : label, base + "/" + name, base + "/" + stem, name.starts_with("fan")});
+        }
+    }
+    // A zone that a chip of its own name already reports would be counted twice.
+    for (const auto& zone : entriesWithPrefix(m_roots.sys + "/class/thermal", "thermal_zone")) {
+        const auto type = Files::readValue(zone + "/type");
+        if (type.empty() || chips.contains(type) || Files::readValue(zone + "/mode") == "disabled")
+            continue;
+        m_inputs.push_back({type, "zone " + zone.substr(zone.rfind("thermal_zone") + 12), zone + "/temp", "", false});
+    }
+}
+
+SensorStats SensorReader::read(double now)
+{
+    if (!m_discoveredAt || now < *m_discoveredAt || now - *m_discoveredAt > rediscoverSeconds)
+        discover(now);
+    SensorStats stats;
+    for (const auto& input : m_inputs) {
+        if (input.fan) {
+            if (const auto rpm = TextScan::toDouble(Files::readValue(input.path)); rpm && *rpm >= 0)
+                stats.fans.push_back({input.chip, input.label, *rpm});
+            continue;
+        }
+        const auto celsius = celsiusAt(input.path);
+        if (!celsius || *celsius <= coldest || *celsius >= hottest)
+            continue;
+        Temperature temperature{input.chip, input.label, *celsius, std::nullopt, std::nullopt};
+        if (!input.stem.empty()) {
+            temperature.high = celsiusAt(input.stem + "_max");
+            temperature.critical = celsiusAt(input.stem + "_crit");
+        }
+        stats.temperatures.push_back(std::move(temperature));
+    }
+    return stats;
+}
+
+} // namespace vexel
