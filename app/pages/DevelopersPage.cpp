@@ -130,8 +130,16 @@ void DevelopersPage::showModel(const AppModel& model)
 
 void DevelopersPage::showServers(const AppModel& model)
 {
-    for (auto* widget : m_projectWidgets)
-        widget->deleteLater();
+    // Rebuilt only when a scan changed something: the rows hold buttons.
+    const auto shown = std::make_tuple(model.serversLoaded, model.servers, model.listeners, model.settings.cpuScale);
+    if (m_shown == shown)
+        return;
+    m_shown = shown;
+    for (auto* widget : m_projectWidgets) {
+        widget->hide();
+        m_projects->removeWidget(widget);
+        widget->deleteLater(); // a row's own button may be what asked for this
+    }
     m_projectWidgets.clear();
     m_rows.clear();
     if (!model.serversLoaded) {

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "devservers/DevServers.h"
+#include "grouping/AppSort.h"
 #include "pages/Page.h"
+
+#include <optional>
+#include <tuple>
 
 #include <vector>
 
@@ -33,6 +38,7 @@ private:
     void showDocker(const AppModel& model);
     void buildToolsSection(QVBoxLayout* column);
 
+    std::optional<std::tuple<bool, std::vector<ProjectGroup>, std::vector<ListenSocket>, CPUScale>> m_shown;
     QLabel* m_serversHeading = nullptr;
     QLabel* m_serversNote = nullptr;
     QVBoxLayout* m_projects = nullptr;

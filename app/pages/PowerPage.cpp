@@ -95,7 +95,7 @@ void PowerPage::showModel(const AppModel& model)
                 + (allEstimated ? PageTexts::energyEstimated(platform) : PageTexts::energyMeasured(platform)) + "."));
 
     const ThermalLevel level = model.frame->system.thermal;
-    m_thermal->setText(qs(title(level) + ": " + detail(level, platform)));
+    m_thermal->setText(qs(detail(level, platform))); // "Hot. macOS is slowing the processor…"
     LevelScale scale;
     for (const auto step : allThermalLevels)
         scale.steps.push_back({qs(title(step)), model.settings.strain.thermal(step)});
