@@ -6,6 +6,7 @@
 #include "model/AppModel.h"
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -19,11 +20,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 QLabel* commandLabel(QWidget* parent)
 {

@@ -9,6 +9,7 @@
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -16,11 +17,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 std::string coresCaption(const CPUStats& cpu)
 {

@@ -9,6 +9,7 @@
 #include "pages/ServerRow.h"
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -22,11 +23,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 QLabel* commandLabel(QWidget* parent)
 {

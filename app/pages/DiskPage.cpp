@@ -8,6 +8,7 @@
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -15,11 +16,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 std::string rate(double bytesPerSecond)
 {

@@ -9,6 +9,7 @@
 #include "look/PaintedView.h"
 #include "model/AppModel.h"
 #include "pages/TimeTicks.h"
+#include "texts/QtText.h"
 #include "time/TimeZone.h"
 
 #include <QButtonGroup>
@@ -27,11 +28,6 @@ namespace {
 
 constexpr size_t coreTimeCount = 12;
 constexpr int chartsShown = 4;
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 // The longest pause between readings that still counts as one stretch: a
 // few of the tier's own steps.

@@ -9,20 +9,12 @@
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace vexel {
-
-namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 MemoryPage::MemoryPage(Appearance appearance, QWidget* parent)
     : Page(appearance, parent)

@@ -9,6 +9,7 @@
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
 #include "pages/TopApps.h"
+#include "texts/QtText.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace vexel {
@@ -25,35 +25,21 @@ namespace {
 
 constexpr size_t busiestCount = 5;
 
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
 } // namespace
 
 OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     : Page(appearance, parent)
 {
     // Scrolls when the away card makes the page taller than the window.
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* inner = new QWidget(scroll);
-    scroll->setWidget(inner);
-    outer->addWidget(scroll);
-    auto* layout = new QVBoxLayout(inner);
-    layout->setContentsMargins(28, 24, 28, 24);
+    QWidget* inner = nullptr;
+    auto* layout = scrollingColumn(&inner);
     m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, inner);
     layout->addWidget(m_waiting, 1);
 
     m_content = new QWidget(inner);
     auto* content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
-    content->setSpacing(14);
+    content->setSpacing(10);
     content->addWidget(Look::pageTitle(QStringLiteral("Overview"), m_content));
     m_away = buildAwayCard();
     content->addWidget(m_away);

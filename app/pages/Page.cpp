@@ -16,6 +16,14 @@ Page::Page(Appearance appearance, QWidget* parent)
 
 QVBoxLayout* Page::scrollingColumn(const QString& title)
 {
+    QWidget* content = nullptr;
+    auto* column = scrollingColumn(&content);
+    column->addWidget(Look::pageTitle(title, content));
+    return column;
+}
+
+QVBoxLayout* Page::scrollingColumn(QWidget** holder)
+{
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     auto* scroll = new QScrollArea(this);
@@ -26,9 +34,10 @@ QVBoxLayout* Page::scrollingColumn(const QString& title)
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(28, 24, 28, 24);
     column->setSpacing(10);
-    column->addWidget(Look::pageTitle(title, content));
     scroll->setWidget(content);
     outer->addWidget(scroll);
+    if (holder != nullptr)
+        *holder = content;
     return column;
 }
 

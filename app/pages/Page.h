@@ -28,6 +28,8 @@ protected:
     [[nodiscard]] AppModel* model() const { return m_model; }
     // A scrolling column under the page's title, for pages taller than the window.
     QVBoxLayout* scrollingColumn(const QString& title);
+    // The same column without a title, and the widget that holds it.
+    QVBoxLayout* scrollingColumn(QWidget** holder = nullptr);
 
 private:
     Appearance m_appearance;

@@ -9,6 +9,7 @@
 #include "model/AppModel.h"
 #include "pages/TopApps.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -18,11 +19,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 std::string stateOf(const BatteryStats& battery)
 {

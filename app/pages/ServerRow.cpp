@@ -6,6 +6,7 @@
 #include "look/StrainColours.h"
 #include "model/AppModel.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,11 +18,6 @@
 namespace vexel {
 
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 std::string portsOf(const DevServer& server)
 {

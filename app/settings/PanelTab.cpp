@@ -3,6 +3,7 @@
 #include "look/Buttons.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
+#include "texts/QtText.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -12,15 +13,6 @@
 #include <QVBoxLayout>
 
 namespace vexel {
-
-namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 PanelTab::PanelTab(Appearance appearance, QWidget* parent)
     : SettingsTab(appearance, parent)

@@ -1,6 +1,7 @@
 #include "system/linux/SensorReader.h"
 
 #include "io/Files.h"
+#include "system/linux/HwmonChips.h"
 #include "text/TextScan.h"
 
 #include <algorithm>
@@ -14,16 +15,6 @@ constexpr double rediscoverSeconds = 60;
 // Readings outside these are a sensor that isn't there (thinkpad reports -128 °C).
 constexpr double coldest = -40;
 constexpr double hottest = 150;
-
-std::vector<std::string> entriesWithPrefix(const std::string& folder, std::string_view prefix)
-{
-    std::vector<std::string> paths;
-    for (const auto& name : Files::list(folder))
-        if (name.starts_with(prefix))
-            paths.push_back(folder + "/" + name);
-    std::sort(paths.begin(), paths.end());
-    return paths;
-}
 
 std::optional<double> celsiusAt(const std::string& path)
 {
@@ -46,16 +37,7 @@ void SensorReader::discover(double now)
     m_discoveredAt = now;
     m_inputs.clear();
     std::set<std::string> chips;
-    for (const auto& hwmon : entriesWithPrefix(m_roots.sys + "/class/hwmon", "hwmon")) {
-        // Some drivers put their files one level down, under device/.
-        std::string base = hwmon;
-        auto chip = Files::readValue(base + "/name");
-        if (chip.empty()) {
-            base = hwmon + "/device";
-            chip = Files::readValue(base + "/name");
-        }
-        if (chip.empty())
-            continue;
+    for (const auto& [chip, base] : hwmonChips(m_roots.sys)) {
         chips.insert(chip);
         std::vector<std::string> names;
         for (const auto& name : Files::list(base))

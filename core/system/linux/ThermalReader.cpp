@@ -1,6 +1,7 @@
 #include "system/linux/ThermalReader.h"
 
 #include "io/Files.h"
+#include "system/linux/HwmonChips.h"
 #include "text/TextScan.h"
 
 #include <algorithm>
@@ -15,17 +16,6 @@ constexpr double rediscoverSeconds = 60;
 std::optional<double> numberAt(const std::string& path)
 {
     return TextScan::toDouble(Files::readValue(path));
-}
-
-std::vector<std::string> entriesWithPrefix(const std::string& folder, std::string_view prefix)
-{
-    std::vector<std::string> paths;
-    for (const auto& name : Files::list(folder)) {
-        if (name.starts_with(prefix))
-            paths.push_back(folder + "/" + name);
-    }
-    std::sort(paths.begin(), paths.end());
-    return paths;
 }
 
 bool isCpuSensorChip(std::string_view name)
@@ -65,14 +55,7 @@ void ThermalReader::discover(double now)
     m_zones = entriesWithPrefix(thermal, "thermal_zone");
     m_coolingDevices = entriesWithPrefix(thermal, "cooling_device");
     m_sensors.clear();
-    for (const auto& hwmon : entriesWithPrefix(m_roots.sys + "/class/hwmon", "hwmon")) {
-        // Some drivers put their files one level down, under device/.
-        std::string base = hwmon;
-        auto chip = Files::readValue(base + "/name");
-        if (chip.empty()) {
-            base = hwmon + "/device";
-            chip = Files::readValue(base + "/name");
-        }
+    for (const auto& [chip, base] : hwmonChips(m_roots.sys)) {
         if (!isCpuSensorChip(chip))
             continue;
         for (const auto& name : Files::list(base)) {
