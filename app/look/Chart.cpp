@@ -30,16 +30,6 @@ QPointF Chart::place(const QPointF& point, const QRectF& plot) const
     return {x, y};
 }
 
-QColor Chart::colour(size_t index, Appearance appearance)
-{
-    const bool dark = appearance == Appearance::dark;
-    const std::array<QColor, 4> colours{Look::strainColour(appearance, Strain::calm),
-        dark ? QColor(0xc0, 0x84, 0xfc) : QColor(0x8e, 0x44, 0xd6),
-        dark ? QColor(0x4c, 0xd9, 0x9c) : QColor(0x1f, 0x9d, 0x6a),
-        dark ? QColor(0xf4, 0x9a, 0x5c) : QColor(0xd0, 0x6a, 0x1c)};
-    return colours[index % colours.size()];
-}
-
 void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
 {
     painter.save();
@@ -52,7 +42,7 @@ void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) 
     double x = area.left();
     for (size_t i = 0; i < series.size(); ++i) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(colour(i, appearance));
+        painter.setBrush(Look::seriesColour(appearance, i));
         painter.drawRoundedRect(QRectF(x, area.top() + 5, 10, 10), 2, 2);
         painter.setPen(Look::palette(appearance).color(QPalette::WindowText));
         const QRectF name(x + 14, area.top(), 200, legendHeight);
@@ -112,7 +102,7 @@ void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) 
             fill.lineTo(start.x(), plot.bottom());
             fill.closeSubpath();
         }
-        QColor colour = Chart::colour(i, appearance);
+        QColor colour = Look::seriesColour(appearance, i);
         if (i == 0) {
             QColor soft = colour;
             soft.setAlphaF(0.18F);

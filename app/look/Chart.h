@@ -37,8 +37,6 @@ struct Chart {
     [[nodiscard]] static QRectF plotOf(const QRectF& area);
     // Where a point lies in the plot.
     [[nodiscard]] QPointF place(const QPointF& point, const QRectF& plot) const;
-    // Each series' colour, the same in every chart.
-    [[nodiscard]] static QColor colour(size_t index, Appearance appearance);
 };
 
 } // namespace vexel

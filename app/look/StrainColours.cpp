@@ -1,5 +1,7 @@
 #include "look/StrainColours.h"
 
+#include <array>
+
 namespace vexel::Look {
 
 QColor strainColour(Appearance appearance, Strain strain)
@@ -16,6 +18,16 @@ QColor strainColour(Appearance appearance, Strain strain)
 QColor track(Appearance appearance)
 {
     return appearance == Appearance::dark ? QColor(0x3a, 0x3b, 0x40) : QColor(0xe2, 0xe2, 0xe6);
+}
+
+QColor seriesColour(Appearance appearance, size_t index)
+{
+    const bool dark = appearance == Appearance::dark;
+    const std::array<QColor, 4> colours{strainColour(appearance, Strain::calm),
+        dark ? QColor(0xc0, 0x84, 0xfc) : QColor(0x8e, 0x44, 0xd6),
+        dark ? QColor(0x4c, 0xd9, 0x9c) : QColor(0x1f, 0x9d, 0x6a),
+        dark ? QColor(0xf4, 0x9a, 0x5c) : QColor(0xd0, 0x6a, 0x1c)};
+    return colours.at(index % colours.size());
 }
 
 } // namespace vexel::Look

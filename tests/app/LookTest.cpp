@@ -4,7 +4,9 @@
 // readings drawn empty.
 
 #include "look/BarBank.h"
+#include "look/Chart.h"
 #include "look/Dial.h"
+#include "look/LevelScale.h"
 #include "look/Sparkline.h"
 #include "look/StrainColours.h"
 
@@ -112,4 +114,69 @@ TEST(BarBank, EachBarToItsValueInItsOwnStrain)
     EXPECT_EQ(at(2, 5), Look::track(dark)); // a nonsense reading: empty
     EXPECT_EQ(at(3, 97), Look::strainColour(dark, Strain::strained)); // clamped to full
     EXPECT_LE(bank.barRect(3, area).right(), 200.5); // the last bar ends at the edge
+}
+
+// A chart draws each series in its colour where its points are, and breaks
+// the line where the readings stop for longer than the gap allows.
+TEST(Chart, LinesWhereThePointsAreAndBreaksWhereTheyStop)
+{
+    const auto appearance = Appearance::light;
+    Chart chart;
+    chart.from = 0;
+    chart.to = 100;
+    chart.top = 10;
+    chart.gapAfter = 15;
+    // A level line at 5, from 0 to 40 and again from 70 to 100: nothing between.
+    Chart::Series level{"Level", {}};
+    for (int t = 0; t <= 40; t += 10)
+        level.points.emplace_back(t, 5);
+    for (int t = 70; t <= 100; t += 10)
+        level.points.emplace_back(t, 5);
+    chart.series = {level};
+    QImage image(400, 200, QImage::Format_ARGB32);
+    const QColor page = Look::palette(appearance).color(QPalette::Window);
+    image.fill(page);
+    QPainter painter(&image);
+    const QRectF area(0, 0, 400, 200);
+    chart.paint(painter, area, appearance);
+    painter.end();
+    const QRectF plot = Chart::plotOf(area);
+    const auto at = [&](double t, double value) {
+        const QPointF point = chart.place({t, value}, plot);
+        return image.pixelColor(static_cast<int>(point.x()), static_cast<int>(std::lround(point.y())));
+    };
+    // The line is antialiased: nearer the series' colour than the page.
+    const auto distance = [](const QColor& a, const QColor& b) {
+        return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+    };
+    const QColor line = Look::seriesColour(appearance, 0);
+    EXPECT_LT(distance(at(20, 5), line), distance(at(20, 5), page));
+    EXPECT_LT(distance(at(85, 5), line), distance(at(85, 5), page));
+    EXPECT_EQ(at(55, 5), page); // the gap: no line and no fill
+    EXPECT_NE(at(20, 2), page); // under the line: its soft fill
+    EXPECT_EQ(at(55, 2), page);
+}
+
+// The thermal scale fills its steps up to the current one in that step's
+// strain and leaves the hotter ones on the track.
+TEST(LevelScale, FilledUpToTheCurrentStep)
+{
+    const auto appearance = Appearance::dark;
+    LevelScale scale{
+        {{"Cool", Strain::calm}, {"Warm", Strain::elevated}, {"Hot", Strain::strained}, {"Critical", Strain::strained}},
+        1};
+    QImage image(400, 40, QImage::Format_ARGB32);
+    image.fill(Look::palette(appearance).color(QPalette::Window));
+    QPainter painter(&image);
+    const QRectF area(0, 0, 400, 40);
+    scale.paint(painter, area, appearance);
+    painter.end();
+    const auto centre = [&](size_t step) {
+        const QPointF point = scale.stepRect(step, area).center();
+        return image.pixelColor(point.toPoint());
+    };
+    EXPECT_EQ(centre(0), Look::strainColour(appearance, Strain::elevated));
+    EXPECT_EQ(centre(1), Look::strainColour(appearance, Strain::elevated));
+    EXPECT_EQ(centre(2), Look::track(appearance));
+    EXPECT_EQ(centre(3), Look::track(appearance));
 }
