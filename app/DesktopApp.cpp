@@ -7,6 +7,7 @@
 #include "WindowKeeper.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
+#include "panel/MenuBarController.h"
 #include "platform/Environment.h"
 #include "processes/Shell.h"
 #include "recorder/HeadlessRecorder.h"
@@ -33,6 +34,16 @@ Appearance systemAppearance()
 {
     const QPalette palette = QApplication::palette();
     return palette.color(QPalette::Window).lightness() < 128 ? Appearance::dark : Appearance::light;
+}
+
+// The panel's look: GNOME's top bar is dark in both of its styles; other
+// desktops' panels follow the system's appearance.
+Appearance panelAppearance()
+{
+    const auto desktop = environmentVariable("XDG_CURRENT_DESKTOP").value_or("");
+    if (desktop.find("GNOME") != std::string::npos)
+        return Appearance::dark;
+    return systemAppearance();
 }
 
 // SIGTERM (the session ending, systemd stopping it) and Ctrl-C quit the app
@@ -126,8 +137,30 @@ int runDesktopApp(int& argc, char** argv)
         settings.raise();
         settings.activateWindow();
     });
-    // The panel carries no readings yet: the window stays the way back.
-    WindowKeeper keeper(window, model, {.host = QSystemTrayIcon::isSystemTrayAvailable(), .carriesReadings = false});
+    const bool host = QSystemTrayIcon::isSystemTrayAvailable();
+    WindowKeeper keeper(window, model, {.host = host, .carriesReadings = false});
+    const auto showWindow = [&window] {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    };
+    MenuBarController panel(model, panelAppearance(), systemAppearance(), {showWindow, [&settings] {
+                                                                               settings.showTab(
+                                                                                   SettingsWindow::Tab::panel);
+                                                                               settings.show();
+                                                                               settings.raise();
+                                                                               settings.activateWindow();
+                                                                           }});
+    if (host) {
+        panel.start();
+        // Without items in the panel, the window stays the way back.
+        const auto follow = [&keeper, &panel] { keeper.setCarriesReadings(!panel.order().empty()); };
+        follow();
+        QObject::connect(&model, &AppModel::changed, &keeper, [follow](unsigned what) {
+            if (what & AppModel::settingsChanged)
+                follow();
+        });
+    }
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
     model.start();
     // At login the app starts with --hidden (the autostart entry).

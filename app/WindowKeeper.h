@@ -22,6 +22,9 @@ public:
 
     WindowKeeper(QWidget& window, AppModel& model, Panel panel);
 
+    // The panel's items come and go with the settings.
+    void setCarriesReadings(bool carries) { m_panel.carriesReadings = carries; }
+
     // Shows the window, or with `hidden` leaves it where the readings went.
     void showAtStart(bool hidden);
 

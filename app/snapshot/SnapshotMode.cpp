@@ -5,11 +5,15 @@
 #include "VexelCommands.h"
 #include "actions/FakeActions.h"
 #include "model/AppModel.h"
+#include "panel/MenuDropdown.h"
+#include "panel/MenuGlyph.h"
+#include "panel/MenuReading.h"
 #include "settings/SettingsWindow.h"
 #include "snapshot/DemoHistoryFill.h"
 #include "synth/DemoWorld.h"
 
 #include <QApplication>
+#include <QPainter>
 
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -77,6 +81,53 @@ void writeAway(MainWindow& window, AppModel& model, const SnapshotOptions& optio
     save(window, options, "overview-away-" + suffix);
     model.dismissAway();
     model.settings.lastSeen = lastSeen;
+}
+
+// The panel's items side by side at twice their size, on a dark panel and
+// on a light one, in the settings' order, every reading switched on.
+void writePanelStrip(const AppModel& model, const SnapshotOptions& options)
+{
+    if (!options.wants("menubar-items.png"))
+        return;
+    constexpr int scale = 2;
+    constexpr int gap = 8;
+    const auto& items = model.settings.menuItems;
+    const int slot = MenuGlyph::side + gap;
+    QImage strip(static_cast<int>(items.size()) * slot * scale + gap * scale, 2 * slot * scale, QImage::Format_ARGB32);
+    QPainter painter(&strip);
+    const std::array<std::pair<Appearance, QColor>, 2> panels{
+        {{Appearance::dark, QColor(0x24, 0x24, 0x26)}, {Appearance::light, QColor(0xf0, 0xf0, 0xf2)}}};
+    for (size_t row = 0; row < panels.size(); ++row) {
+        const auto& [look, colour] = panels.at(row);
+        const int top = static_cast<int>(row) * slot * scale;
+        painter.fillRect(0, top, strip.width(), slot * scale, colour);
+        for (size_t i = 0; i < items.size(); ++i) {
+            const QImage glyph = MenuGlyph::image(menuReading(model, items[i]), look, scale);
+            painter.drawImage(QPoint((gap + static_cast<int>(i) * slot) * scale, top + gap / 2 * scale), glyph);
+        }
+    }
+    painter.end();
+    const auto file = options.folder / "menubar-items.png";
+    if (!strip.save(QString::fromStdString(file.string())))
+        std::cerr << "Couldn't write " << file.string() << "\n";
+}
+
+// Each reading's dropdown, named "dropdown-cpu-light.png" (with `infix`
+// "strained-": "dropdown-cpu-strained-light.png").
+void writeDropdowns(const AppModel& model, const SnapshotOptions& options, const std::string& infix)
+{
+    for (const auto appearance : {Appearance::light, Appearance::dark}) {
+        const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
+        for (const auto kind : allMenuItemKinds) {
+            const std::string name = "dropdown-" + rawValue(kind) + "-" + infix + suffix;
+            if (!options.wants(name))
+                continue;
+            MenuDropdown dropdown(model, kind, appearance, {[] {}, [] {}});
+            dropdown.setWindowFlags(Qt::Widget); // a picture of it, not a popup on a screen
+            dropdown.show();
+            save(dropdown, options, name);
+        }
+    }
 }
 
 // Each settings tab, with the demo Mac's places.
@@ -225,9 +276,12 @@ int runSnapshotMode(const SnapshotOptions& options)
     settle(*model);
     model->loadHistorySync();
     writePictures(*model, options, "");
-    if (options.wantsAny("strained-")) {
+    writePanelStrip(*model, options);
+    writeDropdowns(*model, options, "");
+    if (options.wantsAny("strained-") || options.wantsAny("dropdown-")) {
         strainDemoWorld(world, *model);
         writePictures(*model, options, "strained-");
+        writeDropdowns(*model, options, "strained-");
     }
     if (!options.stay)
         return 0;

@@ -176,6 +176,28 @@ std::string mcpAddCommand(Platform platform)
                            : "claude mcp add vexel -- ~/.local/bin/vexel --mcp";
 }
 
+std::string dropdownGpuNote(Platform platform)
+{
+    return onMac(platform) ? "macOS doesn't report GPU use per app." : "Vexel doesn't read GPU use per app on Linux.";
+}
+
+std::string dropdownNoBattery(Platform platform)
+{
+    return "No battery — this " + machineWord(platform) + " runs on mains power.";
+}
+
+std::string dropdownThermalNote(Platform platform)
+{
+    return onMac(platform)
+        ? "Exact temperatures and fan speeds aren't available to apps through public macOS interfaces."
+        : "Every temperature and fan the sensors report is on Power & Heat.";
+}
+
+std::string panelSettings(Platform platform)
+{
+    return onMac(platform) ? "Menu Bar Settings…" : "Panel Settings…";
+}
+
 std::string shownPath(const std::string& path, std::string home)
 {
     while (home.size() > 1 && home.back() == '/')

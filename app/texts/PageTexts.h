@@ -46,6 +46,13 @@ namespace vexel::PageTexts {
 [[nodiscard]] std::string installCommand(Platform platform, const std::string& vexelPath);
 [[nodiscard]] std::string mcpAddCommand(Platform platform);
 
+// The panel dropdowns' sentences for readings without per-app figures.
+[[nodiscard]] std::string dropdownGpuNote(Platform platform);
+[[nodiscard]] std::string dropdownNoBattery(Platform platform);
+[[nodiscard]] std::string dropdownThermalNote(Platform platform);
+// "Menu Bar Settings…" or "Panel Settings…".
+[[nodiscard]] std::string panelSettings(Platform platform);
+
 // A path as shown: under the home folder, "~" takes the home folder's place.
 [[nodiscard]] std::string shownPath(const std::string& path, std::string home);
 

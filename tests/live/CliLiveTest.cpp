@@ -463,7 +463,11 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
             {"apps-selected-iterm-", "apps-search-empty-", "overview-away-", "settings-general-", "settings-panel-",
                 "settings-alerts-", "settings-history-", "settings-developer-"})
             all.push_back(staged + appearance);
+        for (const std::string kind : {"cpu", "memory", "network", "thermal", "battery", "disk", "gpu"})
+            for (const std::string state : {"", "strained-"})
+                all.push_back("dropdown-" + kind + "-" + state + appearance);
     }
+    all.push_back("menubar-items.png");
     std::vector<std::string> everything;
     for (const auto& entry : std::filesystem::directory_iterator(first.path()))
         everything.push_back(entry.path().filename().string());

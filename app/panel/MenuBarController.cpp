@@ -1,0 +1,185 @@
+#include "panel/MenuBarController.h"
+
+#include "model/AppModel.h"
+#include "panel/MenuGlyph.h"
+#include "panel/MenuReading.h"
+#include "texts/PageTexts.h"
+#include "texts/QtText.h"
+
+#include <QCursor>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScreen>
+#include <QSystemTrayIcon>
+
+#include <algorithm>
+
+namespace vexel {
+
+namespace {
+
+// A popup closes itself when the panel is pressed; the click that follows on
+// the same item within this long is that press, the second click of a toggle.
+constexpr qint64 sameClickMilliseconds = 400;
+
+std::vector<MenuItemKind> enabledKinds(const VexelSettings& settings)
+{
+    std::vector<MenuItemKind> kinds;
+    for (const auto& item : settings.menuItems)
+        if (item.enabled)
+            kinds.push_back(item.kind);
+    return kinds;
+}
+
+// The reading in words for the tooltip and the item's menu: "Network 1.5M
+// down, 120K up".
+std::string spoken(const MenuReading& reading)
+{
+    if (!reading.text2)
+        return reading.text;
+    const bool disk = reading.kind == MenuItemKind::disk;
+    return reading.text + (disk ? " read, " : " down, ") + *reading.text2 + (disk ? " written" : " up");
+}
+
+} // namespace
+
+MenuBarController::MenuBarController(
+    AppModel& model, Appearance panel, Appearance window, MenuDropdown::Actions actions)
+    : m_model(model)
+    , m_panel(panel)
+    , m_window(window)
+    , m_actions(std::move(actions))
+{
+}
+
+MenuBarController::~MenuBarController()
+{
+    if (m_dropdown)
+        m_dropdown->close();
+    removeAll();
+}
+
+void MenuBarController::start()
+{
+    connect(&m_model, &AppModel::changed, this, [this](unsigned what) {
+        if (what & AppModel::settingsChanged)
+            rebuild();
+        else if (what & AppModel::frameChanged)
+            update();
+    });
+    rebuild();
+}
+
+void MenuBarController::rebuild()
+{
+    const auto wanted = enabledKinds(m_model.settings);
+    std::vector<MenuItemKind> kept;
+    for (const auto kind : m_order)
+        if (std::ranges::find(wanted, kind) != wanted.end())
+            kept.push_back(kind);
+    // New items go to the panel's end: the kept ones must lead the wanted order.
+    const bool keptLead
+        = std::equal(kept.begin(), kept.end(), wanted.begin(), wanted.begin() + static_cast<long>(kept.size()));
+    if (!keptLead) {
+        removeAll();
+        kept.clear();
+        ++m_recreations;
+    }
+    for (const auto kind : m_order)
+        if (std::ranges::find(wanted, kind) == wanted.end()) {
+            delete m_menus[kind];
+            delete m_items[kind];
+            m_items.erase(kind);
+            m_menus.erase(kind);
+        }
+    m_order = kept;
+    for (size_t i = kept.size(); i < wanted.size(); ++i)
+        add(wanted[i]);
+    update();
+}
+
+void MenuBarController::add(MenuItemKind kind)
+{
+    auto* item = new QSystemTrayIcon(this);
+    auto* menu = new QMenu;
+    menu->addAction(QString())->setEnabled(false); // the reading, kept up to date
+    menu->addSeparator();
+    connect(menu->addAction(QStringLiteral("Open Vexel Window")), &QAction::triggered, this,
+        [this] { m_actions.openWindow(); });
+    connect(menu->addAction(qs(PageTexts::panelSettings(m_model.platform))), &QAction::triggered, this,
+        [this] { m_actions.openPanelSettings(); });
+    item->setContextMenu(menu);
+    connect(item, &QSystemTrayIcon::activated, this, [this, kind](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            clicked(kind);
+    });
+    m_items[kind] = item;
+    m_menus[kind] = menu;
+    m_order.push_back(kind);
+    const MenuItemConfig config{kind, true, MenuItemStyle::value};
+    item->setIcon(MenuGlyph::icon(menuReading(m_model, config), m_panel));
+    item->show();
+}
+
+void MenuBarController::removeAll()
+{
+    for (auto& [kind, item] : m_items)
+        delete item;
+    for (auto& [kind, menu] : m_menus)
+        delete menu;
+    m_items.clear();
+    m_menus.clear();
+    m_order.clear();
+}
+
+void MenuBarController::update()
+{
+    for (const auto& config : m_model.settings.menuItems) {
+        const auto found = m_items.find(config.kind);
+        if (found == m_items.end())
+            continue;
+        const MenuReading reading = menuReading(m_model, config);
+        found->second->setIcon(MenuGlyph::icon(reading, m_panel));
+        const QString said = qs(title(config.kind) + " " + spoken(reading));
+        found->second->setToolTip(said);
+        m_menus[config.kind]->actions().front()->setText(said);
+    }
+    if (m_dropdown)
+        m_dropdown->showModel(m_model);
+}
+
+void MenuBarController::clicked(MenuItemKind kind)
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (m_dropdown) {
+        m_dropdown->close();
+        return;
+    }
+    if (kind == m_lastClosed && now - m_closedAt < sameClickMilliseconds)
+        return; // the press that closed it was this item's second click
+    auto* dropdown = new MenuDropdown(m_model, kind, m_window, m_actions);
+    connect(dropdown, &QObject::destroyed, this, [this, kind] {
+        m_lastClosed = kind;
+        m_closedAt = QDateTime::currentMSecsSinceEpoch();
+    });
+    m_dropdown = dropdown;
+    // Status items carry no position: the dropdown opens at the pointer, kept on its screen.
+    QPoint at = QCursor::pos();
+    if (const auto* screen = QGuiApplication::screenAt(at)) {
+        const QRect room = screen->availableGeometry();
+        at.setX(std::clamp(at.x() - dropdown->width() / 2, room.left(), room.right() - dropdown->width()));
+        at.setY(std::clamp(at.y(), room.top(), room.bottom() - dropdown->height()));
+    }
+    dropdown->move(at);
+    dropdown->show();
+    m_model.refresh(false); // it opens on fresh figures
+}
+
+QSystemTrayIcon* MenuBarController::item(MenuItemKind kind) const
+{
+    const auto found = m_items.find(kind);
+    return found == m_items.end() ? nullptr : found->second;
+}
+
+} // namespace vexel

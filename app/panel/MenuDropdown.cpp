@@ -1,0 +1,209 @@
+#include "panel/MenuDropdown.h"
+
+#include "format/CFormat.h"
+#include "format/Fmt.h"
+#include "look/Buttons.h"
+#include "look/Dial.h"
+#include "look/FigureRows.h"
+#include "look/Labels.h"
+#include "look/PaintedView.h"
+#include "look/Sparkline.h"
+#include "model/AppModel.h"
+#include "pages/OverviewFigures.h"
+#include "pages/TopApps.h"
+#include "panel/MenuReading.h"
+#include "texts/PageTexts.h"
+#include "texts/QtText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vexel {
+
+namespace {
+
+constexpr size_t appsShown = 5;
+constexpr size_t sensorsShown = 4;
+
+// The Overview's dial of the kind; heat has a dial of its own, a step a level.
+Dial dialOf(const AppModel& model, MenuItemKind kind)
+{
+    const auto dials = overviewDials(model);
+    switch (kind) {
+    case MenuItemKind::cpu: return dials[0];
+    case MenuItemKind::memory: return dials[1];
+    case MenuItemKind::disk: return dials[2];
+    case MenuItemKind::network: return dials[3];
+    case MenuItemKind::gpu: return dials[4];
+    case MenuItemKind::battery: return dials[5];
+    case MenuItemKind::thermal: break;
+    }
+    const ThermalLevel level = model.frame ? model.frame->system.thermal : ThermalLevel::nominal;
+    return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), qs(title(level)), QStringLiteral("Heat")};
+}
+
+FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
+{
+    if (!model.frame)
+        return {};
+    const auto& system = model.frame->system;
+    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    switch (kind) {
+    case MenuItemKind::cpu:
+        return {{"User", qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
+            {"System", qs(Fmt::cpu(system.cpu.system * model.cores, cores))},
+            {"Load", qs(cformat("%.2f  %.2f  %.2f", system.cpu.load1, system.cpu.load5, system.cpu.load15))}};
+    case MenuItemKind::memory:
+        return {{"In use", qs(Fmt::memory(system.memory.used()) + " of " + Fmt::memory(system.memory.total))},
+            {"Pressure", qs(title(system.memory.pressure))}, {"Swap used", qs(Fmt::memory(system.memory.swapUsed))}};
+    case MenuItemKind::network:
+        return {
+            {"Download", qs(Fmt::rate(system.net.inRate, unit))}, {"Upload", qs(Fmt::rate(system.net.outRate, unit))}};
+    case MenuItemKind::disk: {
+        FigureRows::Rows rows{{"Read", qs(Fmt::rate(system.disk.readRate, Fmt::RateUnit::bytes))},
+            {"Write", qs(Fmt::rate(system.disk.writeRate, Fmt::RateUnit::bytes))}};
+        if (const auto main = system.disk.main())
+            rows.emplace_back(qs(main->name), qs(Fmt::bytes(main->available) + " free"));
+        return rows;
+    }
+    case MenuItemKind::gpu:
+        if (!system.gpu)
+            return {{"GPU", qs(PageTexts::noGpuUtilisation(model.platform))}};
+        return {{qs(system.gpu->name), qs(Fmt::percent(system.gpu->utilisation) + " busy")}};
+    case MenuItemKind::battery:
+        if (!system.battery)
+            return {};
+        return {{"Charge", qs(std::to_string(system.battery->percent) + "%")},
+            {"State",
+                system.battery->charging   ? QStringLiteral("Charging")
+                    : system.battery->onAC ? QStringLiteral("On power adapter")
+                                           : QStringLiteral("On battery")}};
+    case MenuItemKind::thermal: {
+        FigureRows::Rows rows{{"Level", qs(title(system.thermal))}};
+        // The hottest sensors, where the system reports them.
+        auto temperatures = system.sensors.temperatures;
+        std::ranges::sort(temperatures, std::greater{}, &Temperature::celsius);
+        for (size_t i = 0; i < temperatures.size() && i < sensorsShown; ++i)
+            rows.emplace_back(qs(chipTitle(temperatures[i].chip) + " · " + temperatures[i].label),
+                qs(cformat("%.0f °C", temperatures[i].celsius)));
+        for (const auto& fan : system.sensors.fans)
+            rows.emplace_back(qs(chipTitle(fan.chip) + " · " + fan.label), qs(cformat("%.0f rpm", fan.rpm)));
+        return rows;
+    }
+    }
+    return {};
+}
+
+} // namespace
+
+MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance appearance, Actions actions)
+    : QFrame(nullptr, Qt::Popup)
+    , m_kind(kind)
+    , m_appearance(appearance)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFrameShape(QFrame::StyledPanel);
+    setPalette(Look::palette(appearance));
+    setAutoFillBackground(true);
+    setFixedWidth(300);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 14, 16, 14);
+    layout->setSpacing(8);
+    layout->addWidget(Look::heading(qs(title(kind)), this));
+    auto* top = new QHBoxLayout;
+    m_dial = new PaintedView(QSize(96, 96), this);
+    m_dial->setFixedSize(96, 96);
+    top->addWidget(m_dial);
+    m_readouts = new FigureRows(this);
+    top->addWidget(m_readouts, 1);
+    layout->addLayout(top);
+    m_trace = new PaintedView(QSize(268, 44), this);
+    layout->addWidget(m_trace);
+    layout->addWidget(Look::explanation(QStringLiteral("Last few minutes"), appearance, this));
+    m_apps = new TopApps(QStringLiteral("Apps"), appearance, this);
+    layout->addWidget(m_apps);
+    m_note = Look::explanation({}, appearance, this);
+    layout->addWidget(m_note);
+    auto* buttons = new QHBoxLayout;
+    auto* open = Look::button(QStringLiteral("Open Vexel Window"), this);
+    auto* settings = Look::button(qs(PageTexts::panelSettings(model.platform)), this);
+    buttons->addWidget(open);
+    buttons->addWidget(settings);
+    layout->addLayout(buttons);
+    connect(open, &QPushButton::clicked, this, [this, actions] {
+        close();
+        actions.openWindow();
+    });
+    connect(settings, &QPushButton::clicked, this, [this, actions] {
+        close();
+        actions.openPanelSettings();
+    });
+    showModel(model);
+}
+
+void MenuDropdown::showModel(const AppModel& model)
+{
+    m_dial->draw(dialOf(model, m_kind), m_appearance);
+    m_readouts->setRows(readoutsOf(model, m_kind));
+    const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
+    m_trace->draw(Sparkline{reading.trace, reading.traceTop, reading.strain}, m_appearance);
+    m_trace->setVisible(canGraph(m_kind));
+
+    // The apps behind the reading, where there are per-app figures.
+    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const bool battery = model.frame && model.frame->system.battery;
+    QString note;
+    switch (m_kind) {
+    case MenuItemKind::cpu:
+        m_apps->show(model, AppSort::cpu, appsShown, [cores](const AppGroup& a) { return Fmt::cpu(a.cpu, cores); });
+        break;
+    case MenuItemKind::memory:
+        m_apps->show(model, AppSort::memory, appsShown, [](const AppGroup& a) { return Fmt::memory(a.memory); });
+        break;
+    case MenuItemKind::network:
+        m_apps->show(model, AppSort::network, appsShown,
+            [unit](const AppGroup& a) { return Fmt::rate(a.netIn + a.netOut, unit); });
+        break;
+    case MenuItemKind::disk:
+        m_apps->show(model, AppSort::disk, appsShown,
+            [](const AppGroup& a) { return Fmt::rate(a.diskRead + a.diskWrite, Fmt::RateUnit::bytes); });
+        break;
+    case MenuItemKind::battery:
+        if (battery)
+            m_apps->show(
+                model, AppSort::energy, appsShown, [](const AppGroup& a) { return Fmt::watts(a.energyW.value_or(0)); });
+        else
+            note = qs(PageTexts::dropdownNoBattery(model.platform));
+        break;
+    case MenuItemKind::gpu: note = qs(PageTexts::dropdownGpuNote(model.platform)); break;
+    case MenuItemKind::thermal: note = qs(PageTexts::dropdownThermalNote(model.platform)); break;
+    }
+    const bool perApp = note.isEmpty();
+    m_apps->setVisible(perApp);
+    m_note->setText(note);
+    m_note->setVisible(!perApp);
+    adjustSize();
+}
+
+QStringList MenuDropdown::readouts() const
+{
+    return m_readouts->rows();
+}
+
+QStringList MenuDropdown::appRows() const
+{
+    return m_apps->isHidden() ? QStringList() : m_apps->rows();
+}
+
+QString MenuDropdown::note() const
+{
+    return m_note->isHidden() ? QString() : m_note->text();
+}
+
+} // namespace vexel
