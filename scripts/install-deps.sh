@@ -23,6 +23,9 @@ test_packages=(
   procps python3 strace
   # the desktop app runs for real on a virtual display
   xvfb xauth
+  # its panel items in a real status area: a message bus of their own, the
+  # watcher and a panel host, and a photograph of the screen
+  dbus-daemon haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils imagemagick
 )
 
 case "${1:-test}" in

@@ -1,0 +1,224 @@
+// The readings in a real panel: Debian's status-notifier-watcher and
+// gtk-sni-tray-standalone on a virtual display. The enabled items register
+// in the configured order (read back over D-Bus), their pictures show in the
+// panel (photographed and compared), disabling them all removes them,
+// reordering re-creates them in the new order, and activating an item over
+// D-Bus opens its dropdown and a second activation closes it.
+
+#include "../app/DemoModel.h"
+#include "panel/MenuBarController.h"
+#include "support/ChildProcess.h"
+#include "support/RunTool.h"
+#include "support/TempFolder.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QImage>
+#include <QSystemTrayIcon>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+using namespace vexel;
+using vexel::testing::ChildProcess;
+using vexel::testing::DemoModel;
+
+namespace {
+
+const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
+constexpr int panelHeight = 30;
+
+// A call over the session bus, answered while this thread's event loop runs:
+// the items asked about live in this process, and a blocking call would keep
+// them from answering.
+QDBusMessage ask(const QDBusMessage& message)
+{
+    QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(message, 10000);
+    if (!QTest::qWaitFor([&] { return pending.isFinished(); }, 12000))
+        return {};
+    return pending.reply();
+}
+
+QVariant property(const QString& service, const QString& path, const QString& interface, const QString& name)
+{
+    auto message = QDBusMessage::createMethodCall(
+        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    message << interface << name;
+    const QDBusMessage reply = ask(message);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
+        return {};
+    return reply.arguments().front().value<QDBusVariant>().variant();
+}
+
+QVariant watcherProperty(const QString& name)
+{
+    return property(watcherService, QStringLiteral("/StatusNotifierWatcher"), watcherService, name);
+}
+
+// The registered items by their unique bus names, in the order they
+// connected (a later connection has a higher number).
+QStringList registeredItems()
+{
+    QStringList items = watcherProperty(QStringLiteral("RegisteredStatusNotifierItems")).toStringList();
+    for (auto& item : items)
+        item = item.section('/', 0, 0);
+    std::ranges::sort(items,
+        [](const QString& a, const QString& b) { return a.section('.', 1).toInt() < b.section('.', 1).toInt(); });
+    return items;
+}
+
+// The text of an item's tooltip: "CPU 15%".
+QString toolTipOf(const QString& service)
+{
+    const QVariant value = property(service, QStringLiteral("/StatusNotifierItem"),
+        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("ToolTip"));
+    if (!value.isValid())
+        return {};
+    const auto argument = value.value<QDBusArgument>();
+    QString icon;
+    QString title;
+    QString text;
+    argument.beginStructure();
+    argument >> icon;
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        int width = 0;
+        int height = 0;
+        QByteArray bytes;
+        argument.beginStructure();
+        argument >> width >> height >> bytes;
+        argument.endStructure();
+    }
+    argument.endArray();
+    argument >> title >> text;
+    argument.endStructure();
+    return title;
+}
+
+// The first word of each registered item's tooltip, in registration order.
+QStringList registeredKinds()
+{
+    QStringList kinds;
+    for (const auto& item : registeredItems())
+        kinds << toolTipOf(item).section(' ', 0, 0);
+    return kinds;
+}
+
+bool waitFor(const std::function<bool()>& done)
+{
+    return QTest::qWaitFor(done, 15000);
+}
+
+// The panel's strip, photographed from the screen as a user sees it.
+QImage photographPanel(const std::filesystem::path& folder)
+{
+    const auto file = folder / "panel.png";
+    const auto run = vexel::testing::runTool({"import", "-window", "root", file.string()}, {{}, ""});
+    if (run.status != 0)
+        return {};
+    return QImage(QString::fromStdString(file.string()))
+        .copy(0, 0, 400, panelHeight)
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+// The last column of the photograph that is not the panel's background.
+int rightmostInk(const QImage& photo)
+{
+    if (photo.isNull())
+        return -1;
+    const QColor background = photo.pixelColor(photo.width() - 1, 0);
+    for (int x = photo.width() - 1; x >= 0; --x)
+        for (int y = 0; y < photo.height(); ++y)
+            if (photo.pixelColor(x, y) != background)
+                return x;
+    return -1;
+}
+
+} // namespace
+
+TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
+{
+    ChildProcess watcherProcess({"/usr/bin/status-notifier-watcher"});
+    ASSERT_TRUE(
+        waitFor([] { return QDBusConnection::sessionBus().interface()->isServiceRegistered(watcherService).value(); }));
+    ChildProcess host(
+        {"/usr/bin/gtk-sni-tray-standalone", "--top", "--beginning", "--size", std::to_string(panelHeight)});
+    ASSERT_TRUE(waitFor([] { return watcherProperty(QStringLiteral("IsStatusNotifierHostRegistered")).toBool(); }));
+    ASSERT_TRUE(QSystemTrayIcon::isSystemTrayAvailable());
+
+    // The model's own timer waits an hour: the pictures stay those of the three ticks below.
+    DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 3600; });
+    auto& model = *demo.model;
+    for (int tick = 0; tick < 3; ++tick) {
+        demo.now += 2;
+        model.refresh(tick == 0);
+        demo.settle();
+    }
+    auto settings = model.settings;
+    for (auto& item : settings.menuItems)
+        item.enabled = true;
+    model.changeSettings(settings);
+    int opened = 0;
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[&opened] { ++opened; }, [] {}});
+    panel.start();
+
+    // All seven, in the configured order.
+    const QStringList configured{"CPU", "Memory", "Network", "Heat", "Battery", "Disk", "GPU"};
+    ASSERT_TRUE(waitFor([] { return registeredItems().size() == 7; })) << registeredItems().join(' ').toStdString();
+    EXPECT_EQ(registeredKinds(), configured);
+
+    // Their pictures show in the panel, left to right, as on the golden photograph.
+    vexel::testing::TempFolder folder("vexel-panel");
+    const auto goldenFile = std::filesystem::path(VEXEL_SOURCE_DIR) / "tests/golden/panel/seven-items.png";
+    // The host draws the items as they come: the photograph is taken once
+    // all seven show (the last reaches past 150 pixels) and it holds still.
+    QImage photo;
+    QImage previous;
+    ASSERT_TRUE(waitFor([&] {
+        previous = photo;
+        photo = photographPanel(folder.path());
+        return !photo.isNull() && photo == previous && rightmostInk(photo) > 150;
+    })) << "the panel never showed seven items; rightmost ink at "
+        << rightmostInk(photo);
+    if (const char* update = std::getenv("VEXEL_UPDATE_GOLDEN"); update && std::string(update) == "1") {
+        std::filesystem::create_directories(goldenFile.parent_path());
+        ASSERT_TRUE(photo.save(QString::fromStdString(goldenFile.string())));
+    }
+    const QImage golden = QImage(QString::fromStdString(goldenFile.string())).convertToFormat(QImage::Format_RGB32);
+    ASSERT_FALSE(golden.isNull()) << "missing " << goldenFile;
+    EXPECT_EQ(photo, golden) << "the panel's photograph differs from " << goldenFile << "; it is kept as "
+                             << (folder.path() / "panel.png") << " while the test runs";
+    if (photo != golden)
+        photo.save(QStringLiteral("/tmp/vexel-panel-photo.png"));
+
+    // Reordered: re-created in the new order.
+    std::swap(settings.menuItems[0], settings.menuItems[2]);
+    model.changeSettings(settings);
+    const QStringList reordered{"Network", "Memory", "CPU", "Heat", "Battery", "Disk", "GPU"};
+    ASSERT_TRUE(waitFor([&] { return registeredKinds() == reordered; })) << registeredKinds().join(' ').toStdString();
+
+    // A click (the host's Activate) opens the dropdown; a second closes it.
+    auto activate = QDBusMessage::createMethodCall(registeredItems().at(2), QStringLiteral("/StatusNotifierItem"),
+        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("Activate"));
+    activate << 10 << 10;
+    ask(activate);
+    ASSERT_TRUE(waitFor([&] { return panel.dropdown() != nullptr; }));
+    EXPECT_EQ(panel.dropdown()->kind(), MenuItemKind::cpu);
+    EXPECT_TRUE(waitFor([&] { return panel.dropdown()->isVisible(); }));
+    demo.settle();
+    ask(activate);
+    EXPECT_TRUE(waitFor([&] { return panel.dropdown() == nullptr; }));
+
+    // All off: none left in the panel.
+    for (auto& config : settings.menuItems)
+        config.enabled = false;
+    model.changeSettings(settings);
+    EXPECT_TRUE(waitFor([] { return registeredItems().isEmpty(); })) << registeredItems().join(' ').toStdString();
+    EXPECT_TRUE(panel.order().empty());
+}
