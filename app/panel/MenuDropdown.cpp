@@ -57,7 +57,7 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
     case MenuItemKind::cpu:
         return {{"User", qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
             {"System", qs(Fmt::cpu(system.cpu.system * model.cores, cores))},
-            {"Load", qs(cformat("%.2f  %.2f  %.2f", system.cpu.load1, system.cpu.load5, system.cpu.load15))}};
+            {"Load", qs(cformat("%.2f", system.cpu.load1))}};
     case MenuItemKind::memory:
         return {{"In use", qs(Fmt::memory(system.memory.used()) + " of " + Fmt::memory(system.memory.total))},
             {"Pressure", qs(title(system.memory.pressure))}, {"Swap used", qs(Fmt::memory(system.memory.swapUsed))}};
@@ -110,7 +110,7 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance 
     setFrameShape(QFrame::StyledPanel);
     setPalette(Look::palette(appearance));
     setAutoFillBackground(true);
-    setFixedWidth(300);
+    setFixedWidth(340);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(8);
@@ -122,9 +122,10 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance 
     m_readouts = new FigureRows(this);
     top->addWidget(m_readouts, 1);
     layout->addLayout(top);
-    m_trace = new PaintedView(QSize(268, 44), this);
+    m_trace = new PaintedView(QSize(308, 44), this);
     layout->addWidget(m_trace);
-    layout->addWidget(Look::explanation(QStringLiteral("Last few minutes"), appearance, this));
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    layout->addWidget(m_traceCaption);
     m_apps = new TopApps(QStringLiteral("Apps"), appearance, this);
     layout->addWidget(m_apps);
     m_note = Look::explanation({}, appearance, this);
@@ -153,6 +154,7 @@ void MenuDropdown::showModel(const AppModel& model)
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
     m_trace->draw(Sparkline{reading.trace, reading.traceTop, reading.strain}, m_appearance);
     m_trace->setVisible(canGraph(m_kind));
+    m_traceCaption->setVisible(canGraph(m_kind));
 
     // The apps behind the reading, where there are per-app figures.
     const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;

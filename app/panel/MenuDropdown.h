@@ -42,6 +42,7 @@ private:
     PaintedView* m_dial = nullptr;
     FigureRows* m_readouts = nullptr;
     PaintedView* m_trace = nullptr;
+    QLabel* m_traceCaption = nullptr;
     TopApps* m_apps = nullptr;
     QLabel* m_note = nullptr;
 };

@@ -25,6 +25,8 @@ PanelTab::PanelTab(Appearance appearance, QWidget* parent)
     m_grid->setHorizontalSpacing(10);
     m_grid->setColumnStretch(0, 1);
     column()->addLayout(m_grid);
+    m_keeps = Look::explanation({}, appearance, this);
+    column()->addWidget(m_keeps);
     auto* restore = Look::button(QStringLiteral("Restore Defaults"), this);
     connect(restore, &QPushButton::clicked, this, &PanelTab::restoreDefaults);
     column()->addWidget(restore, 0, Qt::AlignLeft);
@@ -51,9 +53,17 @@ void PanelTab::showModel(const AppModel& model)
     m_filling = true;
     const bool mac = model.platform == Platform::macOS;
     m_heading->setText(mac ? QStringLiteral("Readings in the menu bar") : QStringLiteral("Readings in the panel"));
-    m_note->setText(mac ? QStringLiteral("Each reading switched on gets its own item in the menu bar, in this order.")
-                        : QStringLiteral("Each reading switched on gets its own item in the panel's status area, in "
-                                         "this order."));
+    m_note->setText(mac ? QStringLiteral("Each reading is its own item, shown left to right in this order. Use the "
+                                         "arrows to reorder. A reading turns amber or red in the menu bar when it's "
+                                         "under strain; thresholds are in Alerts.")
+                        : QStringLiteral("Each reading is its own item, shown left to right in this order. Use the "
+                                         "arrows to reorder. A reading turns amber or red in the panel when it's "
+                                         "under strain; thresholds are in Alerts."));
+    m_keeps->setText(mac
+            ? QStringLiteral("With no menu bar items, Vexel keeps its Dock icon so you can always get back "
+                             "to it.")
+            : QStringLiteral("With no panel items, Vexel keeps its window in the taskbar so you can always "
+                             "get back to it."));
     for (auto* cell : m_cells)
         cell->deleteLater();
     m_cells.clear();

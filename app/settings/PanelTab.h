@@ -27,6 +27,7 @@ public:
 private:
     QLabel* m_heading = nullptr;
     QLabel* m_note = nullptr;
+    QLabel* m_keeps = nullptr;
     QGridLayout* m_grid = nullptr;
     std::vector<QWidget*> m_cells;
     QStringList m_rows;
