@@ -92,6 +92,7 @@ void BM_OverviewTickRepaint(benchmark::State& state)
     MainWindow window(Appearance::light);
     window.bind(*demo().model);
     window.show();
+    window.showRoute(Route::overview); // the model may still be on another page's route
     auto* page = window.overview();
     QImage canvas(window.size(), QImage::Format_ARGB32_Premultiplied);
     for (auto _ : state) {

@@ -2,6 +2,7 @@
 
 #include "Route.h"
 #include "actions/ActionFlow.h"
+#include "format/Fmt.h"
 #include "grouping/AppSort.h"
 #include "model/Cadence.h"
 #include "model/RecentRing.h"
@@ -131,6 +132,17 @@ public:
     void copyCommand(const std::string& command);
     void copyAddress(uint16_t port);
     void reveal(const std::string& path);
+
+    // The settings' scales: the core count when CPU figures are shares of
+    // the whole machine (nothing when of one core), and the network's unit.
+    [[nodiscard]] std::optional<int> cpuScaleCores() const
+    {
+        return settings.cpuScale == CPUScale::mac ? std::optional(cores) : std::nullopt;
+    }
+    [[nodiscard]] Fmt::RateUnit networkUnit() const
+    {
+        return settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    }
 
     [[nodiscard]] Strain strain(MenuItemKind kind) const;
     [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return ring.peak(field); }

@@ -4,6 +4,7 @@
 #include "look/Buttons.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
+#include "pages/CommandLine.h"
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
@@ -20,18 +21,6 @@
 namespace vexel {
 
 namespace {
-
-QLabel* commandLabel(QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    QFont mono = Look::font(10);
-    mono.setFamily(QStringLiteral("monospace"));
-    mono.setStyleHint(QFont::Monospace);
-    label->setFont(mono);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
 
 QString kindWord(const AppGroup& app)
 {
@@ -105,30 +94,23 @@ AppInspector::AppInspector(Appearance appearance, QWidget* parent)
 void AppInspector::buildHangingSection(QVBoxLayout* layout)
 {
     layout->addWidget(Look::heading(QStringLiteral("If it's hanging or busy"), this));
-    m_sampleCommand = commandLabel(this);
-    m_reportCommand = commandLabel(this);
-    m_reportNote = Look::explanation({}, m_appearance, this);
-    const auto row = [this, layout](QLabel* command, QLabel* note) {
-        auto* line = new QHBoxLayout;
-        line->addWidget(command, 1);
-        auto* copy = Look::button(QStringLiteral("Copy"), this);
-        connect(copy, &QPushButton::clicked, this, [this, command] {
-            if (m_model)
-                m_model->copyCommand(command->text().toStdString());
-        });
-        line->addWidget(copy, 0, Qt::AlignTop);
-        layout->addLayout(line);
-        layout->addWidget(note);
+    const auto copy = [this](const std::string& command) {
+        if (m_model)
+            m_model->copyCommand(command);
     };
-    row(m_sampleCommand,
-        Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), m_appearance, this));
-    row(m_reportCommand, m_reportNote);
+    m_sampleCommand = new CommandLine(this, copy);
+    layout->addWidget(m_sampleCommand);
+    layout->addWidget(Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), m_appearance, this));
+    m_reportCommand = new CommandLine(this, copy);
+    layout->addWidget(m_reportCommand);
+    m_reportNote = Look::explanation({}, m_appearance, this);
+    layout->addWidget(m_reportNote);
 }
 
 void AppInspector::showApp(const AppGroup& app, const AppModel& model)
 {
     const Platform platform = model.platform;
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto cores = model.cpuScaleCores();
     m_appId = app.id;
     m_path = app.path;
     m_name->setText(qs(app.name));

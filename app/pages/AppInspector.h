@@ -15,6 +15,7 @@ class QVBoxLayout;
 namespace vexel {
 
 class AppModel;
+class CommandLine;
 struct AppGroup;
 
 // The Apps page's inspector of the selected app: its processes, where it
@@ -50,8 +51,8 @@ private:
     QLabel* m_otherUsers = nullptr;
     QLabel* m_zombies = nullptr;
     QLabel* m_system = nullptr;
-    QLabel* m_sampleCommand = nullptr;
-    QLabel* m_reportCommand = nullptr;
+    CommandLine* m_sampleCommand = nullptr;
+    CommandLine* m_reportCommand = nullptr;
     QLabel* m_reportNote = nullptr;
 };
 

@@ -104,7 +104,7 @@ void AppsPage::showModel(const AppModel& model)
 void AppsPage::fillList(const AppModel& model)
 {
     const auto apps = model.searchedApps();
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto cores = model.cpuScaleCores();
     // Rebuilt at every frame; the selection follows the app, not the row.
     const QSignalBlocker quiet(m_list);
     const int scrolled = m_list->verticalScrollBar()->value();

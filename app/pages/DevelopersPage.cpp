@@ -6,6 +6,7 @@
 #include "look/FigureRows.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
+#include "pages/CommandLine.h"
 #include "pages/ServerRow.h"
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
@@ -23,17 +24,6 @@
 namespace vexel {
 
 namespace {
-
-QLabel* commandLabel(QWidget* parent)
-{
-    auto* label = Look::line(parent);
-    QFont mono = Look::font(11);
-    mono.setFamily(QStringLiteral("monospace"));
-    mono.setStyleHint(QFont::Monospace);
-    label->setFont(mono);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
 
 // Where the vexel command lives: beside the app, or in the Mac app's bundle.
 std::string vexelPath(Platform platform)
@@ -84,26 +74,19 @@ void DevelopersPage::buildToolsSection(QVBoxLayout* column)
     column->addWidget(Look::heading(QStringLiteral("Command line and AI tools"), this));
     m_installNote = Look::explanation({}, appearance(), this);
     column->addWidget(m_installNote);
-    const auto copyable = [this, column](QLabel* command) {
-        auto* line = new QHBoxLayout;
-        line->addWidget(command, 1);
-        auto* copy = Look::button(QStringLiteral("Copy"), this);
-        connect(copy, &QPushButton::clicked, this, [this, command] {
-            if (model())
-                model()->copyCommand(command->text().toStdString());
-        });
-        line->addWidget(copy, 0, Qt::AlignTop);
-        column->addLayout(line);
+    const auto copy = [this](const std::string& command) {
+        if (model())
+            model()->copyCommand(command);
     };
-    m_installCommand = commandLabel(this);
-    copyable(m_installCommand);
-    auto* status = commandLabel(this);
+    m_installCommand = new CommandLine(this, copy);
+    column->addWidget(m_installCommand);
+    auto* status = new CommandLine(this);
     status->setText(QStringLiteral("vexel status"));
     column->addWidget(status);
     column->addWidget(
         Look::explanation(QStringLiteral("Add the read-only MCP server to Claude Code:"), appearance(), this));
-    m_mcpCommand = commandLabel(this);
-    copyable(m_mcpCommand);
+    m_mcpCommand = new CommandLine(this, copy);
+    column->addWidget(m_mcpCommand);
     column->addWidget(Look::explanation(QStringLiteral("Your assistant can ask what's busy, what happened overnight, "
                                                        "which dev servers are idle and what's on a port. It can't "
                                                        "quit or stop anything — it has to ask you to do it here."),

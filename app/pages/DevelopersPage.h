@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace vexel {
 
+class CommandLine;
 class FigureRows;
 class ServerRow;
 
@@ -50,8 +51,8 @@ private:
     QLabel* m_dockerNote = nullptr;
     FigureRows* m_containers = nullptr;
     QLabel* m_installNote = nullptr;
-    QLabel* m_installCommand = nullptr;
-    QLabel* m_mcpCommand = nullptr;
+    CommandLine* m_installCommand = nullptr;
+    CommandLine* m_mcpCommand = nullptr;
 };
 
 } // namespace vexel

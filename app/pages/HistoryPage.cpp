@@ -39,21 +39,10 @@ double gapFor(const std::vector<SysPoint>& points)
     return std::max(step, 5.0) * 3;
 }
 
-Chart chartOf(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range)
+// Shares of the machine, in percent, on the range's frame (its span, gap and time marks).
+Chart shareChart(
+    const std::vector<SysPoint>& points, Chart chart, std::vector<std::pair<QString, double SysPoint::*>> fields)
 {
-    Chart chart;
-    chart.from = history.from;
-    chart.to = history.to;
-    chart.gapAfter = gapFor(points);
-    chart.times = timeTicks(history.from, history.to, range, TimeZone::current());
-    return chart;
-}
-
-// Shares of the machine, in percent.
-Chart shareChart(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range,
-    std::vector<std::pair<QString, double SysPoint::*>> fields)
-{
-    Chart chart = chartOf(points, history, range);
     chart.top = 100;
     chart.valueText = [](double value) { return QString::number(value) + "%"; };
     for (const auto& [name, field] : fields) {
@@ -66,10 +55,9 @@ Chart shareChart(const std::vector<SysPoint>& points, const Sampler::HistoryResu
 }
 
 // Amounts per interval, drawn as rates so that tiers of different steps compare.
-Chart rateChart(const std::vector<SysPoint>& points, const Sampler::HistoryResult& history, HistoryRange range,
+Chart rateChart(const std::vector<SysPoint>& points, Chart chart,
     std::vector<std::pair<QString, double SysPoint::*>> fields, Fmt::RateUnit unit)
 {
-    Chart chart = chartOf(points, history, range);
     double top = 1000;
     for (const auto& [name, field] : fields) {
         Chart::Series series{name, {}};
@@ -219,17 +207,19 @@ void HistoryPage::showCharts(const AppModel& model)
 {
     const auto& history = *model.history;
     const auto& points = history.points;
-    const auto range = model.historyRange;
-    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const double gap = gapFor(points);
+    Chart frame;
+    frame.from = history.from;
+    frame.to = history.to;
+    frame.gapAfter = gap;
+    frame.times = timeTicks(history.from, history.to, model.historyRange, TimeZone::current());
     const std::array<Chart, chartsShown> charts{
-        shareChart(points, history, range, {{"Average", &SysPoint::cpu}, {"Peak", &SysPoint::cpuMax}}),
-        shareChart(points, history, range, {{"In use", &SysPoint::mem}}),
-        rateChart(
-            points, history, range, {{"Read", &SysPoint::diskR}, {"Write", &SysPoint::diskW}}, Fmt::RateUnit::bytes),
-        rateChart(points, history, range, {{"Download", &SysPoint::netIn}, {"Upload", &SysPoint::netOut}}, unit)};
+        shareChart(points, frame, {{"Average", &SysPoint::cpu}, {"Peak", &SysPoint::cpuMax}}),
+        shareChart(points, frame, {{"In use", &SysPoint::mem}}),
+        rateChart(points, frame, {{"Read", &SysPoint::diskR}, {"Write", &SysPoint::diskW}}, Fmt::RateUnit::bytes),
+        rateChart(points, frame, {{"Download", &SysPoint::netIn}, {"Upload", &SysPoint::netOut}}, model.networkUnit())};
     for (size_t i = 0; i < charts.size(); ++i)
         m_chartViews[i]->draw(charts[i], appearance());
-    const double gap = gapFor(points);
     bool gaps = false;
     for (size_t i = 1; i < points.size(); ++i)
         gaps = gaps || points[i].t - points[i - 1].t > gap;

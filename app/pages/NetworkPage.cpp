@@ -42,7 +42,7 @@ void NetworkPage::showModel(const AppModel& model)
 {
     if (!model.frame)
         return;
-    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const auto unit = model.networkUnit();
     const auto& net = model.frame->system.net;
     m_rates->setText(
         QString::fromStdString("Down " + Fmt::rate(net.inRate, unit) + "  ·  Up " + Fmt::rate(net.outRate, unit)));

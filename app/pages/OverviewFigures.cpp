@@ -53,7 +53,7 @@ std::array<Dial, 6> overviewDials(const AppModel& model)
     if (!model.frame)
         return dials;
     const auto& system = model.frame->system;
-    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const auto unit = model.networkUnit();
     const double busy = system.cpu.user + system.cpu.system;
     dials[0] = {busy, share(model.peak(&RingSample::cpu)), model.strain(MenuItemKind::cpu), text(Fmt::percent(busy)),
         QStringLiteral("CPU")};

@@ -95,7 +95,7 @@ void OverviewPage::showModel(const AppModel& model)
     showToday(model);
     showAway(model);
     // The scale the settings ask for: a share of the whole machine, or of one core.
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto cores = model.cpuScaleCores();
     m_busiest->show(
         model, AppSort::cpu, busiestCount, [cores](const AppGroup& app) { return Fmt::cpu(app.cpu, cores); });
 }

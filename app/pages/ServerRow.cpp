@@ -35,7 +35,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, Appearance 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 6, 0, 6);
     layout->setSpacing(4);
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto cores = model.cpuScaleCores();
     const std::string title = server.name + "  " + portsOf(server);
     const std::string load = server.runtime + "  ·  CPU " + Fmt::cpu(server.cpu, cores) + "  ·  "
         + Fmt::memory(server.memory) + "  ·  process " + std::to_string(server.pid);

@@ -51,8 +51,8 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
     if (!model.frame)
         return {};
     const auto& system = model.frame->system;
-    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
+    const auto unit = model.networkUnit();
+    const auto cores = model.cpuScaleCores();
     switch (kind) {
     case MenuItemKind::cpu:
         return {{"User", qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
@@ -157,8 +157,8 @@ void MenuDropdown::showModel(const AppModel& model)
     m_traceCaption->setVisible(canGraph(m_kind));
 
     // The apps behind the reading, where there are per-app figures.
-    const auto cores = model.settings.cpuScale == CPUScale::mac ? std::optional(model.cores) : std::nullopt;
-    const auto unit = model.settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+    const auto cores = model.cpuScaleCores();
+    const auto unit = model.networkUnit();
     const bool battery = model.frame && model.frame->system.battery;
     QString note;
     switch (m_kind) {

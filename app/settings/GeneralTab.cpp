@@ -58,6 +58,11 @@ GeneralTab::GeneralTab(Appearance appearance, QWidget* parent)
     column()->addStretch(1);
 }
 
+unsigned GeneralTab::shows() const
+{
+    return AppModel::settingsChanged | AppModel::loginItemChanged;
+}
+
 void GeneralTab::showModel(const AppModel& model)
 {
     m_filling = true;

@@ -17,6 +17,7 @@ public:
     GeneralTab(Appearance appearance, QWidget* parent);
 
     void showModel(const AppModel& model) override;
+    [[nodiscard]] unsigned shows() const override;
 
     [[nodiscard]] ChoiceBox* interval() const { return m_interval; }
     [[nodiscard]] QRadioButton* perCore() const { return m_perCore; }

@@ -49,6 +49,11 @@ void HistoryTab::erase()
         model()->eraseHistory();
 }
 
+unsigned HistoryTab::shows() const
+{
+    return AppModel::settingsChanged | AppModel::totalsChanged | AppModel::storeErrorChanged;
+}
+
 void HistoryTab::showModel(const AppModel& model)
 {
     m_filling = true;

@@ -15,6 +15,7 @@ public:
     HistoryTab(Appearance appearance, QWidget* parent);
 
     void showModel(const AppModel& model) override;
+    [[nodiscard]] unsigned shows() const override;
 
     [[nodiscard]] ChoiceBox* keep() const { return m_keep; }
     [[nodiscard]] QString sizeText() const;

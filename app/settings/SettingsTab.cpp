@@ -10,22 +10,26 @@
 namespace vexel {
 
 SettingsTab::SettingsTab(Appearance appearance, QWidget* parent)
-    : QWidget(parent)
-    , m_appearance(appearance)
+    : Page(appearance, parent)
 {
     m_column = new QVBoxLayout(this);
     m_column->setContentsMargins(24, 20, 24, 20);
     m_column->setSpacing(10);
 }
 
+unsigned SettingsTab::shows() const
+{
+    return AppModel::settingsChanged;
+}
+
 void SettingsTab::change(const std::function<void(VexelSettings&)>& edit)
 {
-    if (m_filling || m_model == nullptr)
+    if (m_filling || model() == nullptr)
         return;
-    VexelSettings changed = m_model->settings;
+    VexelSettings changed = model()->settings;
     edit(changed);
-    if (changed != m_model->settings)
-        m_model->changeSettings(changed);
+    if (changed != model()->settings)
+        model()->changeSettings(changed);
 }
 
 QFormLayout* SettingsTab::section(const QString& heading, const QString& explanation)
@@ -36,7 +40,7 @@ QFormLayout* SettingsTab::section(const QString& heading, const QString& explana
     form->setHorizontalSpacing(14);
     m_column->addLayout(form);
     if (!explanation.isEmpty())
-        m_column->addWidget(Look::explanation(explanation, m_appearance, this));
+        m_column->addWidget(Look::explanation(explanation, appearance(), this));
     m_column->addSpacing(8);
     return form;
 }

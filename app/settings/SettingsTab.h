@@ -1,9 +1,7 @@
 #pragma once
 
-#include "Appearance.h"
+#include "pages/Page.h"
 #include "settings/VexelSettings.h"
-
-#include <QWidget>
 
 #include <functional>
 
@@ -13,20 +11,16 @@ class QVBoxLayout;
 
 namespace vexel {
 
-class AppModel;
-
-// One tab of the settings. It shows the model's settings and saves each
-// change at once through the model, which reschedules what depends on it.
-class SettingsTab : public QWidget {
+// One tab of the settings: a page that shows the model's settings and saves
+// each change at once through the model, which reschedules what depends on it.
+class SettingsTab : public Page {
 public:
     SettingsTab(Appearance appearance, QWidget* parent);
 
-    virtual void showModel(const AppModel& model) = 0;
-    void attach(AppModel& model) { m_model = &model; }
+    // The settings, by default: a tab that shows more says so.
+    [[nodiscard]] unsigned shows() const override;
 
 protected:
-    [[nodiscard]] Appearance appearance() const { return m_appearance; }
-    [[nodiscard]] AppModel* model() const { return m_model; }
     // Applies `edit` to a copy of the settings and saves it; nothing while
     // the tab itself is filling its controls from the model.
     void change(const std::function<void(VexelSettings&)>& edit);
@@ -39,8 +33,6 @@ protected:
     bool m_filling = false;
 
 private:
-    Appearance m_appearance;
-    AppModel* m_model = nullptr;
     QVBoxLayout* m_column = nullptr;
 };
 

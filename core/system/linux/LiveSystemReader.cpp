@@ -190,8 +190,9 @@ SystemSnapshot LiveSystemReader::read(double now)
         m_batteryAt = now;
     }
     snapshot.battery = m_battery;
-    snapshot.thermal = m_thermalReader.read(now);
+    // One reading of the sensors serves the temperatures shown and the thermal level.
     snapshot.sensors = m_sensorReader.read(now);
+    snapshot.thermal = m_thermalReader.read(now, snapshot.sensors.temperatures);
     return snapshot;
 }
 

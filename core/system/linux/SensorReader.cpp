@@ -46,9 +46,11 @@ void SensorReader::discover(double now)
         std::sort(names.begin(), names.end(), byNumber);
         for (const auto& name : names) {
             const std::string stem = name.substr(0, name.size() - 6);
-            const auto label = Files::readValue(base + "/" + stem + "_label");
-            m_inputs.push_back(
-                {chip, label.empty() ? stem : label, base + "/" + name, base + "/" + stem, name.starts_with("fan")});
+            const std::string path = base + "/" + stem;
+            const auto label = Files::readValue(path + "_label");
+            const bool fan = name.starts_with("fan");
+            m_inputs.push_back({chip, label.empty() ? stem : label, base + "/" + name, fan,
+                fan ? std::nullopt : celsiusAt(path + "_max"), fan ? std::nullopt : celsiusAt(path + "_crit")});
         }
     }
     // A zone that a chip of its own name already reports would be counted twice.
@@ -56,7 +58,8 @@ void SensorReader::discover(double now)
         const auto type = Files::readValue(zone + "/type");
         if (type.empty() || chips.contains(type) || Files::readValue(zone + "/mode") == "disabled")
             continue;
-        m_inputs.push_back({type, "zone " + zone.substr(zone.rfind("thermal_zone") + 12), zone + "/temp", "", false});
+        m_inputs.push_back({type, "zone " + zone.substr(zone.rfind("thermal_zone") + 12), zone + "/temp", false,
+            std::nullopt, std::nullopt});
     }
 }
 
@@ -74,12 +77,7 @@ SensorStats SensorReader::read(double now)
         const auto celsius = celsiusAt(input.path);
         if (!celsius || *celsius <= coldest || *celsius >= hottest)
             continue;
-        Temperature temperature{input.chip, input.label, *celsius, std::nullopt, std::nullopt};
-        if (!input.stem.empty()) {
-            temperature.high = celsiusAt(input.stem + "_max");
-            temperature.critical = celsiusAt(input.stem + "_crit");
-        }
-        stats.temperatures.push_back(std::move(temperature));
+        stats.temperatures.push_back({input.chip, input.label, *celsius, input.high, input.critical});
     }
     return stats;
 }

@@ -26,8 +26,9 @@ private:
         std::string chip;
         std::string label;
         std::string path; // the value's file
-        std::string stem; // the file's name before "_input": "temp2", "fan1"
         bool fan = false;
+        std::optional<double> high; // a chip's limits are fixed: read when found
+        std::optional<double> critical;
     };
 
     void discover(double now);

@@ -54,19 +54,6 @@ void ThermalReader::discover(double now)
     const std::string thermal = m_roots.sys + "/class/thermal";
     m_zones = entriesWithPrefix(thermal, "thermal_zone");
     m_coolingDevices = entriesWithPrefix(thermal, "cooling_device");
-    m_sensors.clear();
-    for (const auto& [chip, base] : hwmonChips(m_roots.sys)) {
-        if (!isCpuSensorChip(chip))
-            continue;
-        for (const auto& name : Files::list(base)) {
-            if (!name.starts_with("temp") || !name.ends_with("_input"))
-                continue;
-            const std::string stem = base + "/" + name.substr(0, name.size() - 6);
-            const auto label = Files::readValue(stem + "_label");
-            const bool package = label.starts_with("Package") || label == "Tctl" || label == "Tdie";
-            m_sensors.push_back({stem + "_input", stem + "_max", stem + "_crit", package});
-        }
-    }
     m_throttleFolders.clear();
     std::set<std::string> packages;
     for (const auto& cpu : entriesWithPrefix(m_roots.sys + "/devices/system/cpu", "cpu")) {
@@ -101,7 +88,7 @@ ThermalRule::Throttling ThermalReader::throttling(double now)
     return result;
 }
 
-ThermalRule::Inputs ThermalReader::inputs(double now)
+ThermalRule::Inputs ThermalReader::inputs(double now, const std::vector<Temperature>& temperatures)
 {
     if (!m_discoveredAt || now < *m_discoveredAt || now - *m_discoveredAt > rediscoverSeconds)
         discover(now);
@@ -115,17 +102,19 @@ ThermalRule::Inputs ThermalReader::inputs(double now)
         inputs.coolingDevices.push_back(
             {Files::readValue(device + "/type"), static_cast<long long>(state.value_or(0))});
     }
-    for (const auto& sensor : m_sensors) {
-        if (const auto value = celsius(sensor.input))
-            inputs.cpuSensors.push_back({*value, celsius(sensor.max), celsius(sensor.crit), sensor.package});
+    for (const auto& t : temperatures) {
+        if (!isCpuSensorChip(t.chip))
+            continue;
+        const bool package = t.label.starts_with("Package") || t.label == "Tctl" || t.label == "Tdie";
+        inputs.cpuSensors.push_back({t.celsius, t.high, t.critical, package});
     }
     inputs.throttling = throttling(now);
     return inputs;
 }
 
-ThermalLevel ThermalReader::read(double now)
+ThermalLevel ThermalReader::read(double now, const std::vector<Temperature>& temperatures)
 {
-    return m_stepper.next(ThermalRule::judge(inputs(now)));
+    return m_stepper.next(ThermalRule::judge(inputs(now, temperatures)));
 }
 
 } // namespace vexel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "system/SensorStats.h"
 #include "system/ThermalLevel.h"
 #include "system/linux/LinuxRoots.h"
 #include "system/linux/ThermalRule.h"
@@ -10,8 +11,9 @@
 
 namespace vexel {
 
-// Gathers thermal zones, processor cooling devices, CPU temperature sensors
-// and Intel throttle counters from sysfs and judges the thermal level.
+// Gathers thermal zones, processor cooling devices and Intel throttle
+// counters from sysfs and, with the CPU's temperatures the sensor reader
+// has taken, judges the thermal level.
 class ThermalReader {
 public:
     explicit ThermalReader(const LinuxRoots& roots)
@@ -20,19 +22,12 @@ public:
     }
 
     // The smoothed level at `now`; nominal when nothing can be read.
-    [[nodiscard]] ThermalLevel read(double now);
+    [[nodiscard]] ThermalLevel read(double now, const std::vector<Temperature>& temperatures);
 
-    // The raw inputs of one reading, for tests and for showing temperatures.
-    [[nodiscard]] ThermalRule::Inputs inputs(double now);
+    // The raw inputs of one reading.
+    [[nodiscard]] ThermalRule::Inputs inputs(double now, const std::vector<Temperature>& temperatures);
 
 private:
-    struct Sensor {
-        std::string input;
-        std::string max;
-        std::string crit;
-        bool package = false;
-    };
-
     void discover(double now);
     [[nodiscard]] ThermalRule::Throttling throttling(double now);
 
@@ -40,7 +35,6 @@ private:
     std::optional<double> m_discoveredAt;
     std::vector<std::string> m_zones;
     std::vector<std::string> m_coolingDevices;
-    std::vector<Sensor> m_sensors;
     std::vector<std::string> m_throttleFolders; // one per physical package
     std::optional<double> m_lastThrottleCount;
     std::optional<double> m_lastThrottleMs;
