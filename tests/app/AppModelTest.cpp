@@ -43,9 +43,7 @@ TEST(AppModel, TicksRunOnTheSamplerThreadAndNeverOverlap)
     EXPECT_EQ(demo.model->ring.samples().size(), 1u);
     EXPECT_FALSE(changes.isEmpty());
     EXPECT_TRUE(changes.last().at(0).toUInt() & AppModel::frameChanged);
-    demo.now += 2;
-    demo.model->refresh(false);
-    demo.settle();
+    demo.ticks(1);
     EXPECT_EQ(demo.readings, 2);
     EXPECT_EQ(demo.model->ring.samples().size(), 2u);
     EXPECT_EQ(demo.model->tickSeconds(), 5); // hidden: the settings' interval
@@ -68,13 +66,7 @@ TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
 TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
 {
     DemoModel demo;
-    demo.model->refresh(true);
-    demo.settle();
-    for (int i = 1; i <= 40; ++i) {
-        demo.now += 2;
-        demo.model->refresh(false);
-        demo.settle();
-    }
+    demo.ticks(41, true);
     demo.model->loadHistorySync();
     ASSERT_TRUE(demo.model->history);
     EXPECT_FALSE(demo.model->history->points.empty());
@@ -147,8 +139,7 @@ TEST(AppModel, LoginItemAndLastSeen)
 TEST(AppModel, TheWindowAsksAndToasts)
 {
     DemoModel demo;
-    demo.model->refresh(true);
-    demo.settle();
+    demo.ticks(1, true);
     MainWindow window(Appearance::light);
     window.bind(*demo.model);
     window.show();
@@ -223,8 +214,7 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
 TEST(AppModel, StrainedPicturesSeeTheWorldUnderLoad)
 {
     DemoModel demo;
-    demo.model->refresh(true);
-    demo.settle();
+    demo.ticks(1, true);
     EXPECT_EQ(demo.model->strain(MenuItemKind::thermal), Strain::calm);
     EXPECT_EQ(demo.model->strain(MenuItemKind::memory), Strain::calm);
     strainDemoWorld(demo.world, *demo.model);
@@ -242,11 +232,7 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     OverviewPage page(Appearance::light, nullptr);
     page.showModel(*demo.model);
     EXPECT_TRUE(page.waitingForFirstReading());
-    demo.model->refresh(true);
-    demo.settle();
-    demo.now += 2; // the second frame has rates
-    demo.model->refresh(false);
-    demo.settle();
+    demo.ticks(2, true); // the second frame has rates
     page.showModel(*demo.model);
     EXPECT_FALSE(page.waitingForFirstReading());
     const auto& system = demo.model->frame->system;

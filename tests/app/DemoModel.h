@@ -57,6 +57,24 @@ struct DemoModel {
     {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !model->busy(); }, 10000));
     }
+
+    // `count` ticks two seconds apart, each waited for; the first full when asked.
+    void ticks(int count, bool firstFull = false)
+    {
+        for (int tick = 0; tick < count; ++tick) {
+            now += 2;
+            model->refresh(firstFull && tick == 0);
+            settle();
+        }
+    }
 };
+
+// A demo model with `ticks` frames in, the first full.
+inline std::unique_ptr<DemoModel> readDemoModel(Platform platform = Platform::macOS, int ticks = 1)
+{
+    auto demo = std::make_unique<DemoModel>(std::function<void(VexelSettings&)>{}, platform);
+    demo->ticks(ticks, true);
+    return demo;
+}
 
 } // namespace vexel::testing

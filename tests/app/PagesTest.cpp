@@ -21,13 +21,20 @@ using vexel::testing::DemoModel;
 
 namespace {
 
-// A model with its first frame in.
-std::unique_ptr<DemoModel> readModel(Platform platform = Platform::macOS)
+auto readModel(Platform platform = Platform::macOS)
 {
-    auto demo = std::make_unique<DemoModel>(std::function<void(VexelSettings&)>{}, platform);
-    demo->model->refresh(true);
-    demo->settle();
-    return demo;
+    return vexel::testing::readDemoModel(platform);
+}
+
+// A page that acts on the model and follows its every change, as in the window.
+template <typename Page> std::unique_ptr<Page> follow(AppModel& model)
+{
+    auto page = std::make_unique<Page>(Appearance::light, nullptr);
+    page->attach(model);
+    QObject::connect(
+        &model, &AppModel::changed, page.get(), [&model, raw = page.get()](unsigned) { raw->showModel(model); });
+    page->showModel(model);
+    return page;
 }
 
 const AppGroup& appNamed(const AppModel& model, const std::string& name)
@@ -43,10 +50,8 @@ TEST(AppsPage, SearchFindsTheOwnerOfAPidAndNothingForNonsense)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    AppsPage page(Appearance::light, nullptr);
-    page.attach(model);
-    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
-    page.showModel(model);
+    const auto shown = follow<AppsPage>(model);
+    auto& page = *shown;
     EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame->apps.size()));
 
     // A helper's PID finds the app that owns it, not a process row.
@@ -67,10 +72,8 @@ TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    AppsPage page(Appearance::light, nullptr);
-    page.attach(model);
-    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
-    page.showModel(model);
+    const auto shown = follow<AppsPage>(model);
+    auto& page = *shown;
     EXPECT_FALSE(page.inspectorShown());
 
     // Selecting a row selects its app in the model and opens the inspector.
@@ -182,11 +185,7 @@ TEST(Pages, DevelopersInViewReadsContainersAndLeavingStopsThem)
     QObject::connect(&model, &AppModel::changed, [&seen](unsigned what) { seen |= what; });
     const auto ticks = [&](int count) {
         seen = 0;
-        for (int i = 0; i < count; ++i) {
-            demo->now += 2;
-            model.refresh(false);
-            demo->settle();
-        }
+        demo->ticks(count);
     };
     ticks(10); // 20 s on Overview
     EXPECT_FALSE(seen & AppModel::dockerChanged);
@@ -223,11 +222,7 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
     EXPECT_EQ(page.emptyState(), QStringList{"No samples yet for this range."});
 
     // With samples the charts show, and without spikes the list says nothing was unusual.
-    for (int tick = 0; tick < 3; ++tick) {
-        demo->now += 2;
-        model.refresh(false);
-        demo->settle();
-    }
+    demo->ticks(3);
     model.loadHistorySync();
     page.showModel(model);
     EXPECT_TRUE(page.emptyState().isEmpty());
@@ -254,10 +249,8 @@ TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    OverviewPage page(Appearance::light, nullptr);
-    page.attach(model);
-    QObject::connect(&model, &AppModel::changed, &page, [&](unsigned) { page.showModel(model); });
-    page.showModel(model);
+    const auto shown = follow<OverviewPage>(model);
+    auto& page = *shown;
     EXPECT_TRUE(page.awayLines().isEmpty());
     model.awaySince = demo->now - 3600;
     model.awaySpikes

@@ -12,7 +12,6 @@
 #include "settings/ChoiceBox.h"
 #include "settings/DeveloperTab.h"
 #include "settings/GeneralTab.h"
-#include "settings/HistoryTab.h"
 #include "settings/PanelTab.h"
 #include "settings/SettingsWindow.h"
 
@@ -45,8 +44,7 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
 {
     DemoModel demo;
     auto& model = *demo.model;
-    model.refresh(true);
-    demo.settle();
+    demo.ticks(1, true);
     SettingsWindow settings(Appearance::light, nowhere());
     settings.bind(model);
     EXPECT_EQ(settings.tabTitles(), (QStringList{"General", "Menu Bar", "Alerts", "History", "Developer"}));
@@ -98,21 +96,6 @@ TEST(Settings, PanelItemsReorderSwitchAndRestore)
     EXPECT_EQ(model.settings.menuItems[6].kind, MenuItemKind::gpu);
     panel.restoreDefaults();
     EXPECT_EQ(model.settings.menuItems, defaultMenuItems());
-}
-
-TEST(Settings, EraseHistoryAsksFirst)
-{
-    DemoModel demo;
-    auto& model = *demo.model;
-    SettingsWindow settings(Appearance::light, nowhere());
-    settings.bind(model);
-    auto& history = tabOf<HistoryTab>(settings, SettingsWindow::Tab::history);
-    history.erase();
-    ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title, "Erase all history?");
-    EXPECT_TRUE(model.confirm->destructive);
-    model.cancelPending();
-    EXPECT_FALSE(model.confirm);
 }
 
 TEST(CommandLineSetup, LinksTheCommandIntoTheUsersBin)
@@ -170,8 +153,7 @@ TEST(VexelCommands, EveryRouteWithItsShortcutThenTheTwoCommands)
 {
     DemoModel demo;
     auto& model = *demo.model;
-    model.refresh(true);
-    demo.settle();
+    demo.ticks(1, true);
     MainWindow window(Appearance::light);
     window.bind(model);
     int opened = 0;

@@ -8,6 +8,7 @@
 #include "../app/DemoModel.h"
 #include "panel/MenuBarController.h"
 #include "support/ChildProcess.h"
+#include "support/GoldenImage.h"
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
 
@@ -155,17 +156,12 @@ TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
     // The model's own timer waits an hour: the pictures stay those of the three ticks below.
     DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 3600; });
     auto& model = *demo.model;
-    for (int tick = 0; tick < 3; ++tick) {
-        demo.now += 2;
-        model.refresh(tick == 0);
-        demo.settle();
-    }
+    demo.ticks(3, true);
     auto settings = model.settings;
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
-    int opened = 0;
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[&opened] { ++opened; }, [] {}});
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}});
     panel.start();
 
     // All seven, in the configured order.
@@ -186,16 +182,7 @@ TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
         return !photo.isNull() && photo == previous && rightmostInk(photo) > 150;
     })) << "the panel never showed seven items; rightmost ink at "
         << rightmostInk(photo);
-    if (const char* update = std::getenv("VEXEL_UPDATE_GOLDEN"); update && std::string(update) == "1") {
-        std::filesystem::create_directories(goldenFile.parent_path());
-        ASSERT_TRUE(photo.save(QString::fromStdString(goldenFile.string())));
-    }
-    const QImage golden = QImage(QString::fromStdString(goldenFile.string())).convertToFormat(QImage::Format_RGB32);
-    ASSERT_FALSE(golden.isNull()) << "missing " << goldenFile;
-    EXPECT_EQ(photo, golden) << "the panel's photograph differs from " << goldenFile << "; it is kept as "
-                             << (folder.path() / "panel.png") << " while the test runs";
-    if (photo != golden)
-        photo.save(QStringLiteral("/tmp/vexel-panel-photo.png"));
+    vexel::testing::expectGoldenImage(photo, goldenFile);
 
     // Reordered: re-created in the new order.
     std::swap(settings.menuItems[0], settings.menuItems[2]);
