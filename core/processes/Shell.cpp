@@ -123,7 +123,17 @@ Spawned spawn(const std::string& path, const std::vector<std::string>& args,
         setup.check(posix_spawn_file_actions_addclose(&setup.actions, fd));
     // A process group of its own, so that a time-out ends the tool's children too.
     setup.check(posix_spawnattr_setpgroup(&setup.attributes, 0));
-    setup.check(posix_spawnattr_setflags(&setup.attributes, POSIX_SPAWN_SETPGROUP));
+    // Nothing blocked and nothing ignored: the desktop app blocks its stop
+    // signals in every thread to take them from a signalfd, and both the mask
+    // and ignored signals survive exec, so a tool would not hear the time-out.
+    sigset_t none;
+    sigemptyset(&none);
+    setup.check(posix_spawnattr_setsigmask(&setup.attributes, &none));
+    sigset_t every;
+    sigfillset(&every);
+    setup.check(posix_spawnattr_setsigdefault(&setup.attributes, &every));
+    setup.check(posix_spawnattr_setflags(
+        &setup.attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF));
     if (setup.failure != 0)
         return {-1, setup.failure};
     std::vector<std::string> argv{path};

@@ -153,6 +153,33 @@ TEST(Shell, ATimeOutEndsTheToolAndItsChildren)
     EXPECT_TRUE(ends(ignored[0], 30)) << "a tool that ignores SIGTERM is killed";
 }
 
+// The app blocks SIGTERM, SIGINT and SIGHUP in every thread (they are taken
+// from a signalfd) and may ignore others; a tool it starts must get neither,
+// or a time-out's SIGTERM would go unheard and every time-out wait for the kill.
+TEST(Shell, ToolsStartWithNoSignalBlockedOrIgnored)
+{
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        sigaddset(&blocked, signal);
+    sigset_t before;
+    ASSERT_EQ(::pthread_sigmask(SIG_BLOCK, &blocked, &before), 0);
+    const auto previousPipe = std::signal(SIGPIPE, SIG_IGN);
+    const auto status = Shell::run("/usr/bin/grep", {"-E", "^Sig(Blk|Ign):", "/proc/self/status"}, 10);
+    std::signal(SIGPIPE, previousPipe);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    ASSERT_TRUE(status.output) << status.error;
+    // The tool reports its own masks, in hexadecimal, bit n-1 for signal n.
+    // (glibc leaves its own two thread signals, 32 and 33, ignored in every
+    // child it spawns; no tool uses them.)
+    const auto mask = [&](const std::string& name) {
+        const auto at = status->find(name + ":\t");
+        return at == std::string::npos ? ~0ULL : std::stoull(status->substr(at + name.size() + 2, 16), nullptr, 16);
+    };
+    EXPECT_EQ(mask("SigBlk"), 0U) << *status;
+    EXPECT_EQ(mask("SigIgn") & 0x7fffffffULL, 0U) << *status;
+}
+
 TEST(Shell, FindsToolsInTheUsualFolders)
 {
     EXPECT_EQ(Shell::find("sh"), "/usr/bin/sh");
