@@ -4,8 +4,9 @@
 
 namespace vexel {
 
-// SIGTERM (the session ending, systemd stopping a unit) and SIGINT (Ctrl-C):
-// both end Vexel the ordinary way, with the waiting minute of history written.
+// SIGTERM (the session ending, systemd stopping a unit), SIGINT (Ctrl-C) and
+// SIGHUP (the terminal it was started from closing): each ends Vexel the
+// ordinary way, with the waiting minute of history written.
 // Blocked before any thread starts, so that they wait to be taken where the
 // program looks for them (sigtimedwait, a signalfd) instead of killing it.
 [[nodiscard]] sigset_t stopSignals();

@@ -360,8 +360,9 @@ TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
 }
 
 // The headless recorder for real: it says where it records, a second one
-// refuses to write beside it, and on SIGTERM it writes what was waiting and
-// saves when it last ran, so that `vexel history` reads the recording back.
+// refuses to write beside it, and on SIGHUP (its terminal closing; SIGTERM
+// and SIGINT are the same signals to it) it writes what was waiting and saves
+// when it last ran, so that `vexel history` reads the recording back.
 TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
 {
     TempFolder data("vexel-live");
@@ -383,7 +384,7 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     const auto started = std::chrono::steady_clock::now();
     ASSERT_EQ(::waitpid(recorder.pid(), nullptr, WNOHANG), 0);
     std::this_thread::sleep_for(std::chrono::milliseconds(3500));
-    const int status = recorder.stop(SIGTERM);
+    const int status = recorder.stop(SIGHUP);
     ASSERT_TRUE(WIFEXITED(status)) << status;
     EXPECT_EQ(WEXITSTATUS(status), 0);
     EXPECT_EQ(recorder.readLine(), "Stopped recording.");
@@ -400,8 +401,8 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
 // The desktop app for real, on a virtual display, records at its window's
 // cadence: every 2 s with the window open, and at the settings' interval
 // when started with --hidden at login (no status area there, so the window
-// waits minimised in the taskbar). SIGTERM quits it the ordinary way, writing
-// what was waiting and saving when it last ran.
+// waits minimised in the taskbar). SIGTERM, or SIGHUP, quits it the
+// ordinary way, writing what was waiting and saving when it last ran.
 TEST(CliLive, TheDesktopAppRecordsAtItsWindowsCadenceAndQuitsOnSigterm)
 {
     for (const bool hidden : {false, true}) {
@@ -425,7 +426,7 @@ TEST(CliLive, TheDesktopAppRecordsAtItsWindowsCadenceAndQuitsOnSigterm)
         }
         ASSERT_TRUE(pid) << "the app never took the recorder's lock";
         std::this_thread::sleep_for(std::chrono::milliseconds(6800)); // two or three ticks either way
-        ASSERT_EQ(::kill(static_cast<pid_t>(*pid), SIGTERM), 0);
+        ASSERT_EQ(::kill(static_cast<pid_t>(*pid), hidden ? SIGHUP : SIGTERM), 0);
         const int status = display.wait();
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
         const HistoryStore stored(data.path() / "history.sqlite", HistoryAccess::readOnly);
