@@ -21,6 +21,7 @@
 #include <QSystemTrayIcon>
 
 #include <csignal>
+#include <iostream>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -87,7 +88,7 @@ AppModel::Setup liveSetup(const VexelPaths& paths, const RecorderLock& lock)
             if (why)
                 sampler->setOpenError(*why);
             else if (error)
-                sampler->setOpenError("Couldn't open the history: " + *error);
+                sampler->setOpenError(*error);
             return sampler;
         },
         std::make_unique<LiveActions>(), currentTime, static_cast<uint32_t>(::geteuid()),
@@ -128,6 +129,9 @@ int runDesktopApp(int& argc, char** argv)
     // shows the history without writing beside it.
     const RecorderLock lock(paths.dir);
     AppModel model(liveSetup(paths, lock));
+    // What of the settings could not be used goes to the journal too.
+    for (const auto& notice : model.notices)
+        std::cerr << notice << "\n";
     MainWindow window(systemAppearance());
     window.bind(model);
     SettingsWindow settings(systemAppearance(), commandLinePlaces());

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "ConfirmSheet.h"
+#include "NoticeBanner.h"
 #include "SidebarDelegate.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
@@ -40,9 +41,14 @@ MainWindow::MainWindow(Appearance appearance, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(buildSidebar(appearance));
+    auto* content = new QVBoxLayout;
+    content->setSpacing(0);
+    m_banner = new NoticeBanner(appearance, this);
+    content->addWidget(m_banner);
     m_pages = new QStackedWidget(this);
     buildPages(appearance);
-    layout->addWidget(m_pages, 1);
+    content->addWidget(m_pages, 1);
+    layout->addLayout(content, 1);
     connect(this, &MainWindow::routeChanged, this,
         [this](Route route) { m_pages->setCurrentIndex(static_cast<int>(route)); });
     m_sheet = new ConfirmSheet(appearance, this);
@@ -94,7 +100,12 @@ void MainWindow::bind(AppModel& model)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)
             m_toast->show(model.toast);
+        if (what & (AppModel::storeErrorChanged | AppModel::noticesChanged))
+            m_banner->show(model.storeError, model.notices);
     });
+    m_banner->show(model.storeError, model.notices);
+    connect(m_banner, &NoticeBanner::noticeClosed, &model,
+        [&model](int index) { model.dismissNotice(static_cast<size_t>(index)); });
     connect(m_sheet, &ConfirmSheet::confirmed, &model, &AppModel::confirmPending);
     connect(m_sheet, &ConfirmSheet::cancelled, &model, &AppModel::cancelPending);
     connect(m_toast, &ToastBar::closed, &model, &AppModel::dismissToast);

@@ -16,6 +16,7 @@ namespace vexel {
 
 class AppModel;
 class ConfirmSheet;
+class NoticeBanner;
 class OverviewPage;
 class Page;
 class ToastBar;
@@ -44,6 +45,7 @@ public:
     void bind(AppModel& model);
     [[nodiscard]] ConfirmSheet* sheet() const { return m_sheet; }
     [[nodiscard]] ToastBar* toast() const { return m_toast; }
+    [[nodiscard]] NoticeBanner* banner() const { return m_banner; }
     [[nodiscard]] OverviewPage* overview() const;
 
 signals:
@@ -58,6 +60,7 @@ private:
     std::vector<Page*> m_routePages; // in the sidebar's order
     ConfirmSheet* m_sheet = nullptr;
     ToastBar* m_toast = nullptr;
+    NoticeBanner* m_banner = nullptr;
 };
 
 } // namespace vexel

@@ -38,7 +38,6 @@ AppModel::AppModel(Setup setup)
     , m_observesVisibility(setup.observesVisibility)
     , m_actions(std::move(setup.actions))
 {
-    settings = VexelSettings::load(m_paths.settings());
     ActionFlow::Hooks hooks{[this](ConfirmRequest request) {
                                 confirm = std::move(request);
                                 notify(confirmChanged);
@@ -56,7 +55,10 @@ AppModel::AppModel(Setup setup)
         }};
     m_flow = std::make_unique<ActionFlow>(*m_actions, std::move(hooks), setup.myUID, setup.myPid);
     m_sampler = std::make_unique<SamplerThread>(std::move(setup.buildSampler));
+    // The settings are read on the sampler's thread, with the sampler, before the window shows.
     m_sampler->run([this](Sampler& sampler) {
+        settings = sampler.settingsFile().settings();
+        notices = sampler.settingsFile().messages();
         if (sampler.openError())
             m_openError = *sampler.openError();
     });
@@ -75,7 +77,7 @@ void AppModel::start()
     if (!settings.onboarded) {
         firstLaunch = true;
         settings.onboarded = true;
-        saveSettings();
+        saveSettings(SettingsFile::Saving::automatic);
     }
     refresh(true);
     schedule();
@@ -97,7 +99,7 @@ void AppModel::setWindowVisible(bool visible)
         refresh(true);
     } else {
         settings.lastSeen = m_clock();
-        saveSettings();
+        saveSettings(SettingsFile::Saving::automatic);
     }
     schedule();
 }
@@ -105,7 +107,7 @@ void AppModel::setWindowVisible(bool visible)
 void AppModel::changeSettings(const VexelSettings& changed)
 {
     settings = changed;
-    saveSettings();
+    saveSettings(SettingsFile::Saving::userChange);
     notify(settingsChanged);
     schedule();
 }
@@ -114,17 +116,26 @@ void AppModel::shutdown()
 {
     m_timer.stop();
     settings.lastSeen = m_clock();
-    saveSettings();
+    // Written before the sampler's thread stops: its work runs in order.
+    saveSettings(SettingsFile::Saving::automatic);
 }
 
-void AppModel::saveSettings()
+void AppModel::saveSettings(SettingsFile::Saving saving)
 {
-    try {
-        settings.save(m_paths.settings());
-    } catch (const std::exception& failure) {
-        toast = std::string("Couldn't save the settings: ") + failure.what();
-        notify(toastChanged);
-    }
+    m_sampler->post<std::optional<std::string>>(
+        [saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); }, this,
+        [this](std::optional<std::string> said) {
+            if (said)
+                tell(std::move(*said));
+        });
+}
+
+void AppModel::dismissNotice(size_t index)
+{
+    if (index >= notices.size())
+        return;
+    notices.erase(notices.begin() + static_cast<long>(index));
+    notify(noticesChanged);
 }
 
 void AppModel::setRoute(Route next)

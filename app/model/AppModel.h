@@ -46,6 +46,7 @@ public:
         visibilityChanged = 1U << 11,
         loginItemChanged = 1U << 12,
         selectionChanged = 1U << 13,
+        noticesChanged = 1U << 14,
     };
 
     struct Setup {
@@ -85,6 +86,9 @@ public:
     std::optional<ConfirmRequest> confirm;
     std::optional<std::string> toast;
     std::optional<std::string> storeError;
+    // What the app has to say until the user closes it: the values of the
+    // settings file it could not use, or why it could not read the file.
+    std::vector<std::string> notices;
     RecentRing ring;
     bool windowVisible = false;
     int cores = 1;
@@ -113,6 +117,7 @@ public:
     void confirmPending();
     void cancelPending();
     void dismissToast();
+    void dismissNotice(size_t index);
     // Shows a toast of the app's own (what it could not do at start).
     void tell(std::string text);
     [[nodiscard]] ActionFlow& actions() { return *m_flow; }
@@ -161,7 +166,9 @@ signals:
 private:
     void schedule();
     void apply(TickResult result);
-    void saveSettings();
+    // Saves on the sampler's thread; a failure, or what became of an
+    // unreadable file at the user's change, comes back as a toast.
+    void saveSettings(SettingsFile::Saving saving);
     void notify(unsigned what) { emit changed(what); }
 
     VexelPaths m_paths;

@@ -1,5 +1,6 @@
 #include "model/Cadence.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace vexel {
@@ -27,7 +28,13 @@ int64_t capBytes(int megabytes)
 
 double Cadence::tickSeconds(bool windowVisible, const VexelSettings& settings)
 {
-    return windowVisible ? 2.0 : settings.sampleSeconds;
+    if (windowVisible)
+        return 2.0;
+    // Loaded settings are in range already; a value set in code is held to it
+    // too, since no interval at all would spin a core.
+    const double seconds = settings.sampleSeconds;
+    return seconds >= VexelSettings::shortestSample ? std::min(seconds, VexelSettings::longestSample)
+                                                    : VexelSettings::shortestSample;
 }
 
 bool Cadence::take(std::optional<double>& last, double now, double interval, bool full)

@@ -20,7 +20,8 @@ public:
         Route route = Route::overview;
     };
 
-    // Seconds between ticks: 2 while the window is visible, else the settings' interval.
+    // Seconds between ticks: 2 while the window is visible, else the settings'
+    // interval, held to 1 to 3600.
     [[nodiscard]] static double tickSeconds(bool windowVisible, const VexelSettings& settings);
 
     // The plan of a tick at `now`, marking what it schedules as taken then.

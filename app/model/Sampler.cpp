@@ -5,6 +5,7 @@
 #include "spikes/SpikeFinder.h"
 
 #include <exception>
+#include <limits>
 
 namespace vexel {
 
@@ -28,6 +29,7 @@ Sampler::Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore>
     , m_store(std::move(store))
     , m_paths(std::move(paths))
     , m_zone(zone)
+    , m_settings(SettingsFile::load(m_paths.settings()))
     , m_log(ActivityLog::load(m_paths.activity()))
     , m_savedLog(m_log)
 {
@@ -37,10 +39,12 @@ std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::o
 {
     try {
         return std::make_unique<HistoryStore>(paths.history(), HistoryAccess::readWrite);
+    } catch (const HistoryError& failure) {
+        error = failure.what(); // "Couldn't open the history: …" already
     } catch (const std::exception& failure) {
-        error = failure.what();
-        return nullptr;
+        error = std::string("Couldn't open the history: ") + failure.what();
     }
+    return nullptr;
 }
 
 TickResult Sampler::tick(double now, const TickPlan& plan)
@@ -78,10 +82,15 @@ void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
     if (!m_store)
         return;
     try {
+        // Limits that stand in for what the user wrote (a settings file that
+        // couldn't be read as written) roll history up but expire and trim
+        // nothing: the user may have asked to keep more.
+        const bool trusted = m_settings.historyLimitsTrusted();
+        m_store->maxBytes = trusted ? plan.maxBytes : std::numeric_limits<int64_t>::max();
+        const int retentionDays = trusted ? plan.retentionDays : std::numeric_limits<int>::max();
         // What compaction rolls up includes the minute still waiting, written
         // in the compaction's own transaction.
-        m_store->maxBytes = plan.maxBytes;
-        m_batch.writeTo(*m_store, [&] { m_store->compact(now, plan.retentionDays); });
+        m_batch.writeTo(*m_store, [&] { m_store->compact(now, retentionDays); });
         m_store->vacuum();
         result.historyBytes = m_store->usedBytes();
     } catch (const std::exception& failure) {
@@ -142,6 +151,19 @@ Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const Sp
     result.spikes = SpikeFinder::find(result.points, result.apps, rules);
     result.first = m_store->firstSample();
     return result;
+}
+
+std::optional<std::string> Sampler::saveSettings(const VexelSettings& settings, SettingsFile::Saving saving)
+{
+    try {
+        const auto outcome = m_settings.save(settings, saving);
+        // Vexel's own bookkeeping left a broken file alone: that was said when it was read.
+        if (saving == SettingsFile::Saving::automatic || outcome.note.empty())
+            return std::nullopt;
+        return outcome.note;
+    } catch (const std::exception& failure) {
+        return std::string("Couldn't save the settings: ") + failure.what();
+    }
 }
 
 void Sampler::flush()

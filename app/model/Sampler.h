@@ -7,6 +7,7 @@
 #include "model/TickPlan.h"
 #include "model/TickResult.h"
 #include "monitor/Monitor.h"
+#include "settings/SettingsFile.h"
 #include "settings/VexelPaths.h"
 #include "spikes/Spike.h"
 #include "spikes/SpikeRules.h"
@@ -19,9 +20,9 @@
 namespace vexel {
 
 // Does the slow work of the desktop app and the recorder: samples the
-// machine, keeps history, scans ports and containers. Everything it owns (the
-// monitor, the store, the activity log) is touched by one thread only, the
-// one that calls it.
+// machine, keeps history, scans ports and containers, reads and saves the
+// settings. Everything it owns (the monitor, the store, the activity log, the
+// settings file) is touched by one thread only, the one that calls it.
 class Sampler {
 public:
     // A loaded range of history with its spikes.
@@ -35,11 +36,13 @@ public:
     };
 
     // `store` is absent when the history could not be opened or another
-    // process records it: then nothing is recorded, and `setOpenError` says why.
+    // process records it: then nothing is recorded, and `setOpenError` says
+    // why. The settings file of `paths` is read here.
     Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore> store, VexelPaths paths,
         TimeZone zone = TimeZone::current());
 
-    // Opens the history of `paths` for writing; the reason when it cannot.
+    // Opens the history of `paths` for writing; when it cannot, the reason,
+    // in a sentence for the user ("Couldn't open the history: …").
     static std::unique_ptr<HistoryStore> openStore(const VexelPaths& paths, std::optional<std::string>& error);
 
     // Called before each reading (the demo world advances its clock there).
@@ -51,6 +54,13 @@ public:
     void flush();
     // Forgets every stored point.
     void erase();
+
+    // The settings file as this run found it.
+    [[nodiscard]] const SettingsFile& settingsFile() const { return m_settings; }
+    // Saves the settings (SettingsFile::save); what to tell the user: a
+    // failure, or, for the user's own change, what became of a file that
+    // could not be read. Nothing when there is nothing to say.
+    [[nodiscard]] std::optional<std::string> saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
 
     [[nodiscard]] bool recording() const { return m_store != nullptr; }
     [[nodiscard]] const std::optional<std::string>& openError() const { return m_openError; }
@@ -67,6 +77,7 @@ private:
     std::unique_ptr<HistoryStore> m_store;
     VexelPaths m_paths;
     TimeZone m_zone;
+    SettingsFile m_settings;
     ActivityLog m_log;
     ActivityLog m_savedLog; // as the file holds it: an unchanged log is not written again
     HistoryBatch m_batch;

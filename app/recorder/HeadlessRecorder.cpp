@@ -4,7 +4,6 @@
 #include "model/Cadence.h"
 #include "model/Sampler.h"
 #include "recorder/RecorderLock.h"
-#include "settings/VexelSettings.h"
 
 #include <cerrno>
 #include <cmath>
@@ -50,14 +49,18 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
             err << lock.error().value_or("Couldn't take the recorder's lock.") << "\n";
         return 1;
     }
-    auto settings = VexelSettings::load(paths.settings());
     std::optional<std::string> openError;
     auto store = Sampler::openStore(paths, openError);
     if (!store) {
-        err << "Couldn't open the history: " << openError.value_or("unknown error") << "\n";
+        err << openError.value_or("Couldn't open the history.") << "\n";
         return 1;
     }
     Sampler sampler(m_options.makeMonitor(), std::move(store), paths);
+    // What of the settings could not be used is said once, to the journal.
+    for (const auto& message : sampler.settingsFile().messages())
+        err << message << "\n";
+    err << std::flush;
+    auto settings = sampler.settingsFile().settings();
     Cadence cadence;
     out << "Recording to " << paths.history().string() << " every " << settings.sampleSeconds << " s.\n" << std::flush;
     std::optional<std::string> lastError;
@@ -80,10 +83,8 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
         status = 1;
     }
     settings.lastSeen = m_options.clock();
-    try {
-        settings.save(paths.settings());
-    } catch (const std::exception& failure) {
-        err << "Couldn't save the settings: " << failure.what() << "\n";
+    if (const auto failure = sampler.saveSettings(settings, SettingsFile::Saving::automatic)) {
+        err << *failure << "\n";
         status = 1;
     }
     out << "Stopped recording.\n";

@@ -19,8 +19,10 @@ struct CloseFd {
     int fd;
     ~CloseFd()
     {
+        const int error = errno; // the caller is told why the read failed, not how the close went
         if (fd >= 0)
             ::close(fd);
+        errno = error;
     }
 };
 
@@ -62,6 +64,17 @@ std::optional<std::string> read(const std::string& path, size_t maxBytes)
     if (!readInto(path, buffer, maxBytes))
         return std::nullopt;
     return buffer;
+}
+
+WholeFile readWhole(const std::string& path, size_t maxBytes)
+{
+    std::string buffer;
+    errno = 0;
+    if (!readInto(path, buffer, maxBytes + 1))
+        return {std::nullopt, errno != 0 ? errno : EIO};
+    if (buffer.size() > maxBytes)
+        return {std::nullopt, EFBIG};
+    return {std::move(buffer), 0};
 }
 
 std::string readValue(const std::string& path)

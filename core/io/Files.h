@@ -13,7 +13,16 @@ namespace vexel::Files {
 // size of 0, so the size is never trusted.
 [[nodiscard]] std::optional<std::string> read(const std::string& path, size_t maxBytes = 256 * 1024);
 
-// Reads into `buffer` (reusing its capacity); false when the file cannot be read.
+// A whole file of at most `maxBytes`, or why not: the system's error number,
+// or EFBIG when the file holds more than `maxBytes`.
+struct WholeFile {
+    std::optional<std::string> bytes;
+    int error = 0;
+};
+[[nodiscard]] WholeFile readWhole(const std::string& path, size_t maxBytes);
+
+// Reads into `buffer` (reusing its capacity); false when the file cannot be
+// read, with errno saying why.
 [[nodiscard]] bool readInto(const std::string& path, std::string& buffer, size_t maxBytes = 256 * 1024);
 
 // A sysfs or /proc attribute: a small file's text without surrounding blanks

@@ -1,9 +1,13 @@
 #include "settings/VexelSettings.h"
 
+#include "format/CFormat.h"
 #include "io/AtomicFile.h"
-#include "io/Files.h"
+#include "settings/SettingsFile.h"
 #include "json/JsonFields.h"
 
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
 #include <variant>
 
 namespace vexel {
@@ -12,12 +16,94 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
+// What a number may be, and what it is in words, for the sentence that says
+// a value was not used as written.
+struct Limits {
+    double least = 0;
+    double most = 0;
+    const char* kind = "";
+};
+
 // One number or flag of a record under its JSON key: each table below is the
 // one place that names a record's keys, for writing and for reading.
 template <typename Record> struct Field {
     const char* key;
     std::variant<double Record::*, int Record::*, bool Record::*> member;
+    Limits limits{}; // numbers only
 };
+
+// Where a decode says what it could not use as written; the dotted path of a
+// nested key ("strain.cpuElevated").
+class Problems {
+public:
+    Problems(std::vector<SettingsProblem>* sink, std::string prefix)
+        : m_sink(sink)
+        , m_prefix(std::move(prefix))
+    {
+    }
+
+    [[nodiscard]] Problems nested(const std::string& key) const { return {m_sink, path(key) + "."}; }
+    [[nodiscard]] std::string path(const std::string& key) const { return m_prefix + key; }
+    void say(const std::string& key, const std::string& text) const
+    {
+        if (m_sink != nullptr)
+            m_sink->push_back({path(key), path(key) + " must be " + text});
+    }
+
+private:
+    std::vector<SettingsProblem>* m_sink;
+    std::string m_prefix;
+};
+
+std::string number(double value)
+{
+    return cformat("%.15g", value);
+}
+
+std::string quoted(const std::string& text)
+{
+    return "\"" + text + "\"";
+}
+
+// A number within its limits. A value of another kind, or a fraction where a
+// whole number belongs, keeps the default; one out of range is brought to
+// the nearest limit. Either is said once, by name.
+template <typename T>
+void readNumber(const Json& object, const char* key, const Limits& limits, T& into, const Problems& problems)
+{
+    const Json* value = JsonFields::field(object, key);
+    if (value == nullptr)
+        return;
+    const auto say = [&] {
+        problems.say(key,
+            std::string(limits.kind) + ", " + number(limits.least) + " to " + number(limits.most) + "; using "
+                + number(static_cast<double>(into)));
+    };
+    if (!value->is_number()) {
+        say();
+        return;
+    }
+    const double written = value->template get<double>();
+    if (std::is_integral_v<T> && std::isfinite(written) && std::floor(written) != written) {
+        say();
+        return;
+    }
+    const double used = std::clamp(written, limits.least, limits.most);
+    into = static_cast<T>(used);
+    if (used != written)
+        say();
+}
+
+void readFlag(const Json& object, const char* key, bool& into, const Problems& problems)
+{
+    const Json* value = JsonFields::field(object, key);
+    if (value == nullptr)
+        return;
+    if (value->is_boolean())
+        into = value->get<bool>();
+    else
+        problems.say(key, std::string("true or false; using ") + (into ? "true" : "false"));
+}
 
 template <typename Record, size_t count>
 void writeFields(Json& json, const std::array<Field<Record>, count>& fields, const Record& record)
@@ -27,50 +113,72 @@ void writeFields(Json& json, const std::array<Field<Record>, count>& fields, con
 }
 
 template <typename Record, size_t count>
-void readFields(const Json& json, const std::array<Field<Record>, count>& fields, Record& record)
+void readFields(
+    const Json& json, const std::array<Field<Record>, count>& fields, Record& record, const Problems& problems)
 {
-    for (const auto& field : fields)
-        std::visit([&](auto member) { JsonFields::read(json, field.key, record.*member); }, field.member);
+    for (const auto& field : fields) {
+        std::visit(
+            [&](auto member) {
+                if constexpr (std::is_same_v<decltype(member), bool Record::*>)
+                    readFlag(json, field.key, record.*member, problems);
+                else
+                    readNumber(json, field.key, field.limits, record.*member, problems);
+            },
+            field.member);
+    }
 }
 
+constexpr Limits fraction{0, 1, "a fraction"};
+constexpr Limits percent{0, 100, "a whole percentage"};
+constexpr Limits bytes{0, 1e15, "a number of bytes"};
+
 const std::array<Field<StrainRules>, 9> strainFields{{
-    {"cpuElevated", &StrainRules::cpuElevated},
-    {"cpuStrained", &StrainRules::cpuStrained},
-    {"batteryElevated", &StrainRules::batteryElevated},
-    {"batteryStrained", &StrainRules::batteryStrained},
-    {"diskFreeElevated", &StrainRules::diskFreeElevated},
-    {"diskFreeStrained", &StrainRules::diskFreeStrained},
-    {"gpuElevated", &StrainRules::gpuElevated},
-    {"gpuStrained", &StrainRules::gpuStrained},
-    {"netElevated", &StrainRules::netElevated},
+    {"cpuElevated", &StrainRules::cpuElevated, fraction},
+    {"cpuStrained", &StrainRules::cpuStrained, fraction},
+    {"batteryElevated", &StrainRules::batteryElevated, percent},
+    {"batteryStrained", &StrainRules::batteryStrained, percent},
+    {"diskFreeElevated", &StrainRules::diskFreeElevated, fraction},
+    {"diskFreeStrained", &StrainRules::diskFreeStrained, fraction},
+    {"gpuElevated", &StrainRules::gpuElevated, fraction},
+    {"gpuStrained", &StrainRules::gpuStrained, fraction},
+    {"netElevated", &StrainRules::netElevated, {0, 1e12, "a number of bytes per second"}},
 }};
 
 const std::array<Field<SpikeRules>, 8> spikeFields{{
-    {"cpu", &SpikeRules::cpu},
-    {"cpuMinutes", &SpikeRules::cpuMinutes},
-    {"diskPerMinute", &SpikeRules::diskPerMinute},
-    {"diskTotal", &SpikeRules::diskTotal},
-    {"netPerMinute", &SpikeRules::netPerMinute},
-    {"netTotal", &SpikeRules::netTotal},
-    {"batteryDrop", &SpikeRules::batteryDrop},
-    {"mergeGap", &SpikeRules::mergeGap},
+    {"cpu", &SpikeRules::cpu, fraction},
+    {"cpuMinutes", &SpikeRules::cpuMinutes, {1, 1440, "a whole number of minutes"}},
+    {"diskPerMinute", &SpikeRules::diskPerMinute, bytes},
+    {"diskTotal", &SpikeRules::diskTotal, bytes},
+    {"netPerMinute", &SpikeRules::netPerMinute, bytes},
+    {"netTotal", &SpikeRules::netTotal, bytes},
+    {"batteryDrop", &SpikeRules::batteryDrop, {0, 100, "a number of percentage points"}},
+    {"mergeGap", &SpikeRules::mergeGap, {0, 86400, "a number of seconds"}},
 }};
 
 // The settings' plain numbers and flags; the rest is written out below.
 const std::array<Field<VexelSettings>, 6> plainFields{{
-    {"sampleSeconds", &VexelSettings::sampleSeconds},
+    {"sampleSeconds", &VexelSettings::sampleSeconds,
+        {VexelSettings::shortestSample, VexelSettings::longestSample, "a number of seconds"}},
     {"networkBits", &VexelSettings::networkBits},
-    {"retentionDays", &VexelSettings::retentionDays},
-    {"maxHistoryMB", &VexelSettings::maxHistoryMB},
-    {"idleDays", &VexelSettings::idleDays},
+    {"retentionDays", &VexelSettings::retentionDays, {1, 3650, "a whole number of days"}},
+    {"maxHistoryMB", &VexelSettings::maxHistoryMB, {1, 100000, "a whole number of megabytes"}},
+    {"idleDays", &VexelSettings::idleDays, {0.1, 365, "a number of days"}},
     {"onboarded", &VexelSettings::onboarded},
 }};
 
-template <typename Enum, typename FromRaw> void readEnum(const Json& json, const char* key, Enum& into, FromRaw fromRaw)
+template <typename Enum, typename FromRaw>
+void readEnum(const Json& json, const char* key, Enum& into, FromRaw fromRaw, const std::string& choices,
+    const Problems& problems)
 {
+    const Json* value = JsonFields::field(json, key);
+    if (value == nullptr)
+        return;
     if (const auto raw = JsonFields::value<std::string>(json, key))
-        if (const auto value = fromRaw(*raw))
-            into = *value;
+        if (const auto parsed = fromRaw(*raw)) {
+            into = *parsed;
+            return;
+        }
+    problems.say(key, choices + "; using " + quoted(rawValue(into)));
 }
 
 std::optional<MenuItemConfig> menuItemFromJson(const Json& json)
@@ -87,19 +195,33 @@ std::optional<MenuItemConfig> menuItemFromJson(const Json& json)
     return MenuItemConfig{*parsedKind, *enabled, *parsedStyle};
 }
 
-// The whole list, or nothing when any entry cannot be read.
-std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json* json)
+// The whole list, or nothing when any entry cannot be read or a kind comes twice.
+std::optional<std::vector<MenuItemConfig>> menuItemsFromJson(const Json& json)
 {
-    if (json == nullptr || !json->is_array())
+    if (!json.is_array())
         return std::nullopt;
     std::vector<MenuItemConfig> items;
-    for (const auto& entry : *json) {
+    for (const auto& entry : json) {
         const auto item = menuItemFromJson(entry);
-        if (!item)
+        if (!item || std::ranges::find(items, item->kind, &MenuItemConfig::kind) != items.end())
             return std::nullopt;
         items.push_back(*item);
     }
     return items;
+}
+
+template <typename Record, size_t count>
+void readRules(const Json& json, const char* key, const std::array<Field<Record>, count>& fields, Record& rules,
+    const Problems& problems)
+{
+    const Json* object = JsonFields::field(json, key);
+    if (object == nullptr)
+        return;
+    if (!object->is_object()) {
+        problems.say(key, "an object of thresholds; using the defaults");
+        return;
+    }
+    readFields(*object, fields, rules, problems.nested(key));
 }
 
 } // namespace
@@ -121,32 +243,36 @@ Json toJson(const VexelSettings& settings)
     return json;
 }
 
-VexelSettings settingsFromJson(const Json& json)
+VexelSettings settingsFromJson(const Json& json, std::vector<SettingsProblem>* problemSink)
 {
+    const Problems problems(problemSink, "");
     VexelSettings settings;
-    readFields(json, plainFields, settings);
-    readEnum(json, "cpuScale", settings.cpuScale, cpuScaleFromRaw);
-    if (auto items = menuItemsFromJson(JsonFields::field(json, "menuItems")))
-        settings.menuItems = std::move(*items);
-    if (const Json* strain = JsonFields::field(json, "strain"))
-        readFields(*strain, strainFields, settings.strain);
-    if (const Json* spikes = JsonFields::field(json, "spikes"))
-        readFields(*spikes, spikeFields, settings.spikes);
-    readEnum(json, "appSort", settings.appSort, appSortFromRaw);
-    if (const auto lastSeen = JsonFields::value<double>(json, "lastSeen"))
-        settings.lastSeen = lastSeen;
+    readFields(json, plainFields, settings, problems);
+    readEnum(json, "cpuScale", settings.cpuScale, cpuScaleFromRaw, "\"mac\" or \"core\"", problems);
+    if (const Json* items = JsonFields::field(json, "menuItems")) {
+        if (auto read = menuItemsFromJson(*items))
+            settings.menuItems = std::move(*read);
+        else
+            problems.say("menuItems",
+                "a list of items, each with a kind, enabled and style, no kind twice; using the default items");
+    }
+    readRules(json, "strain", strainFields, settings.strain, problems);
+    readRules(json, "spikes", spikeFields, settings.spikes, problems);
+    readEnum(json, "appSort", settings.appSort, appSortFromRaw,
+        "one of \"cpu\", \"memory\", \"energy\", \"disk\" or \"network\"", problems);
+    if (JsonFields::field(json, "lastSeen") != nullptr) {
+        const auto lastSeen = JsonFields::value<double>(json, "lastSeen");
+        if (lastSeen && *lastSeen >= 0)
+            settings.lastSeen = lastSeen;
+        else
+            problems.say("lastSeen", "a time in seconds since 1970; leaving it out");
+    }
     return settings;
 }
 
 VexelSettings VexelSettings::load(const std::filesystem::path& file)
 {
-    const auto bytes = Files::read(file.string(), 4 * 1024 * 1024);
-    if (!bytes)
-        return {};
-    const auto json = Json::parse(*bytes, nullptr, false);
-    if (json.is_discarded())
-        return {};
-    return settingsFromJson(json);
+    return SettingsFile::load(file).settings();
 }
 
 void VexelSettings::save(const std::filesystem::path& file) const

@@ -118,7 +118,9 @@ TEST(AppModel, LoginItemAndLastSeen)
 
     demo.now = 1'800'000'000;
     demo.model->shutdown();
-    EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).lastSeen, 1'800'000'000);
+    // Saved on the sampler's thread, never the window's.
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return VexelSettings::load(VexelPaths(demo.folder.path()).settings()).lastSeen == 1'800'000'000; }));
 
     // The first start is marked once: the next run on the same folder is no first launch.
     demo.model->start();

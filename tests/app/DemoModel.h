@@ -13,8 +13,10 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace vexel::testing {
@@ -28,12 +30,18 @@ struct DemoModel {
     FakeActions* fake = nullptr;
     std::unique_ptr<AppModel> model;
 
-    explicit DemoModel(const std::function<void(VexelSettings&)>& adjust = {}, Platform platform = Platform::macOS)
+    // The settings file holds the defaults as `adjust` leaves them, or the
+    // text `settingsFile` when given.
+    explicit DemoModel(const std::function<void(VexelSettings&)>& adjust = {}, Platform platform = Platform::macOS,
+        const std::optional<std::string>& settingsFile = {})
     {
         VexelSettings settings;
         if (adjust)
             adjust(settings);
-        settings.save(VexelPaths(folder.path()).settings());
+        if (settingsFile)
+            std::ofstream(VexelPaths(folder.path()).settings()) << *settingsFile;
+        else
+            settings.save(VexelPaths(folder.path()).settings());
         auto actions = std::make_unique<FakeActions>();
         fake = actions.get();
         model = std::make_unique<AppModel>(AppModel::Setup{VexelPaths(folder.path()),

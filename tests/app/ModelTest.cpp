@@ -12,6 +12,9 @@
 
 #include <sys/stat.h>
 
+#include <cmath>
+#include <fstream>
+
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -242,4 +245,56 @@ TEST(Sampler, AHistoryThatCannotBeOpenedIsSaidAndNothingIsRecorded)
     const auto result = sampler.tick(world.now(), {.record = true, .compact = true, .totals = true});
     EXPECT_FALSE(result.today);
     EXPECT_TRUE(sampler.history(HistoryRange::today, world.now(), SpikeRules{}).points.empty());
+}
+
+// A user kept two years of history ("retentionDays": 730) in a settings file
+// that gained a trailing comma: the hourly rows of 400 and 500 days ago stay
+// through a compaction, even under the smallest size cap; the defaults (365
+// days, 64 MB) never expire or trim them on the user's behalf. Limits the
+// user wrote apply as written.
+TEST(Sampler, HistoryIsNeverExpiredOnLimitsTheUserDidNotWrite)
+{
+    struct Case {
+        const char* settings;
+        int64_t maxBytes;
+        std::vector<double> daysKept;
+    };
+    const Case cases[] = {
+        {"{\"retentionDays\": 730,}", 1, {500, 400}},
+        {"{\"retentionDays\": \"730\"}", 1, {500, 400}},
+        {"{\"maxHistoryMB\": 0.5}", 1, {500, 400}},
+        {"{\"retentionDays\": 730}", 64'000'000, {500, 400}},
+        {"{\"retentionDays\": 450}", 64'000'000, {400}},
+        {"{\"retentionDays\": 730}", 1, {}},
+    };
+    for (const auto& c : cases) {
+        const vexel::testing::TempFolder folder("vexel-sampler");
+        const VexelPaths paths(folder.path());
+        std::ofstream(paths.settings()) << c.settings;
+        DemoWorld world;
+        const double now = world.now();
+        {
+            HistoryStore store(paths.history(), HistoryAccess::readWrite);
+            for (const double days : {500.0, 400.0}) {
+                SysPoint hour;
+                hour.t = now - days * 86400;
+                hour.dur = 3600;
+                store.insert(HistoryTier::hour, hour, {});
+            }
+        }
+        std::optional<std::string> error;
+        Sampler sampler(world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
+        // The plan carries the settings as loaded: defaults where the file could not be read.
+        const auto result = sampler.tick(now,
+            {.record = true,
+                .compact = true,
+                .retentionDays = sampler.settingsFile().settings().retentionDays,
+                .maxBytes = c.maxBytes});
+        EXPECT_FALSE(result.error) << *result.error;
+        const HistoryStore reader(paths.history(), HistoryAccess::readOnly);
+        std::vector<double> kept;
+        for (const auto& point : reader.points(HistoryTier::hour, 0, now))
+            kept.push_back(std::round((now - point.t) / 86400));
+        EXPECT_EQ(kept, c.daysKept) << c.settings << " with a cap of " << c.maxBytes;
+    }
 }

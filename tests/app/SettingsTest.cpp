@@ -5,8 +5,10 @@
 #include "ConfirmSheet.h"
 #include "DemoModel.h"
 #include "MainWindow.h"
+#include "NoticeBanner.h"
 #include "VexelCommands.h"
 #include "actions/CommandLineSetup.h"
+#include "io/Files.h"
 #include "pages/CpuPage.h"
 #include "settings/AlertsTab.h"
 #include "settings/ChoiceBox.h"
@@ -14,6 +16,7 @@
 #include "settings/GeneralTab.h"
 #include "settings/PanelTab.h"
 #include "settings/SettingsWindow.h"
+#include "texts/QtText.h"
 
 #include <QAction>
 #include <QRadioButton>
@@ -52,7 +55,8 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
     auto& general = tabOf<GeneralTab>(settings, SettingsWindow::Tab::general);
     general.interval()->select(10);
     EXPECT_EQ(model.settings.sampleSeconds, 10);
-    EXPECT_EQ(VexelSettings::load(VexelPaths(demo.folder.path()).settings()).sampleSeconds, 10);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return VexelSettings::load(VexelPaths(demo.folder.path()).settings()).sampleSeconds == 10; }));
     EXPECT_EQ(model.tickSeconds(), 10); // hidden: the new interval
 
     // The CPU scale reaches the pages.
@@ -184,4 +188,43 @@ TEST(VexelCommands, EveryRouteWithItsShortcutThenTheTwoCommands)
     QTest::keyClick(window.sheet(), Qt::Key_Escape);
     EXPECT_FALSE(model.confirm);
     EXPECT_TRUE(demo.fake->log.empty());
+}
+
+// A settings file the user broke is said in the window and left as it is
+// through a whole run; a change the user makes keeps it beside the new one.
+TEST(Settings, ABrokenFileIsShownLeftAloneAndKeptAsideAtTheUsersChange)
+{
+    const std::string broken = "{\n  \"retentionDays\": 730,\n}\n";
+    auto demo = std::make_unique<DemoModel>(std::function<void(VexelSettings&)>{}, Platform::linux, broken);
+    auto& model = *demo->model;
+    const auto file = VexelPaths(demo->folder.path()).settings();
+    MainWindow window(Appearance::light);
+    window.bind(model);
+    ASSERT_EQ(model.notices.size(), 1u);
+    EXPECT_EQ(window.banner()->texts(),
+        QStringList{qs(file.string()
+            + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
+              "'}'; expected string literal). Vexel uses its defaults for now and leaves the file as it is.")});
+    model.start();
+    demo->ticks(2);
+    model.setWindowVisible(true);
+    model.setWindowVisible(false);
+    model.shutdown();
+    demo->settle();
+    model.dismissNotice(0);
+    EXPECT_TRUE(window.banner()->isHidden());
+    demo->model.reset(); // the sampler's thread ends, with all it was given done
+    EXPECT_EQ(vexel::Files::read(file.string()), broken);
+
+    demo->model = std::make_unique<AppModel>(AppModel::Setup{VexelPaths(demo->folder.path()),
+        [&] { return std::make_unique<Sampler>(demo->world.monitor(), nullptr, VexelPaths(demo->folder.path())); },
+        std::make_unique<FakeActions>(), [] { return 0.0; }, 501, 1, true});
+    auto changed = demo->model->settings;
+    changed.sampleSeconds = 10;
+    demo->model->changeSettings(changed);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return demo->model->toast.has_value(); }));
+    EXPECT_NE(demo->model->toast->find("Vexel kept it as " + file.string() + ".broken"), std::string::npos)
+        << *demo->model->toast;
+    EXPECT_EQ(vexel::Files::read(file.string() + ".broken"), broken);
+    EXPECT_EQ(VexelSettings::load(file).sampleSeconds, 10);
 }

@@ -488,3 +488,61 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
     std::sort(written.begin(), written.end());
     EXPECT_EQ(written, (std::vector<std::string>{"confirm-forcequit-dark.png", "confirm-forcequit-light.png"}));
 }
+
+// The settings a user really has, through a whole run of the recorder: keys
+// Vexel doesn't know stay where they were, a file linked in from a dotfiles
+// folder stays a link with its target written, and a file Vexel can't read
+// is left byte for byte as it was, and said.
+TEST(CliLive, TheRecorderKeepsTheUsersSettingsFiles)
+{
+    const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
+    // One run, started and stopped; the lines it said before recording.
+    const auto runOnce = [&](const std::filesystem::path& data) {
+        ::setenv("VEXEL_DATA_DIR", data.c_str(), 1);
+        ChildProcess recorder({app, "--headless"}, {{}, true, true});
+        ::unsetenv("VEXEL_DATA_DIR");
+        std::vector<std::string> said;
+        for (auto line = recorder.readLine(); !line.empty(); line = recorder.readLine()) {
+            if (line.rfind("Recording to ", 0) == 0)
+                break;
+            said.push_back(line);
+        }
+        const int status = recorder.stop(SIGTERM);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+        return said;
+    };
+    // Written as Vexel writes (two spaces, a newline at the end), so that the
+    // only change a run may make is the time it last ran.
+    const nlohmann::ordered_json mine = nlohmann::ordered_json::parse(R"({"myNote": "laptop, keep 2 years",
+        "retentionDays": 730, "sampleSeconds": 3, "fromANewerVexel": {"x": [1, 2]}, "lastSeen": 1})");
+    const auto expectKeptButLastSeen = [&](const std::filesystem::path& file) {
+        const auto after = Files::read(file.string());
+        ASSERT_TRUE(after);
+        auto expected = mine;
+        expected["lastSeen"] = nlohmann::ordered_json::parse(*after)["lastSeen"];
+        EXPECT_NE(expected["lastSeen"], 1);
+        EXPECT_EQ(*after, expected.dump(2) + "\n");
+    };
+
+    TempFolder unknown("vexel-live");
+    std::ofstream(unknown.path() / "settings.json") << mine.dump(2) << "\n";
+    EXPECT_TRUE(runOnce(unknown.path()).empty());
+    expectKeptButLastSeen(unknown.path() / "settings.json");
+
+    TempFolder linked("vexel-live");
+    std::filesystem::create_directories(linked.path() / "dotfiles");
+    std::ofstream(linked.path() / "dotfiles" / "vexel.json") << mine.dump(2) << "\n";
+    std::filesystem::create_symlink("dotfiles/vexel.json", linked.path() / "settings.json");
+    EXPECT_TRUE(runOnce(linked.path()).empty());
+    EXPECT_TRUE(std::filesystem::is_symlink(linked.path() / "settings.json"));
+    expectKeptButLastSeen(linked.path() / "dotfiles" / "vexel.json");
+
+    TempFolder broken("vexel-live");
+    const std::string trailingComma = "{\n  \"retentionDays\": 730,\n}\n";
+    std::ofstream(broken.path() / "settings.json") << trailingComma;
+    EXPECT_EQ(runOnce(broken.path()),
+        std::vector<std::string>{(broken.path() / "settings.json").string()
+            + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
+              "'}'; expected string literal). Vexel uses its defaults for now and leaves the file as it is."});
+    EXPECT_EQ(Files::read((broken.path() / "settings.json").string()), trailingComma);
+}

@@ -1,19 +1,24 @@
 #include "settings/VexelSettings.h"
 
+#include "format/CFormat.h"
+#include "io/Files.h"
+#include "settings/SettingsFile.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
 
 using namespace vexel;
+using json = nlohmann::ordered_json;
 namespace fs = std::filesystem;
 
 namespace {
 
-class SettingsFile : public ::testing::Test {
+class SettingsJson : public ::testing::Test {
 protected:
     fs::path write(const std::string& text) const
     {
@@ -27,12 +32,12 @@ protected:
 
 } // namespace
 
-TEST_F(SettingsFile, AnEmptyObjectLoadsAsDefaults)
+TEST_F(SettingsJson, AnEmptyObjectLoadsAsDefaults)
 {
     EXPECT_EQ(VexelSettings::load(write("{}")), VexelSettings{});
 }
 
-TEST_F(SettingsFile, EachKeyFallsBackOnItsOwn)
+TEST_F(SettingsJson, EachKeyFallsBackOnItsOwn)
 {
     const auto settings = VexelSettings::load(write(R"({
         "retentionDays": "30", "sampleSeconds": 10, "cpuScale": "core", "appSort": "sideways",
@@ -57,15 +62,19 @@ TEST_F(SettingsFile, EachKeyFallsBackOnItsOwn)
     EXPECT_EQ(settings.menuItems[0], (MenuItemConfig{MenuItemKind::gpu, true, MenuItemStyle::value}));
 }
 
-TEST_F(SettingsFile, ABadMenuItemKeepsTheDefaultList)
+TEST_F(SettingsJson, ABadMenuItemKeepsTheDefaultList)
 {
     const auto settings = VexelSettings::load(
         write(R"({"menuItems": [{"kind": "cpu", "enabled": true, "style": "value"}, {"kind": "fans"}]})"));
     EXPECT_EQ(settings.menuItems, defaultMenuItems());
-    EXPECT_EQ(VexelSettings::load(write(R"({"maxHistoryMB": 1.5, "retentionDays": 1e30})")), VexelSettings{});
+    EXPECT_EQ(VexelSettings::load(write(R"({"menuItems": [{"kind": "cpu", "enabled": true, "style": "value"},
+        {"kind": "cpu", "enabled": false, "style": "both"}]})"))
+                  .menuItems,
+        defaultMenuItems())
+        << "a kind twice";
 }
 
-TEST_F(SettingsFile, NotJsonOrMissingLoadsAsDefaultsAndCreatesNothing)
+TEST_F(SettingsJson, NotJsonOrMissingLoadsAsDefaultsAndCreatesNothing)
 {
     EXPECT_EQ(VexelSettings::load(write("retentionDays = 30\n")), VexelSettings{});
     EXPECT_EQ(VexelSettings::load(write("[1, 2, 3]")), VexelSettings{});
@@ -74,7 +83,7 @@ TEST_F(SettingsFile, NotJsonOrMissingLoadsAsDefaultsAndCreatesNothing)
     EXPECT_FALSE(fs::exists(missing.parent_path()));
 }
 
-TEST_F(SettingsFile, SaveCreatesTheFolderAndReadsBackTheSame)
+TEST_F(SettingsJson, SaveCreatesTheFolderAndReadsBackTheSame)
 {
     VexelSettings settings;
     settings.sampleSeconds = 2.5;
@@ -92,7 +101,7 @@ TEST_F(SettingsFile, SaveCreatesTheFolderAndReadsBackTheSame)
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator()), 1);
 }
 
-TEST_F(SettingsFile, SaveReportsFileSystemErrors)
+TEST_F(SettingsJson, SaveReportsFileSystemErrors)
 {
     const auto blocker = write("{}");
     EXPECT_THROW(VexelSettings{}.save(blocker / "settings.json"), fs::filesystem_error);
@@ -103,4 +112,149 @@ TEST_F(SettingsFile, SaveReportsFileSystemErrors)
         EXPECT_THROW(VexelSettings{}.save(locked / "settings.json"), fs::filesystem_error);
         ::chmod(locked.c_str(), 0700);
     }
+}
+
+// Numbers are brought into their range, and what was not used as written is
+// said once, by name, with what is used instead.
+TEST_F(SettingsJson, NumbersOutOfRangeAreBroughtInAndSaid)
+{
+    struct Case {
+        const char* written;
+        double sampleSeconds;
+        int retentionDays;
+    };
+    const Case cases[] = {
+        {"0", 1, 1},
+        {"-1", 1, 1},
+        {"0.001", 1, 365}, // not a whole number of days: the default
+        {"1e308", 3600, 3650},
+        {"86400", 3600, 3650},
+    };
+    for (const auto& c : cases) {
+        const auto file = SettingsFile::load(
+            write(std::string(R"({"sampleSeconds": )") + c.written + R"(, "retentionDays": )" + c.written + "}"));
+        EXPECT_EQ(file.settings().sampleSeconds, c.sampleSeconds) << c.written;
+        EXPECT_EQ(file.settings().retentionDays, c.retentionDays) << c.written;
+        ASSERT_EQ(file.problems().size(), 2u) << c.written;
+        EXPECT_EQ(file.problems()[0].text,
+            "sampleSeconds must be a number of seconds, 1 to 3600; using " + cformat("%g", c.sampleSeconds));
+        EXPECT_EQ(file.problems()[1].key, "retentionDays");
+        EXPECT_FALSE(file.historyLimitsTrusted()) << "history is not expired on a limit the user didn't write";
+    }
+    const auto wrong = SettingsFile::load(write(R"({"sampleSeconds": "fast", "strain": {"cpuStrained": 2},
+        "cpuScale": "half", "networkBits": "yes", "spikes": 7})"));
+    std::vector<std::string> said;
+    for (const auto& problem : wrong.problems())
+        said.push_back(problem.text);
+    EXPECT_EQ(said,
+        (std::vector<std::string>{"sampleSeconds must be a number of seconds, 1 to 3600; using 5",
+            "networkBits must be true or false; using false", R"(cpuScale must be "mac" or "core"; using "mac")",
+            "strain.cpuStrained must be a fraction, 0 to 1; using 1",
+            "spikes must be an object of thresholds; using the defaults"}));
+    EXPECT_TRUE(wrong.historyLimitsTrusted()) << "the limits were left out: Vexel's own apply";
+    EXPECT_TRUE(SettingsFile::load(write(R"({"retentionDays": 730})")).historyLimitsTrusted());
+}
+
+// Files the user wrote that Vexel cannot read stay byte for byte what they
+// were after Vexel's own saves; a value Vexel didn't change stays as written,
+// wrong or not, and keys it doesn't know survive, in their places.
+TEST_F(SettingsJson, WhatTheUserWroteIsNeverOverwrittenOnAGuess)
+{
+    std::string big = R"({"sampleSeconds": 2, "notes": ")" + std::string(5 << 20, 'x') + "\"}";
+    for (const std::string& unreadable : {std::string("{\n  \"retentionDays\": 730,\n}\n"),
+             std::string("\x89PNG\r\n\x1a\n garbage"), std::string("[1, 2, 3]"), big}) {
+        const auto path = write(unreadable);
+        auto file = SettingsFile::load(path);
+        EXPECT_EQ(file.state(), SettingsFile::State::unreadable);
+        ASSERT_TRUE(file.failure());
+        EXPECT_FALSE(file.historyLimitsTrusted());
+        VexelSettings later = file.settings();
+        later.lastSeen = 1'800'000'000;
+        later.onboarded = true;
+        const auto outcome = file.save(later, SettingsFile::Saving::automatic);
+        EXPECT_FALSE(outcome.written);
+        EXPECT_NE(outcome.note.find("leaves the file as it is"), std::string::npos) << outcome.note;
+        EXPECT_EQ(Files::read(path.string(), 8 << 20), unreadable);
+    }
+    EXPECT_EQ(SettingsFile::load(write("{\n  \"retentionDays\": 730,\n}\n")).failure(),
+        (m_dir.path() / "settings.json").string()
+            + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
+              "'}'; expected string literal).");
+
+    const auto path = write(R"({
+  "zNote": "mine",
+  "sampleSeconds": "fast",
+  "retentionDays": 730,
+  "future": {"a": [1, 2]},
+  "strain": {"cpuElevated": 0.5, "unknown": true}
+})");
+    auto file = SettingsFile::load(path);
+    VexelSettings changed = file.settings();
+    changed.lastSeen = 1'800'000'000;
+    changed.strain.gpuStrained = 0.9;
+    EXPECT_TRUE(file.save(changed, SettingsFile::Saving::automatic).written);
+    const auto saved = json::parse(*Files::read(path.string()));
+    EXPECT_EQ(saved["zNote"], "mine");
+    EXPECT_EQ(saved["sampleSeconds"], "fast") << "not Vexel's to correct";
+    EXPECT_EQ(saved["retentionDays"], 730);
+    EXPECT_EQ(saved["future"], json::parse(R"({"a": [1, 2]})"));
+    EXPECT_EQ(saved["strain"]["unknown"], true);
+    EXPECT_EQ(saved["strain"]["gpuStrained"], 0.9);
+    EXPECT_EQ(saved["lastSeen"], 1'800'000'000);
+    EXPECT_EQ(saved.begin().key(), "zNote") << "keys keep their places";
+    EXPECT_EQ(SettingsFile::load(path).settings(), changed);
+}
+
+// Another Vexel process (the recorder beside the window) saving when it last
+// ran keeps the change the user just made in the window.
+TEST_F(SettingsJson, TwoProcessesSavingKeepEachOthersChanges)
+{
+    const auto path = write(R"({"sampleSeconds": 5})");
+    auto window = SettingsFile::load(path);
+    auto recorder = SettingsFile::load(path);
+    VexelSettings faster = window.settings();
+    faster.sampleSeconds = 2;
+    ASSERT_TRUE(window.save(faster, SettingsFile::Saving::userChange).written);
+    VexelSettings ran = recorder.settings();
+    ran.lastSeen = 1'800'000'000;
+    ASSERT_TRUE(recorder.save(ran, SettingsFile::Saving::automatic).written);
+    const auto both = VexelSettings::load(path);
+    EXPECT_EQ(both.sampleSeconds, 2);
+    EXPECT_EQ(both.lastSeen, 1'800'000'000);
+}
+
+// A settings file kept in a dotfiles folder and linked in stays a link: the
+// file it names is written, with its permissions. A change the user makes
+// while the file can't be read keeps the unreadable one beside it.
+TEST_F(SettingsJson, ALinkIsWrittenThroughAndABrokenFileIsSetAsideOnlyForAUserChange)
+{
+    const auto dotfiles = m_dir.path() / "dotfiles";
+    fs::create_directories(dotfiles);
+    std::ofstream(dotfiles / "vexel.json") << R"({"sampleSeconds": 10})";
+    fs::permissions(dotfiles / "vexel.json", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    const auto link = m_dir.path() / "settings.json";
+    fs::create_symlink("dotfiles/vexel.json", link);
+    auto linked = SettingsFile::load(link);
+    VexelSettings changed = linked.settings();
+    changed.onboarded = true;
+    ASSERT_TRUE(linked.save(changed, SettingsFile::Saving::automatic).written);
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(VexelSettings::load(dotfiles / "vexel.json"), changed);
+    EXPECT_EQ(fs::status(dotfiles / "vexel.json").permissions() & fs::perms::all,
+        fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dotfiles), fs::directory_iterator()), 1) << "no temporary left";
+
+    fs::remove(link);
+    const auto broken = write("{\"idleDays\": 3,,}");
+    std::ofstream(m_dir.path() / "settings.json.broken") << "an older one";
+    auto file = SettingsFile::load(broken);
+    VexelSettings mine = file.settings();
+    mine.sampleSeconds = 30;
+    const auto outcome = file.save(mine, SettingsFile::Saving::userChange);
+    EXPECT_TRUE(outcome.written);
+    EXPECT_NE(outcome.note.find("settings.json.broken.2"), std::string::npos) << outcome.note;
+    EXPECT_EQ(Files::read((m_dir.path() / "settings.json.broken.2").string()), "{\"idleDays\": 3,,}");
+    EXPECT_EQ(Files::read((m_dir.path() / "settings.json.broken").string()), "an older one");
+    EXPECT_EQ(VexelSettings::load(broken).sampleSeconds, 30);
+    EXPECT_TRUE(SettingsFile::load(broken).historyLimitsTrusted());
 }

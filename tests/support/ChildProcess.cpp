@@ -22,6 +22,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& argv, const Options& 
         ready = posix_spawn_file_actions_addchdir_np(&actions, options.folder.c_str()) == 0;
     if (options.readOutput) {
         ready = ready && posix_spawn_file_actions_adddup2(&actions, pipeFds[1], 1) == 0
+            && (!options.readErrors || posix_spawn_file_actions_adddup2(&actions, pipeFds[1], 2) == 0)
             && posix_spawn_file_actions_addclose(&actions, pipeFds[0]) == 0;
     }
     std::vector<char*> args;

@@ -16,6 +16,7 @@ public:
     struct Options {
         std::filesystem::path folder; // its working folder; the test's own when empty
         bool readOutput = false; // its standard output comes to readLine
+        bool readErrors = false; // and its standard error too, in the same stream
     };
 
     // Starts the program; pid() is 0 when it could not be started.

@@ -1,0 +1,161 @@
+#include "settings/SettingsFile.h"
+
+#include "io/AtomicFile.h"
+#include "io/Files.h"
+#include "text/TextScan.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace vexel {
+
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+// Far more than any settings file holds; a larger file is not Vexel's settings.
+constexpr size_t readCap = 4 * 1024 * 1024;
+
+constexpr const char* leftAlone = " Vexel uses its defaults for now and leaves the file as it is.";
+
+// What the file holds now.
+struct Reading {
+    SettingsFile::State state = SettingsFile::State::missing;
+    Json document = Json::object();
+    std::optional<std::string> failure;
+};
+
+// nlohmann's parse error without its code: "parse error at line 3, column 1: …".
+std::string parseError(const char* what)
+{
+    const std::string text = what;
+    const auto bracket = text.find("] ");
+    return bracket == std::string::npos ? text : text.substr(bracket + 2);
+}
+
+Reading readDocument(const std::filesystem::path& file)
+{
+    const std::string name = file.string();
+    const auto whole = Files::readWhole(name, readCap);
+    if (!whole.bytes) {
+        if (whole.error == ENOENT)
+            return {};
+        if (whole.error == EFBIG)
+            return {SettingsFile::State::unreadable, {}, name + " is larger than 4 MB, too large to be settings."};
+        return {SettingsFile::State::unreadable, {}, "Couldn't read " + name + ": " + std::strerror(whole.error) + "."};
+    }
+    // An empty file holds nothing of the user's to keep.
+    if (TextScan::trim(*whole.bytes).empty())
+        return {SettingsFile::State::read, Json::object(), std::nullopt};
+    try {
+        Json document = Json::parse(*whole.bytes);
+        if (!document.is_object())
+            return {SettingsFile::State::unreadable, {},
+                name + " holds a JSON " + document.type_name() + ", not an object of settings."};
+        return {SettingsFile::State::read, std::move(document), std::nullopt};
+    } catch (const Json::parse_error& error) {
+        return {SettingsFile::State::unreadable, {}, name + " isn't valid JSON (" + parseError(error.what()) + ")."};
+    }
+}
+
+// Writes into `document` each key of `wanted` whose value differs from
+// `before` (what was read or saved last), object by object, so that a file
+// the user keeps short stays short. A key Vexel dropped (lastSeen cleared)
+// goes when it still holds Vexel's value.
+void mergeChanges(Json& document, const Json& wanted, const Json& before)
+{
+    for (const auto& [key, value] : wanted.items()) {
+        const auto found = document.find(key);
+        const auto old = before.find(key);
+        if (found != document.end() && value.is_object() && found->is_object())
+            mergeChanges(*found, value, old != before.end() ? *old : Json::object());
+        else if (old == before.end() || *old != value)
+            document[key] = value;
+    }
+    for (const auto& [key, value] : before.items())
+        if (!wanted.contains(key) && document.contains(key) && document[key] == value)
+            document.erase(key);
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(std::filesystem::path file)
+    : m_file(std::move(file))
+{
+}
+
+SettingsFile SettingsFile::load(std::filesystem::path file)
+{
+    SettingsFile settings(std::move(file));
+    const auto reading = readDocument(settings.m_file);
+    settings.m_failure = reading.failure;
+    settings.adopt(reading.state, reading.document);
+    return settings;
+}
+
+void SettingsFile::adopt(State state, const Json& document)
+{
+    m_state = state;
+    m_problems.clear();
+    m_settings = state == State::read ? settingsFromJson(document, &m_problems) : VexelSettings{};
+    m_saved = m_settings;
+}
+
+std::vector<std::string> SettingsFile::messages() const
+{
+    std::vector<std::string> said;
+    if (m_failure)
+        said.push_back(*m_failure + leftAlone);
+    for (const auto& problem : m_problems)
+        said.push_back(problem.text + ".");
+    return said;
+}
+
+bool SettingsFile::historyLimitsTrusted() const
+{
+    if (m_state == State::unreadable)
+        return false;
+    for (const auto& problem : m_problems)
+        if (problem.key == "retentionDays" || problem.key == "maxHistoryMB")
+            return false;
+    return true;
+}
+
+std::filesystem::path SettingsFile::setAside() const
+{
+    std::filesystem::path aside = m_file.string() + ".broken";
+    for (int n = 2; !Files::missing(aside.string()); ++n)
+        aside = m_file.string() + ".broken." + std::to_string(n);
+    if (std::rename(m_file.c_str(), aside.c_str()) != 0)
+        throw std::filesystem::filesystem_error("Couldn't move the unreadable settings aside", m_file, aside,
+            std::error_code(errno, std::generic_category()));
+    return aside;
+}
+
+SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Saving saving)
+{
+    Reading now = readDocument(m_file);
+    SaveOutcome outcome;
+    if (now.state == State::unreadable) {
+        if (saving == Saving::automatic)
+            return {false, *now.failure + leftAlone};
+        const auto aside = setAside();
+        outcome.note = *now.failure + " Vexel kept it as " + aside.string() + " and saved your settings in a new "
+            + m_file.filename().string() + ".";
+        now = Reading{};
+    }
+    if (now.state == State::missing)
+        now.document = toJson(settings); // a new file has every key, to be read and edited
+    else
+        mergeChanges(now.document, toJson(settings), toJson(m_saved));
+    AtomicFile::write(m_file, now.document.dump(2) + "\n");
+    m_failure.reset();
+    adopt(State::read, now.document);
+    m_settings = settings;
+    m_saved = settings;
+    outcome.written = true;
+    return outcome;
+}
+
+} // namespace vexel
