@@ -54,6 +54,67 @@ int64_t sizeOf(const std::string& path)
     return ::stat(path.c_str(), &info) == 0 ? static_cast<int64_t>(info.st_size) : 0;
 }
 
+long long pragmaValue(sqlite3* db, const char* name)
+{
+    const Sqlite::Statement query(db, std::string("PRAGMA ") + name);
+    return query.next() ? query.integer(0) : 0;
+}
+
+// Whether a file without the mark holds exactly the tables an earlier Vexel
+// made, with its schema row: a history from before files were marked.
+bool earlierVexelHistory(sqlite3* db)
+{
+    std::vector<std::string> tables;
+    const Sqlite::Statement names(
+        db, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY name");
+    while (names.next())
+        tables.push_back(names.text(0));
+    if (tables != std::vector<std::string>{"apps", "meta", "sys"})
+        return false;
+    const Sqlite::Statement version(db, "SELECT value FROM meta WHERE key = 'schema'");
+    return version.next() && version.text(0) == "1";
+}
+
+// Refuses, naming the file, what is not Vexel's history or is a newer Vexel's.
+void requireVexelsOwn(sqlite3* db, const std::filesystem::path& file)
+{
+    const long long id = pragmaValue(db, "application_id");
+    if (id == HistoryStore::applicationId) {
+        if (const long long version = pragmaValue(db, "user_version"); version > HistoryStore::schemaVersion)
+            throw HistoryError(HistoryError::Kind::open,
+                file.string() + " was written by a newer version of Vexel (history version " + std::to_string(version)
+                    + "; this one reads up to " + std::to_string(HistoryStore::schemaVersion)
+                    + "). Vexel leaves it alone; update Vexel to use it.");
+        return;
+    }
+    const Sqlite::Statement tables(db, "SELECT count(*) FROM sqlite_schema");
+    const bool empty = tables.next() && tables.integer(0) == 0;
+    if (id == 0 && (empty || earlierVexelHistory(db)))
+        return;
+    throw HistoryError(HistoryError::Kind::open,
+        file.string()
+            + " isn't a Vexel history: it is another program's SQLite database. Vexel leaves it alone; move it "
+              "elsewhere and Vexel starts a new history there.");
+}
+
+// The check a writer makes before it changes anything, on a connection that
+// writes nothing (no log, no index, no permissions). A file not there yet, or
+// empty, becomes a new history. When the file cannot be read that way for a
+// moment (another process recovering its log), the writer's own connection
+// checks it before the first change.
+void checkBeforeWriting(const std::filesystem::path& file)
+{
+    if (sizeOf(file.string()) == 0)
+        return;
+    sqlite3* handle = nullptr;
+    const int result = Sqlite::openReadOnly(file, &handle, Sqlite::waitMilliseconds);
+    const Sqlite::Database db(handle);
+    if (result == SQLITE_OK)
+        requireVexelsOwn(db.get(), file);
+    else if (!Sqlite::transient(result))
+        throw HistoryError(HistoryError::Kind::open, openFailure(handle, result));
+}
+
 } // namespace
 
 HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
@@ -61,16 +122,18 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
     , m_readOnly(access == HistoryAccess::readOnly)
 {
     if (!m_readOnly) {
-        // The history tells which apps ran and when: the user's alone, the
-        // log and index too (SQLite gives them the database file's mode).
         if (m_file.has_parent_path())
             Files::createPrivateFolder(m_file.parent_path());
+        checkBeforeWriting(m_file);
+        // The history tells which apps ran and when: the user's alone, the
+        // log and index too (SQLite gives them the database file's mode).
         Files::makePrivateFile(m_file);
         for (const char* companion : {"-wal", "-shm"})
             if (const auto path = m_file.string() + companion; Files::exists(path))
                 Files::makePrivateFile(path);
     }
     connect();
+    requireVexelsOwn(m_db.get(), m_file);
     if (m_readOnly)
         return;
     sqlite3* handle = m_db.get();
@@ -91,6 +154,11 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
     // writes each of them once for many commits instead of once for few.
     ::sqlite3_wal_autocheckpoint(handle, checkpointPages);
     m_db.exec(schema);
+    // Marked once, in its header: the file is Vexel's from now on.
+    if (pragmaValue(handle, "application_id") != applicationId)
+        m_db.exec(("PRAGMA application_id=" + std::to_string(applicationId)).c_str());
+    if (pragmaValue(handle, "user_version") != schemaVersion)
+        m_db.exec(("PRAGMA user_version=" + std::to_string(schemaVersion)).c_str());
 }
 
 void HistoryStore::connect() const

@@ -26,10 +26,21 @@ enum class HistoryTable { sys, apps };
 // while it does (write-ahead logging, a 2-second busy time-out).
 class HistoryStore {
 public:
-    // Opens (creating when writable) the file. A writer makes the file and its
-    // log and index the user's alone (0600), and a folder it creates too
-    // (0700), whatever the umask. Raises HistoryError (open or sql), or the
-    // file system's error when the folder or file cannot be made.
+    // Vexel's mark in the file's header (PRAGMA application_id, "Vexl"), and
+    // the version of its tables (PRAGMA user_version) that this build writes
+    // and reads.
+    static constexpr int applicationId = 0x5665786c;
+    static constexpr int schemaVersion = 1;
+
+    // Opens (creating when writable) the file. Only Vexel's history is
+    // opened: a file with tables but without Vexel's mark (another
+    // program's), or with a newer version than this build knows, is refused
+    // with HistoryError (open) naming it, before anything in it changes; an
+    // empty file becomes a new history, and an earlier Vexel's unmarked one
+    // (its three tables) is marked. A writer makes the file and its log and
+    // index the user's alone (0600), and a folder it creates too (0700),
+    // whatever the umask. Raises HistoryError (open or sql), or the file
+    // system's error when the folder or file cannot be made.
     HistoryStore(std::filesystem::path file, HistoryAccess access);
 
     // Records one live sample in the raw tier: the system point and the

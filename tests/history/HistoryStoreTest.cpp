@@ -2,6 +2,7 @@
 #include "devservers/ActivityLog.h"
 #include "history/Downsample.h"
 #include "history/ReadOnlyOpen.h"
+#include "io/Files.h"
 #include "settings/VexelSettings.h"
 
 #include "support/TempFolder.h"
@@ -291,4 +292,107 @@ TEST_F(StoreFile, TheDataFolderIsTheUsersAloneWhateverTheUmask)
     for (const char* name : {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm"})
         EXPECT_EQ(modeOf(file().parent_path() / name), privateFile) << name;
     ::umask(old);
+}
+
+namespace {
+
+void runSql(const fs::path& file, const std::string& script)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(::sqlite3_open(file.c_str(), &db), SQLITE_OK);
+    ASSERT_EQ(::sqlite3_exec(db, script.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << ::sqlite3_errmsg(db);
+    ::sqlite3_close(db);
+}
+
+long long pragmaOf(const fs::path& file, const std::string& name)
+{
+    sqlite3* db = nullptr;
+    ::sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+    sqlite3_stmt* query = nullptr;
+    ::sqlite3_prepare_v2(db, ("PRAGMA " + name).c_str(), -1, &query, nullptr);
+    const long long value = ::sqlite3_step(query) == SQLITE_ROW ? ::sqlite3_column_int64(query, 0) : -1;
+    ::sqlite3_finalize(query);
+    ::sqlite3_close(db);
+    return value;
+}
+
+const std::string vexelTables
+    = "CREATE TABLE sys(tier INTEGER NOT NULL, t REAL NOT NULL, dur REAL NOT NULL, cpu REAL, cpu_max REAL, mem REAL, "
+      "mem_max REAL, pressure INTEGER, swap REAL, disk_r REAL, disk_w REAL, net_in REAL, net_out REAL, gpu REAL, "
+      "gpu_max REAL, power REAL, battery REAL, thermal INTEGER, PRIMARY KEY(tier, t)) WITHOUT ROWID;"
+      "CREATE TABLE apps(tier INTEGER NOT NULL, t REAL NOT NULL, app TEXT NOT NULL, name TEXT NOT NULL, dur REAL, "
+      "cpu REAL, cpu_max REAL, mem REAL, energy REAL, disk REAL, net REAL, PRIMARY KEY(tier, t, app)) WITHOUT ROWID;"
+      "CREATE TABLE meta(key TEXT PRIMARY KEY, value TEXT);";
+
+} // namespace
+
+// history.sqlite is Vexel's or it is left alone: another program's database
+// at that path (Erase History would empty its tables), or a history from a
+// newer Vexel, is refused by the recorder and by readers alike, with the file
+// named, and not one byte or permission bit of it changes.
+TEST_F(StoreFile, AFileThatIsNotVexelsIsRefusedUntouched)
+{
+    struct Case {
+        const char* name;
+        std::string script;
+        const char* said;
+    };
+    const Case cases[] = {
+        {"another program's",
+            "CREATE TABLE notes(id INTEGER PRIMARY KEY, text TEXT); INSERT INTO notes VALUES(1, 'x');",
+            "isn't a Vexel history"},
+        {"tables named like Vexel's", "CREATE TABLE sys(x); CREATE TABLE apps(y); CREATE TABLE meta(key, value);",
+            "isn't a Vexel history"},
+        {"another program's mark", "PRAGMA application_id=42; CREATE TABLE t(x);", "isn't a Vexel history"},
+        {"a newer Vexel's",
+            "PRAGMA application_id=" + std::to_string(HistoryStore::applicationId)
+                + "; PRAGMA user_version=" + std::to_string(HistoryStore::schemaVersion + 1) + ";" + vexelTables,
+            "was written by a newer version of Vexel"},
+    };
+    fs::create_directories(file().parent_path());
+    for (const auto& c : cases) {
+        fs::remove(file());
+        runSql(file(), c.script);
+        fs::permissions(file(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+        const auto before = vexel::Files::read(file().string());
+        for (const auto access : {HistoryAccess::readWrite, HistoryAccess::readOnly}) {
+            try {
+                HistoryStore store(file(), access);
+                ADD_FAILURE() << c.name << " was opened";
+            } catch (const HistoryError& error) {
+                EXPECT_EQ(error.kind(), HistoryError::Kind::open);
+                EXPECT_NE(std::string(error.what()).find(file().string() + " " + c.said), std::string::npos)
+                    << error.what();
+            }
+        }
+        EXPECT_EQ(vexel::Files::read(file().string()), before) << c.name;
+        EXPECT_EQ(fs::status(file()).permissions() & fs::perms::all,
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read)
+            << c.name;
+        EXPECT_FALSE(fs::exists(file().string() + "-wal") || fs::exists(file().string() + "-shm")) << c.name;
+    }
+}
+
+// An empty file may still become the history, and an older Vexel's history,
+// written before files were marked, is recognised by its tables and marked.
+TEST_F(StoreFile, AnEmptyFileOrAnUnmarkedVexelHistoryBecomesTheMarkedHistory)
+{
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()).close();
+    {
+        HistoryStore store(file(), HistoryAccess::readWrite);
+        store.insert(HistoryTier::raw, sysAt(100), {});
+    }
+    EXPECT_EQ(pragmaOf(file(), "application_id"), HistoryStore::applicationId);
+    EXPECT_EQ(pragmaOf(file(), "user_version"), HistoryStore::schemaVersion);
+
+    fs::remove(file());
+    runSql(file(), vexelTables + "INSERT INTO meta VALUES('schema', '1');");
+    runSql(file(), "INSERT INTO sys(tier, t, dur) VALUES(0, 100, 5)");
+    EXPECT_EQ(HistoryStore(file(), HistoryAccess::readOnly).rowCount(HistoryTier::raw, HistoryTable::sys), 1);
+    {
+        HistoryStore store(file(), HistoryAccess::readWrite);
+        EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
+    }
+    EXPECT_EQ(pragmaOf(file(), "application_id"), HistoryStore::applicationId);
 }
