@@ -72,23 +72,14 @@ DeveloperTab::Places commandLinePlaces()
         [] { return Shell::find("claude"); }};
 }
 
-AppModel::Setup liveSetup(const VexelPaths& paths, const RecorderLock& lock)
+AppModel::Setup liveSetup(const VexelPaths& paths)
 {
-    std::optional<std::string> why;
-    if (!lock.held())
-        why = lock.holder() ? "Vexel's recorder (process " + std::to_string(*lock.holder())
-                + ") keeps the history; this window shows it without writing."
-                            : lock.error().value_or("Couldn't take the history's lock.");
-    const bool records = lock.held();
     return {paths,
-        [paths, records, why] {
-            std::optional<std::string> error;
-            auto store = records ? Sampler::openStore(paths, error) : nullptr;
-            auto sampler = std::make_unique<Sampler>(Monitor::live(), std::move(store), paths);
-            if (why)
-                sampler->setOpenError(*why);
-            else if (error)
-                sampler->setOpenError(*error);
+        [paths] {
+            auto sampler = std::make_unique<Sampler>(Monitor::live(), nullptr, paths);
+            // Only one process records: beside a running recorder this window
+            // reads its history, and records once the recorder stops.
+            sampler->recordUnder(std::make_unique<RecorderLock>(paths.dir));
             return sampler;
         },
         std::make_unique<LiveActions>(), currentTime, static_cast<uint32_t>(::geteuid()),
@@ -125,10 +116,7 @@ int runDesktopApp(int& argc, char** argv)
     if (snapshot)
         return runSnapshotMode(*snapshot);
     const auto paths = VexelPaths::standard();
-    // Only one process records: with a recorder already running, this window
-    // shows the history without writing beside it.
-    const RecorderLock lock(paths.dir);
-    AppModel model(liveSetup(paths, lock));
+    AppModel model(liveSetup(paths));
     // What of the settings could not be used goes to the journal too.
     for (const auto& notice : model.notices)
         std::cerr << notice << "\n";

@@ -1,5 +1,6 @@
 #include "model/AppModel.h"
 
+#include "Logging.h"
 #include "grouping/AppGrouper.h"
 #include "io/AtomicFile.h"
 #include "model/AppSearch.h"
@@ -19,6 +20,21 @@ namespace {
 
 // Away this long, the window opens on what happened meanwhile.
 constexpr double awayAfter = 600;
+
+// What the user can do about a failing history, after SQLite's or the file
+// system's words for it.
+std::string historyAdvice(const std::string& error, const std::filesystem::path& folder)
+{
+    if (error.find("disk is full") != std::string::npos || error.find("No space left") != std::string::npos)
+        return "The disk that holds " + folder.string()
+            + " is full: free some space there. Live readings go on, and the minute waiting is written once "
+              "there is room.";
+    if (error.find("ermission denied") != std::string::npos || error.find("readonly") != std::string::npos
+        || error.find("read-only") != std::string::npos)
+        return "Vexel can't write in " + folder.string()
+            + ": check that the folder and its files are yours and writable. Live readings go on.";
+    return "Live readings go on, and Vexel tries the history again each minute.";
+}
 
 std::filesystem::path autostartFile()
 {
@@ -122,8 +138,8 @@ void AppModel::shutdown()
 
 void AppModel::saveSettings(SettingsFile::Saving saving)
 {
-    m_sampler->post<std::optional<std::string>>(
-        [saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); }, this,
+    onSampler<std::optional<std::string>>(
+        [saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
         [this](std::optional<std::string> said) {
             if (said)
                 tell(std::move(*said));
@@ -156,24 +172,37 @@ void AppModel::setHistoryRange(HistoryRange range)
 
 void AppModel::refresh(bool full)
 {
-    if (m_busy)
-        return; // ticks never overlap: this one is dropped, not queued
+    if (m_busy) {
+        // Ticks never overlap: a timer's tick is dropped, but a full refresh
+        // (the window opening) runs as soon as this one is back, unless this
+        // one is full itself.
+        m_fullPending = m_fullPending || (full && !m_busyFull);
+        qCDebug(samplerLog) << (full ? "full refresh waits for the tick in flight" : "tick dropped: one is in flight");
+        return;
+    }
     const double now = m_clock();
     const auto plan = m_cadence.plan(now, full, {windowVisible, route}, settings);
     m_busy = true;
-    m_sampler->post<TickResult>([now, plan](Sampler& sampler) { return sampler.tick(now, plan); }, this,
+    m_busyFull = full;
+    onSampler<TickResult>([now, plan](Sampler& sampler) { return sampler.tick(now, plan); },
         [this](TickResult result) {
             apply(std::move(result));
             m_busy = false;
+            if (std::exchange(m_fullPending, false))
+                refresh(true);
         });
 }
 
 void AppModel::apply(TickResult result)
 {
-    unsigned what = frameChanged;
-    ring.append(RingSample::of(result.frame));
-    cores = result.frame.system.coreCount();
-    frame = std::move(result.frame);
+    unsigned what = 0;
+    // A reading that failed outright leaves the last one in place.
+    if (result.frame.time > 0) {
+        what |= frameChanged;
+        ring.append(RingSample::of(result.frame));
+        cores = result.frame.system.coreCount();
+        frame = std::move(result.frame);
+    }
     if (result.servers) {
         servers = std::move(*result.servers);
         serversLoaded = true;
@@ -195,13 +224,29 @@ void AppModel::apply(TickResult result)
         todaySeries = std::move(*result.todaySeries);
     if (result.historyBytes)
         historyBytes = result.historyBytes;
-    // A history that could not be opened stays said; a tick's failure lasts until a tick goes well.
-    auto error = result.error ? result.error : m_openError;
-    if (error != storeError) {
-        storeError = std::move(error);
+    if (result.otherRecorder != otherRecorder) {
+        otherRecorder = result.otherRecorder;
         what |= storeErrorChanged;
     }
+    if (result.notice) {
+        qCInfo(historyLog) << result.notice->c_str();
+        tell(std::move(*result.notice));
+    }
+    // A history that could not be opened stays said; a tick's failure lasts until a tick goes well.
+    setStoreError(result.error ? result.error : m_openError);
     notify(what);
+}
+
+void AppModel::setStoreError(std::optional<std::string> error)
+{
+    if (error)
+        error = *error + " " + historyAdvice(*error, m_paths.dir);
+    if (error == storeError)
+        return;
+    if (error)
+        qCWarning(historyLog) << error->c_str();
+    storeError = std::move(error);
+    notify(storeErrorChanged);
 }
 
 void AppModel::loadHistory()
@@ -209,10 +254,11 @@ void AppModel::loadHistory()
     historyLoading = true;
     notify(historyChanged);
     const double now = m_clock();
-    m_sampler->post<Sampler::HistoryResult>([range = historyRange, now, rules = settings.spikes](
-                                                Sampler& sampler) { return sampler.history(range, now, rules); },
-        this,
+    onSampler<Sampler::HistoryResult>([range = historyRange, now, rules = settings.spikes](
+                                          Sampler& sampler) { return sampler.history(range, now, rules); },
         [this](Sampler::HistoryResult result) {
+            if (result.error)
+                setStoreError(result.error);
             history = std::move(result);
             historyLoading = false;
             notify(historyChanged);
@@ -237,16 +283,18 @@ void AppModel::prepareAway()
         return;
     }
     const double since = *settings.lastSeen;
-    awaySince = since;
-    std::vector<Spike> found;
-    m_sampler->run([&](Sampler& sampler) {
-        auto range = sampler.history(HistoryRange::week, now, settings.spikes);
-        for (auto& spike : range.spikes)
-            if (spike.end >= since)
-                found.push_back(std::move(spike));
-    });
-    awaySpikes = std::move(found);
-    notify(awayChanged);
+    onSampler<Sampler::HistoryResult>(
+        [now, rules = settings.spikes](Sampler& sampler) { return sampler.history(HistoryRange::week, now, rules); },
+        [this, since](Sampler::HistoryResult range) {
+            if (range.error)
+                setStoreError(range.error);
+            awaySince = since;
+            awaySpikes.clear();
+            for (auto& spike : range.spikes)
+                if (spike.end >= since)
+                    awaySpikes.push_back(std::move(spike));
+            notify(awayChanged);
+        });
 }
 
 void AppModel::dismissAway()
@@ -265,8 +313,11 @@ void AppModel::eraseHistory()
     request.button = "Erase History";
     request.destructive = true;
     request.confirm = [this] {
-        m_sampler->run([](Sampler& sampler) { sampler.erase(); });
-        loadHistory();
+        onSampler<std::optional<std::string>>([](Sampler& sampler) { return sampler.erase(); },
+            [this](std::optional<std::string> failed) {
+                tell(failed ? *failed : "History erased. New samples start now.");
+                loadHistory();
+            });
     };
     confirm = std::move(request);
     notify(confirmChanged);

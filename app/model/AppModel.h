@@ -86,6 +86,8 @@ public:
     std::optional<ConfirmRequest> confirm;
     std::optional<std::string> toast;
     std::optional<std::string> storeError;
+    // The process that records the history while this window reads it (the headless recorder).
+    std::optional<int64_t> otherRecorder;
     // What the app has to say until the user closes it: the values of the
     // settings file it could not use, or why it could not read the file.
     std::vector<std::string> notices;
@@ -103,9 +105,13 @@ public:
     void setRoute(Route next);
     void setHistoryRange(HistoryRange range);
 
-    // One tick: dropped when the previous one is still running.
+    // One tick: dropped when the previous one is still running, or, when
+    // full, run as soon as that one is back.
     void refresh(bool full);
     [[nodiscard]] bool busy() const { return m_busy; }
+    // Whether anything given to the sampler's thread (a tick, a history
+    // read, a save) has yet to come back.
+    [[nodiscard]] bool working() const { return m_inFlight > 0 || m_fullPending; }
 
     void loadHistory();
     void loadHistorySync();
@@ -166,6 +172,16 @@ signals:
 private:
     void schedule();
     void apply(TickResult result);
+    void setStoreError(std::optional<std::string> error);
+    // Runs `work` on the sampler's thread, then `done` here with its result.
+    template <typename Result> void onSampler(std::function<Result(Sampler&)> work, std::function<void(Result)> done)
+    {
+        ++m_inFlight;
+        m_sampler->post<Result>(std::move(work), this, [this, done = std::move(done)](Result result) {
+            --m_inFlight;
+            done(std::move(result));
+        });
+    }
     // Saves on the sampler's thread; a failure, or what became of an
     // unreadable file at the user's change, comes back as a toast.
     void saveSettings(SettingsFile::Saving saving);
@@ -177,6 +193,9 @@ private:
     Cadence m_cadence;
     QTimer m_timer;
     bool m_busy = false;
+    bool m_busyFull = false; // the tick in flight is a full one
+    bool m_fullPending = false; // a full refresh asked for while a partial tick ran
+    int m_inFlight = 0;
     std::optional<std::string> m_openError;
     std::unique_ptr<ProcessActions> m_actions;
     std::unique_ptr<ActionFlow> m_flow;

@@ -1,7 +1,9 @@
 #include "model/Sampler.h"
 
+#include "Logging.h"
 #include "history/Downsample.h"
 #include "history/HistoryError.h"
+#include "io/Files.h"
 #include "spikes/SpikeFinder.h"
 
 #include <exception>
@@ -47,28 +49,114 @@ std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::o
     return nullptr;
 }
 
+void Sampler::recordUnder(std::unique_ptr<RecorderLock> lock)
+{
+    m_lock = std::move(lock);
+    if (!m_lock->held()) {
+        if (m_lock->error())
+            m_openError = "Couldn't open the history: " + *m_lock->error();
+        else
+            openForReading();
+        return;
+    }
+    if (!m_store) {
+        std::optional<std::string> error;
+        m_store = openStore(m_paths, error);
+        m_openError = error;
+    }
+}
+
+void Sampler::openForReading()
+{
+    try {
+        m_store = std::make_unique<HistoryStore>(m_paths.history(), HistoryAccess::readOnly);
+        m_openError.reset();
+    } catch (const std::exception& failure) {
+        m_store.reset();
+        // No file yet is no failure: the recorder makes it.
+        m_openError = Files::missing(m_paths.history().string()) ? std::nullopt : std::optional(failure.what());
+    }
+}
+
+std::optional<int64_t> Sampler::otherRecorder() const
+{
+    if (!m_lock || m_lock->held())
+        return std::nullopt;
+    return m_lock->holder();
+}
+
 TickResult Sampler::tick(double now, const TickPlan& plan)
 {
-    if (beforeSample)
-        beforeSample(now);
     TickResult result;
-    result.frame = m_monitor->sample(now, {.everyone = plan.everyone, .network = plan.network});
-    if (plan.record)
-        record(result.frame, now, result);
-    if (plan.compact)
-        compact(now, plan, result);
-    if (plan.ports)
-        scanPorts(result.frame, plan, result);
-    if (plan.docker)
-        result.docker = m_monitor->dockerState();
-    if (plan.totals)
-        totals(now, result);
+    try {
+        if (beforeSample)
+            beforeSample(now);
+        result.frame = m_monitor->sample(now, {.everyone = plan.everyone, .network = plan.network});
+        followTheFile(result);
+        if (plan.compact)
+            takeOverRecording(result);
+        if (plan.record)
+            record(result.frame, now, result);
+        if (plan.compact)
+            compact(now, plan, result);
+        if (plan.ports)
+            scanPorts(result.frame, plan, result);
+        if (plan.docker)
+            result.docker = m_monitor->dockerState();
+        if (plan.totals)
+            totals(now, result);
+    } catch (const std::exception& failure) {
+        result.error = std::string("Vexel couldn't finish a reading: ") + failure.what();
+    }
+    result.otherRecorder = otherRecorder();
     return result;
+}
+
+void Sampler::followTheFile(TickResult& result)
+{
+    if (!m_store || !m_store->goneFromItsPath())
+        return;
+    if (m_store->readOnly()) {
+        openForReading(); // the recorder goes on in a file of its own at the path
+        return;
+    }
+    qCInfo(historyLog) << m_paths.history().c_str() << "was removed or replaced";
+    m_store->emptyLog();
+    m_store.reset();
+    std::optional<std::string> error;
+    m_store = openStore(m_paths, error);
+    m_openError = error;
+    if (!m_store) {
+        result.error = error;
+        return;
+    }
+    result.notice = m_paths.history().string()
+        + " was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on recording "
+          "in the file now at that path, starting with the minute it hadn't written yet.";
+}
+
+void Sampler::takeOverRecording(TickResult& result)
+{
+    if (!m_lock || m_lock->held())
+        return;
+    if (!m_lock->take()) {
+        if (!m_store)
+            openForReading(); // the recorder may have made the file since
+        return;
+    }
+    m_store.reset();
+    std::optional<std::string> error;
+    m_store = openStore(m_paths, error);
+    m_openError = error;
+    if (m_store)
+        result.notice = "Vexel's recorder stopped, so this window records the history now.";
+    else
+        result.error = error;
 }
 
 void Sampler::record(const Frame& frame, double now, TickResult& result)
 {
-    if (!m_store || !m_batch.add(frame) || !m_batch.due(now))
+    if (!recording() || !m_batch.add(frame) || !m_batch.due(now))
         return;
     try {
         m_batch.writeTo(*m_store);
@@ -82,6 +170,10 @@ void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
     if (!m_store)
         return;
     try {
+        if (m_store->readOnly()) {
+            result.historyBytes = m_store->usedBytes();
+            return;
+        }
         // Limits that stand in for what the user wrote (a settings file that
         // couldn't be read as written) roll history up but expire and trim
         // nothing: the user may have asked to keep more.
@@ -119,7 +211,8 @@ void Sampler::totals(double now, TickResult& result)
     if (!m_store)
         return;
     try {
-        m_batch.writeTo(*m_store);
+        if (recording())
+            m_batch.writeTo(*m_store);
         const double today = dayStart(now, 0, m_zone);
         result.today = m_store->totals(today, now);
         std::vector<DayTotal> week;
@@ -142,14 +235,21 @@ Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const Sp
     const double from = vexel::start(range, now, m_zone);
     result.from = from;
     result.to = now;
-    if (!m_store)
+    if (!m_store) {
+        result.error = m_openError;
         return result;
-    flush();
-    const auto tier = vexel::tier(range);
-    result.points = m_store->series(tier, from, now);
-    result.apps = m_store->appSeries(tier, from, now);
-    result.spikes = SpikeFinder::find(result.points, result.apps, rules);
-    result.first = m_store->firstSample();
+    }
+    // What is waiting is part of the range; a failure to write it still leaves the rest to read.
+    result.error = flush();
+    try {
+        const auto tier = vexel::tier(range);
+        result.points = m_store->series(tier, from, now);
+        result.apps = m_store->appSeries(tier, from, now);
+        result.spikes = SpikeFinder::find(result.points, result.apps, rules);
+        result.first = m_store->firstSample();
+    } catch (const std::exception& failure) {
+        result = HistoryResult{{}, {}, {}, {}, from, now, failure.what()};
+    }
     return result;
 }
 
@@ -166,18 +266,33 @@ std::optional<std::string> Sampler::saveSettings(const VexelSettings& settings, 
     }
 }
 
-void Sampler::flush()
+std::optional<std::string> Sampler::flush()
 {
-    if (m_store)
+    if (!recording())
+        return std::nullopt;
+    try {
         m_batch.writeTo(*m_store);
+        return std::nullopt;
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
 }
 
-void Sampler::erase()
+std::optional<std::string> Sampler::erase()
 {
-    if (!m_store)
-        return;
-    m_batch = HistoryBatch();
-    m_store->eraseAll();
+    if (const auto recorder = otherRecorder())
+        return "Vexel's recorder (process " + std::to_string(*recorder)
+            + ") keeps the history, so it can't be erased from this window. Stop the recorder first (systemctl "
+              "--user stop vexel-recorder).";
+    if (!recording())
+        return m_openError.value_or("There is no history to erase.");
+    try {
+        m_batch = HistoryBatch();
+        m_store->eraseAll();
+        return std::nullopt;
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
 }
 
 } // namespace vexel

@@ -31,6 +31,8 @@ struct TickResult {
     std::optional<std::vector<SysPoint>> todaySeries;
     std::optional<int64_t> historyBytes;
     std::optional<std::string> error; // the history's failure this tick
+    std::optional<std::string> notice; // something to tell once (the history file was replaced, …)
+    std::optional<int64_t> otherRecorder; // the process recording the history this one reads
 };
 
 } // namespace vexel

@@ -170,7 +170,8 @@ void HistoryPage::showModel(const AppModel& model)
         button->setPalette(palette);
     }
     const auto& history = model.history;
-    if (!history) {
+    // A history that couldn't be read is said so, never shown as an empty one.
+    if (!history || (history->error && history->points.empty())) {
         if (model.storeError)
             showEmpty(QStringLiteral("History can't be read."), qs(*model.storeError));
         else

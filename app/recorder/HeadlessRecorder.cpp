@@ -76,10 +76,8 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
     } while (!stopRequested(signals, Cadence::tickSeconds(false, settings)));
 
     int status = 0;
-    try {
-        sampler.flush();
-    } catch (const std::exception& failure) {
-        err << "History: the last minute was lost: " << failure.what() << "\n";
+    if (const auto failure = sampler.flush()) {
+        err << "History: the last minute was lost: " << *failure << "\n";
         status = 1;
     }
     settings.lastSeen = m_options.clock();

@@ -12,6 +12,7 @@
 namespace vexel {
 
 RecorderLock::RecorderLock(const std::filesystem::path& folder)
+    : m_file(folder / "recorder.lock")
 {
     try {
         Files::createPrivateFolder(folder);
@@ -19,28 +20,37 @@ RecorderLock::RecorderLock(const std::filesystem::path& folder)
         m_error = failure.what();
         return;
     }
-    const auto file = folder / "recorder.lock";
-    m_fd = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    m_fd = ::open(m_file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (m_fd < 0) {
-        m_error = "Couldn't open " + file.string() + ": " + std::strerror(errno);
+        m_error = "Couldn't open " + m_file.string() + ": " + std::strerror(errno);
         return;
     }
-    if (::flock(m_fd, LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EWOULDBLOCK)
-            m_error = "Couldn't lock " + file.string() + ": " + std::strerror(errno);
-        m_holder = TextScan::toI64(TextScan::trim(Files::read(file.string(), 64).value_or("")));
-        return;
-    }
-    m_held = true;
-    const std::string pid = std::to_string(::getpid()) + "\n";
-    if (::ftruncate(m_fd, 0) != 0 || ::pwrite(m_fd, pid.data(), pid.size(), 0) != static_cast<ssize_t>(pid.size()))
-        m_error = "Couldn't write " + file.string() + ": " + std::strerror(errno);
+    (void)take();
 }
 
 RecorderLock::~RecorderLock()
 {
     if (m_fd >= 0)
         ::close(m_fd);
+}
+
+bool RecorderLock::take()
+{
+    if (m_held || m_fd < 0)
+        return m_held;
+    if (::flock(m_fd, LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK)
+            m_error = "Couldn't lock " + m_file.string() + ": " + std::strerror(errno);
+        m_holder = TextScan::toI64(TextScan::trim(Files::read(m_file.string(), 64).value_or("")));
+        return false;
+    }
+    m_held = true;
+    m_holder.reset();
+    m_error.reset();
+    const std::string pid = std::to_string(::getpid()) + "\n";
+    if (::ftruncate(m_fd, 0) != 0 || ::pwrite(m_fd, pid.data(), pid.size(), 0) != static_cast<ssize_t>(pid.size()))
+        m_error = "Couldn't write " + m_file.string() + ": " + std::strerror(errno);
+    return true;
 }
 
 } // namespace vexel

@@ -12,12 +12,16 @@ namespace vexel {
 // kernel drops the lock with the process, however it ends.
 class RecorderLock {
 public:
-    // Takes the lock; `held()` is false when another process has it, and
-    // `holder()` then says which.
+    // Tries the lock once; `held()` is false when another process has it,
+    // and `holder()` then says which.
     explicit RecorderLock(const std::filesystem::path& folder);
     ~RecorderLock();
     RecorderLock(const RecorderLock&) = delete;
     RecorderLock& operator=(const RecorderLock&) = delete;
+
+    // Tries again, without waiting (the recorder beside the window may have
+    // stopped); whether the lock is held now.
+    bool take();
 
     [[nodiscard]] bool held() const { return m_held; }
     // The pid written by the holder, when another process holds the lock.
@@ -26,6 +30,7 @@ public:
     [[nodiscard]] const std::optional<std::string>& error() const { return m_error; }
 
 private:
+    std::filesystem::path m_file;
     int m_fd = -1;
     bool m_held = false;
     std::optional<int64_t> m_holder;

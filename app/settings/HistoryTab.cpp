@@ -59,13 +59,18 @@ void HistoryTab::showModel(const AppModel& model)
     m_filling = true;
     m_keep->select(model.settings.retentionDays);
     m_cap->select(model.settings.maxHistoryMB);
+    std::string size;
     if (model.storeError)
-        m_size->setText(QString::fromStdString("The history can't be read: " + *model.storeError));
+        size = *model.storeError;
     else if (model.historyBytes)
-        m_size->setText(QString::fromStdString(
-            "The history takes " + Fmt::bytes(static_cast<double>(*model.historyBytes)) + " on disk."));
+        size = "The history takes " + Fmt::bytes(static_cast<double>(*model.historyBytes)) + " on disk.";
     else
-        m_size->setText(QStringLiteral("Measuring the history's size…"));
+        size = "Measuring the history's size…";
+    // Beside the headless recorder, the window shows the history it keeps.
+    if (model.otherRecorder)
+        size += " Vexel's recorder (process " + std::to_string(*model.otherRecorder)
+            + ") keeps it; this window shows it and takes over when the recorder stops.";
+    m_size->setText(QString::fromStdString(size));
     m_filling = false;
 }
 

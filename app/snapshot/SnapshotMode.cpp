@@ -29,7 +29,7 @@ namespace {
 // Lets queued results arrive until the model's tick in flight is back.
 void settle(AppModel& model)
 {
-    while (model.busy())
+    while (model.working())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
 }
 

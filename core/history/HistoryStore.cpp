@@ -7,6 +7,7 @@
 #include "text/TextScan.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <cstring>
 #include <sys/stat.h>
@@ -133,6 +134,11 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
                 Files::makePrivateFile(path);
     }
     connect();
+    struct stat opened { };
+    if (::stat(m_file.c_str(), &opened) == 0) {
+        m_device = opened.st_dev;
+        m_inode = opened.st_ino;
+    }
     requireVexelsOwn(m_db.get(), m_file);
     if (m_readOnly)
         return;
@@ -416,6 +422,20 @@ int64_t HistoryStore::usedBytes() const
     } catch (const HistoryError&) {
         return 0;
     }
+}
+
+bool HistoryStore::goneFromItsPath() const
+{
+    struct stat now { };
+    if (::stat(m_file.c_str(), &now) != 0)
+        return errno == ENOENT;
+    return now.st_dev != m_device || now.st_ino != m_inode;
+}
+
+void HistoryStore::emptyLog()
+{
+    if (!m_readOnly)
+        ::sqlite3_exec(m_db.get(), "PRAGMA wal_checkpoint(TRUNCATE)", nullptr, nullptr, nullptr);
 }
 
 int64_t HistoryStore::fileBytes() const

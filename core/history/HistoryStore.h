@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace vexel {
@@ -97,6 +98,19 @@ public:
     // maxBytes, at most 400 days a time; finer tiers are never trimmed.
     void enforceCap();
 
+    // Whether the path no longer names the file this store has open: it was
+    // removed ("rm history.sqlite*") or another file was put in its place,
+    // and what is written goes where nobody will read it. False when the
+    // path can't be looked at (a folder without permission): not known gone.
+    [[nodiscard]] bool goneFromItsPath() const;
+    // Before letting go of a file gone from its path: copies the log's pages
+    // into the file and empties the log, so that a log left at the path
+    // holds nothing SQLite would lay over the file now there. Failures are
+    // ignored: the file is gone either way.
+    void emptyLog();
+    [[nodiscard]] bool readOnly() const { return m_readOnly; }
+    [[nodiscard]] const std::filesystem::path& file() const { return m_file; }
+
     // Bytes in use by pages holding data; 0 when the size cannot be read.
     [[nodiscard]] int64_t usedBytes() const;
     // The database file plus its write-ahead log on disk.
@@ -153,6 +167,9 @@ private:
 
     std::filesystem::path m_file;
     bool m_readOnly = false;
+    // The file opened, as the file system names it: device and inode.
+    dev_t m_device = 0;
+    ino_t m_inode = 0;
     // Replaced, never changed, when a reader reconnects: the rows it reads stay the same.
     mutable Sqlite::Database m_db;
     int m_txDepth = 0;

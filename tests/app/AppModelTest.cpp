@@ -6,11 +6,14 @@
 #include "ConfirmSheet.h"
 #include "DemoModel.h"
 #include "MainWindow.h"
+#include "NoticeBanner.h"
 #include "WindowKeeper.h"
 #include "actions/FakeActions.h"
+#include "pages/HistoryPage.h"
 #include "pages/OverviewFigures.h"
 #include "pages/OverviewPage.h"
 #include "snapshot/SnapshotMode.h"
+#include "support/FailingSteps.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
 
@@ -47,6 +50,15 @@ TEST(AppModel, TicksRunOnTheSamplerThreadAndNeverOverlap)
     EXPECT_EQ(demo.readings, 2);
     EXPECT_EQ(demo.model->ring.samples().size(), 2u);
     EXPECT_EQ(demo.model->tickSeconds(), 5); // hidden: the settings' interval
+
+    // A full refresh (the window opening) asked for while a partial tick
+    // runs is kept, and runs when that one is back.
+    DemoModel later;
+    later.model->refresh(false);
+    later.model->refresh(true);
+    later.settle();
+    EXPECT_EQ(later.readings, 2);
+    EXPECT_TRUE(later.model->docker) << "containers come only with a full tick while the window is hidden";
 }
 
 TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
@@ -261,4 +273,37 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     EXPECT_DOUBLE_EQ(rateFraction(1e6), 0.5);
     EXPECT_EQ(rateFraction(5e9), 1);
     EXPECT_EQ(rateFraction(std::nan("")), 0);
+}
+
+// A history that fails while the app runs (a read error, a full disk) used
+// to reach std::terminate on the sampler's thread when History opened or the
+// window came back after ten minutes away. It is shown: on the History page
+// and in the banner, with what the user can do, and the app goes on.
+TEST(AppModel, AFailingHistoryIsShownNeverACrash)
+{
+    DemoModel demo([](VexelSettings& settings) { settings.lastSeen = 1'795'000'000.0 - 3600; });
+    auto& model = *demo.model;
+    demo.now = 1'795'000'000.0;
+    demo.ticks(3, true);
+    MainWindow window(Appearance::light);
+    window.bind(model);
+    {
+        const vexel::testing::FailingSteps failing("SELECT t,dur", 0);
+        model.setRoute(Route::history);
+        model.loadHistory();
+        model.setWindowVisible(true); // the away card reads the week
+        demo.settle();
+        ASSERT_TRUE(model.storeError);
+        EXPECT_TRUE(model.storeError->starts_with("History error: ")) << *model.storeError;
+        EXPECT_TRUE(model.storeError->ends_with("Live readings go on, and Vexel tries the history again each minute."))
+            << *model.storeError;
+        EXPECT_EQ(window.banner()->texts(), QStringList{QString::fromStdString(*model.storeError)});
+        auto* history = static_cast<HistoryPage*>(window.page(Route::history));
+        history->showModel(model);
+        EXPECT_EQ(history->emptyState().value(0), QStringLiteral("History can't be read."));
+        EXPECT_TRUE(model.awaySince) << "the card still says since when, without spikes it couldn't read";
+    }
+    demo.ticks(1); // a tick that goes well clears it
+    EXPECT_FALSE(model.storeError);
+    EXPECT_TRUE(window.banner()->isHidden());
 }

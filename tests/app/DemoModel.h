@@ -60,10 +60,10 @@ struct DemoModel {
             std::move(actions), [this] { return now; }, 501, 99999, true, platform});
     }
 
-    // Waits for the tick in flight to come back.
+    // Waits for the work in flight (a tick, a history read, a save) to come back.
     void settle() const
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !model->busy(); }, 10000));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !model->working(); }, 10000));
     }
 
     // `count` ticks two seconds apart, each waited for; the first full when asked.

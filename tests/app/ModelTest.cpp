@@ -1,6 +1,7 @@
 // The model's parts that decide what a tick does: the cadence of readings,
 // the ring of recent readings and the batching of history writes.
 
+#include "io/Files.h"
 #include "model/Cadence.h"
 #include "model/HistoryBatch.h"
 #include "model/RecentRing.h"
@@ -9,6 +10,7 @@
 #include "synth/DemoWorld.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <sys/stat.h>
 
@@ -297,4 +299,114 @@ TEST(Sampler, HistoryIsNeverExpiredOnLimitsTheUserDidNotWrite)
             kept.push_back(std::round((now - point.t) / 86400));
         EXPECT_EQ(kept, c.daysKept) << c.settings << " with a cap of " << c.maxBytes;
     }
+}
+
+// `rm history.sqlite*` while recording: the recorder used to go on writing
+// into the deleted file, and lose all of it at the stop. It notices before
+// its next write, says so and starts a new file with the points still
+// waiting. A file put in the history's place is recorded into when it is a
+// Vexel history (a backup put back), and refused, untouched, when not.
+TEST(Sampler, AHistoryRemovedOrReplacedWhileRecordingIsNoticed)
+{
+    DemoSampler demo;
+    const double start = demo.world.now();
+    (void)demo.tickAt(start);
+    for (int i = 1; i <= 10; ++i)
+        (void)demo.tickAt(start + 2 * i); // twenty seconds of points wait to be written
+    const std::string history = demo.paths.history().string();
+    for (const char* companion : {"", "-wal", "-shm"})
+        std::filesystem::remove(history + companion);
+    const auto noticed = demo.tickAt(start + 22);
+    ASSERT_TRUE(noticed.notice);
+    EXPECT_NE(noticed.notice->find(history + " was removed or replaced"), std::string::npos) << *noticed.notice;
+    EXPECT_FALSE(noticed.error);
+    EXPECT_FALSE(demo.sampler.flush());
+    EXPECT_EQ(demo.storedRows(), 11) << "the waiting points are in the new file";
+
+    // A backup put back in its place (the old log still beside it).
+    const auto backup = demo.folder.path() / "backup.sqlite";
+    {
+        HistoryStore other(backup, HistoryAccess::readWrite);
+        SysPoint kept;
+        kept.t = start - 600;
+        kept.dur = 5;
+        other.insert(HistoryTier::raw, kept, {});
+    }
+    std::filesystem::rename(backup, history);
+    (void)demo.tickAt(start + 24);
+    EXPECT_FALSE(demo.sampler.flush());
+    EXPECT_EQ(demo.storedRows(), 2) << "the backup's row and the one written since, nothing of the old log";
+
+    // Another program's file: refused, named, and left as it was.
+    const auto foreign = demo.folder.path() / "notes.sqlite";
+    sqlite3* db = nullptr;
+    ASSERT_EQ(::sqlite3_open(foreign.c_str(), &db), SQLITE_OK);
+    ASSERT_EQ(
+        ::sqlite3_exec(db, "CREATE TABLE notes(text); INSERT INTO notes VALUES('mine');", nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    ::sqlite3_close(db);
+    const auto bytes = vexel::Files::read(foreign.string());
+    std::filesystem::rename(foreign, history);
+    const auto refused = demo.tickAt(start + 26);
+    ASSERT_TRUE(refused.error);
+    EXPECT_NE(refused.error->find(history + " isn't a Vexel history"), std::string::npos) << *refused.error;
+    EXPECT_FALSE(demo.sampler.recording());
+    EXPECT_EQ(vexel::Files::read(history), bytes);
+}
+
+// The window beside the headless recorder used to open no history at all
+// ("History starts now", an empty week). It reads the recorder's history:
+// today's totals and series, the History page's range, refreshed with each
+// minute; it cannot erase what it doesn't keep; and when the recorder stops
+// it takes the recording over in the same file.
+TEST(Sampler, TheWindowReadsTheRecordersHistoryAndTakesOverWhenItStops)
+{
+    const vexel::testing::TempFolder folder("vexel-sampler");
+    const VexelPaths paths(folder.path());
+    DemoWorld world;
+    const double start = world.now();
+    auto recorderLock = std::make_unique<RecorderLock>(paths.dir);
+    ASSERT_TRUE(recorderLock->held());
+    std::optional<std::string> error;
+    auto recorder
+        = std::make_unique<Sampler>(world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
+    recorder->beforeSample = [&](double now) { world.advance(now - world.now()); };
+    double now = start;
+    const auto record = [&](int ticks) {
+        for (int i = 0; i < ticks; ++i, now += 5)
+            (void)recorder->tick(now, {.record = true});
+        EXPECT_FALSE(recorder->flush());
+    };
+    record(13);
+
+    DemoWorld screen;
+    Sampler window(screen.monitor(), nullptr, paths, TimeZone::fixed(0));
+    window.recordUnder(std::make_unique<RecorderLock>(paths.dir));
+    EXPECT_FALSE(window.recording());
+    const TickPlan minute{.record = true, .compact = true, .totals = true};
+    const auto first = window.tick(now, minute);
+    EXPECT_FALSE(first.error) << *first.error;
+    EXPECT_EQ(first.otherRecorder, ::getpid());
+    ASSERT_TRUE(first.today && first.todaySeries);
+    EXPECT_GT(first.today->diskW, 0);
+    EXPECT_FALSE(window.history(HistoryRange::today, now, SpikeRules{}).points.empty());
+    const auto refused = window.erase();
+    ASSERT_TRUE(refused);
+    EXPECT_NE(refused->find("keeps the history, so it can't be erased from this window"), std::string::npos);
+
+    record(12); // a minute on, the window sees it
+    const auto later = window.tick(now, minute);
+    EXPECT_GT(later.today->diskW, first.today->diskW);
+
+    recorder.reset();
+    recorderLock.reset(); // the recorder stops
+    const auto takeOver = window.tick(now, minute);
+    EXPECT_EQ(takeOver.notice, "Vexel's recorder stopped, so this window records the history now.");
+    EXPECT_FALSE(takeOver.otherRecorder);
+    EXPECT_TRUE(window.recording());
+    for (int i = 1; i <= 3; ++i)
+        (void)window.tick(now + 2 * i, {.record = true});
+    EXPECT_FALSE(window.flush());
+    const HistoryStore stored(paths.history(), HistoryAccess::readOnly);
+    EXPECT_EQ(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 12 + 12 + 3) << "one file, both writers' rows";
 }

@@ -205,7 +205,7 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
     auto& model = *demo->model;
     HistoryPage page(Appearance::light, nullptr);
     const double now = demo->now;
-    model.history = Sampler::HistoryResult{{}, {}, {}, std::nullopt, now - 3600, now};
+    model.history = Sampler::HistoryResult{{}, {}, {}, std::nullopt, now - 3600, now, std::nullopt};
     page.showModel(model);
     EXPECT_EQ(page.emptyState(),
         (QStringList{"History starts now.",
