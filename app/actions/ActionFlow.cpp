@@ -44,6 +44,19 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
         m_hooks.toast(app.name + " can't be quit from Vexel.");
         return;
     }
+    // The main process first, then its helpers, which a forced quit ends too.
+    std::vector<Held> held;
+    if (const auto* main = mainProcess(app))
+        if (auto process = m_actions.hold(main->pid))
+            held.push_back(std::move(process));
+    for (const auto& row : app.processes)
+        if (force && (held.empty() || row.pid != held.front()->pid()))
+            if (auto process = m_actions.hold(row.pid))
+                held.push_back(std::move(process));
+    if (held.empty()) {
+        m_hooks.toast(app.name + " has already quit.");
+        return;
+    }
     ConfirmRequest request;
     request.title = (force ? "Force quit " : "Quit ") + app.name + "?";
     request.message = force
@@ -52,13 +65,13 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
     request.message += helperSentence(app);
     request.button = force ? "Force Quit" : "Quit";
     request.destructive = force;
-    request.confirm = [this, app, force] { performQuit(app, force); };
+    request.confirm = [this, app, held, force] { performQuit(app, held, force); };
     m_hooks.ask(std::move(request));
 }
 
-void ActionFlow::performQuit(const AppGroup& app, bool force)
+void ActionFlow::performQuit(const AppGroup& app, const std::vector<Held>& processes, bool force)
 {
-    if (!m_actions.quit(app, force))
+    if (!m_actions.quit(app, processes, force))
         m_hooks.toast(app.name + " didn't respond to Quit.");
     else
         m_hooks.toast(force ? "Force quit " + app.name : "Asked " + app.name + " to quit.");
@@ -66,6 +79,18 @@ void ActionFlow::performQuit(const AppGroup& app, bool force)
 
 void ActionFlow::requestStop(int32_t pid, const std::string& name, const std::vector<std::string>& context, bool force)
 {
+    auto process = m_actions.hold(pid);
+    if (!process) {
+        m_hooks.toast(name + " (process " + std::to_string(pid) + ") has already exited.");
+        return;
+    }
+    askStop(process, name, context, force);
+}
+
+void ActionFlow::askStop(
+    const Held& process, const std::string& name, const std::vector<std::string>& context, bool force)
+{
+    const int32_t pid = process->pid();
     ConfirmRequest request;
     request.title = (force ? "Force stop " : "Stop ") + name + "?";
     request.message = force
@@ -76,14 +101,14 @@ void ActionFlow::requestStop(int32_t pid, const std::string& name, const std::ve
         request.message += "\n" + line;
     request.button = force ? "Force Stop" : "Stop";
     request.destructive = force;
-    request.confirm = [this, pid, name, force] { performStop(pid, name, force); };
+    request.confirm = [this, process, name, force] { performStop(process, name, force); };
     m_hooks.ask(std::move(request));
 }
 
-void ActionFlow::performStop(int32_t pid, const std::string& name, bool force)
+void ActionFlow::performStop(const Held& process, const std::string& name, bool force)
 {
-    const std::string who = name + " (process " + std::to_string(pid) + ")";
-    if (!m_actions.signal(pid, force ? SIGKILL : SIGTERM)) {
+    const std::string who = name + " (process " + std::to_string(process->pid()) + ")";
+    if (!m_actions.signal(*process, force ? SIGKILL : SIGTERM)) {
         m_hooks.toast("Couldn't signal " + who + ". It may have already exited.");
         return;
     }
@@ -92,9 +117,9 @@ void ActionFlow::performStop(int32_t pid, const std::string& name, bool force)
     if (force)
         return;
     // A process that ignores SIGTERM is offered the force, never sent it unasked.
-    m_hooks.after(forceOfferDelay, [this, pid, name] {
-        if (m_actions.isAlive(pid))
-            requestStop(pid, name, {name + " is still running after SIGTERM."}, true);
+    m_hooks.after(forceOfferDelay, [this, process, name] {
+        if (m_actions.isAlive(*process))
+            askStop(process, name, {name + " is still running after SIGTERM."}, true);
     });
 }
 

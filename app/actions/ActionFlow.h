@@ -45,13 +45,18 @@ public:
     [[nodiscard]] bool allows(const AppGroup& app) const { return canQuit(app, m_myUID, m_myPid); }
     [[nodiscard]] uint32_t myUID() const { return m_myUID; }
 
+    // Each question holds the processes it is about from the moment it is
+    // asked (ProcessActions::hold), and its answer goes to those, however
+    // long the sheet stays open; a process that ended before is said so.
     void requestQuit(const AppGroup& app, bool force);
-    void performQuit(const AppGroup& app, bool force);
+    void performQuit(const AppGroup& app, const std::vector<Held>& processes, bool force);
     // `context` adds lines to the message (a server's port, its project).
     void requestStop(int32_t pid, const std::string& name, const std::vector<std::string>& context, bool force);
-    void performStop(int32_t pid, const std::string& name, bool force);
+    void performStop(const Held& process, const std::string& name, bool force);
 
 private:
+    void askStop(const Held& process, const std::string& name, const std::vector<std::string>& context, bool force);
+
     ProcessActions& m_actions;
     Hooks m_hooks;
     uint32_t m_myUID;

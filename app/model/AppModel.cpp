@@ -54,10 +54,7 @@ AppModel::AppModel(Setup setup)
     , m_observesVisibility(setup.observesVisibility)
     , m_actions(std::move(setup.actions))
 {
-    ActionFlow::Hooks hooks{[this](ConfirmRequest request) {
-                                confirm = std::move(request);
-                                notify(confirmChanged);
-                            },
+    ActionFlow::Hooks hooks{[this](ConfirmRequest request) { ask(std::move(request)); },
         [this](std::string text) { tell(std::move(text)); },
         [this] {
             // The stopped server leaves the list at the next scan, about a second on.
@@ -75,6 +72,8 @@ AppModel::AppModel(Setup setup)
     m_sampler->run([this](Sampler& sampler) {
         settings = sampler.settingsFile().settings();
         notices = sampler.settingsFile().messages();
+        std::error_code missing;
+        openAtLogin = std::filesystem::exists(autostartFile(), missing);
         if (sampler.openError())
             m_openError = *sampler.openError();
     });
@@ -319,7 +318,28 @@ void AppModel::eraseHistory()
                 loadHistory();
             });
     };
+    ask(std::move(request));
+}
+
+void AppModel::ask(ConfirmRequest request)
+{
+    qCInfo(actionsLog) << "asks:" << request.title.c_str();
+    // A question the user is reading is never swapped for another (the
+    // force offered four seconds after a stop): the new one waits its turn.
+    if (confirm) {
+        m_questions.push_back(std::move(request));
+        return;
+    }
     confirm = std::move(request);
+    notify(confirmChanged);
+}
+
+void AppModel::nextQuestion()
+{
+    if (!confirm && !m_questions.empty()) {
+        confirm = std::move(m_questions.front());
+        m_questions.pop_front();
+    }
     notify(confirmChanged);
 }
 
@@ -327,15 +347,15 @@ void AppModel::confirmPending()
 {
     auto request = std::move(confirm);
     confirm.reset();
-    notify(confirmChanged);
     if (request && request->confirm)
         request->confirm();
+    nextQuestion();
 }
 
 void AppModel::cancelPending()
 {
     confirm.reset();
-    notify(confirmChanged);
+    nextQuestion();
 }
 
 void AppModel::tell(std::string text)
@@ -438,28 +458,28 @@ void AppModel::reveal(const std::string& path)
 
 void AppModel::setOpenAtLogin(bool open)
 {
-    const auto file = autostartFile();
-    loginItemError.reset();
-    try {
-        if (open) {
-            std::filesystem::create_directories(file.parent_path());
-            AtomicFile::write(file,
-                "[Desktop Entry]\nType=Application\nName=Vexel\nExec="
-                    + QCoreApplication::applicationFilePath().toStdString()
-                    + " --hidden\nX-GNOME-Autostart-enabled=true\n");
-        } else {
-            std::filesystem::remove(file);
-        }
-    } catch (const std::exception& failure) {
-        loginItemError = failure.what();
-    }
-    notify(loginItemChanged);
-}
-
-bool AppModel::opensAtLogin() const
-{
-    std::error_code error;
-    return std::filesystem::exists(autostartFile(), error);
+    const std::string program = QCoreApplication::applicationFilePath().toStdString();
+    onSampler<std::optional<std::string>>(
+        [open, program](Sampler&) -> std::optional<std::string> {
+            const auto file = autostartFile();
+            try {
+                if (open)
+                    AtomicFile::write(file,
+                        "[Desktop Entry]\nType=Application\nName=Vexel\nExec=" + program
+                            + " --hidden\nX-GNOME-Autostart-enabled=true\n");
+                else
+                    std::filesystem::remove(file);
+                return std::nullopt;
+            } catch (const std::exception& failure) {
+                return failure.what();
+            }
+        },
+        [this, open](std::optional<std::string> failed) {
+            loginItemError = std::move(failed);
+            if (!loginItemError)
+                openAtLogin = open;
+            notify(loginItemChanged);
+        });
 }
 
 } // namespace vexel

@@ -16,6 +16,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -94,6 +95,7 @@ public:
     RecentRing ring;
     bool windowVisible = false;
     int cores = 1;
+    bool openAtLogin = false; // the autostart entry is there
     std::optional<std::string> loginItemError; // shown under "Open Vexel at login"
     bool firstLaunch = false; // no earlier run was marked onboarded: this one may introduce Vexel
 
@@ -159,9 +161,10 @@ public:
     [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return ring.peak(field); }
     [[nodiscard]] std::vector<AppGroup> apps(AppSort by, size_t limit) const;
 
-    // "Open Vexel at login": the autostart entry of the desktop session.
+    // "Open Vexel at login": the autostart entry of the desktop session,
+    // written or removed on the sampler's thread.
     void setOpenAtLogin(bool open);
-    [[nodiscard]] bool opensAtLogin() const;
+    [[nodiscard]] bool opensAtLogin() const { return openAtLogin; }
 
     // Seconds between ticks now.
     [[nodiscard]] double tickSeconds() const { return Cadence::tickSeconds(windowVisible, settings); }
@@ -173,6 +176,8 @@ private:
     void schedule();
     void apply(TickResult result);
     void setStoreError(std::optional<std::string> error);
+    void ask(ConfirmRequest request);
+    void nextQuestion();
     // Runs `work` on the sampler's thread, then `done` here with its result.
     template <typename Result> void onSampler(std::function<Result(Sampler&)> work, std::function<void(Result)> done)
     {
@@ -196,6 +201,7 @@ private:
     bool m_busyFull = false; // the tick in flight is a full one
     bool m_fullPending = false; // a full refresh asked for while a partial tick ran
     int m_inFlight = 0;
+    std::deque<ConfirmRequest> m_questions; // asked while another was on screen
     std::optional<std::string> m_openError;
     std::unique_ptr<ProcessActions> m_actions;
     std::unique_ptr<ActionFlow> m_flow;

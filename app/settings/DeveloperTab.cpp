@@ -1,5 +1,6 @@
 #include "settings/DeveloperTab.h"
 
+#include "BackgroundWork.h"
 #include "actions/CommandLineSetup.h"
 #include "look/Buttons.h"
 #include "look/Labels.h"
@@ -36,6 +37,8 @@ DeveloperTab::DeveloperTab(Appearance appearance, Places places, QWidget* parent
     column()->addWidget(claude, 0, Qt::AlignLeft);
     column()->addWidget(
         Look::explanation(QStringLiteral("Adds Vexel's read-only MCP server to Claude Code."), appearance, this));
+    m_install = install;
+    m_claude = claude;
     m_outcome = Look::line(this);
     m_outcome->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_outcome->hide();
@@ -54,16 +57,30 @@ void DeveloperTab::showModel(const AppModel& model)
 
 void DeveloperTab::installCommand()
 {
-    const auto outcome = CommandLineSetup::installCommand(m_places.vexel, m_places.home);
-    m_outcome->setText(QString::fromStdString(outcome.text));
-    m_outcome->show();
+    runStep(m_install, QStringLiteral("Installing…"),
+        [places = m_places] { return CommandLineSetup::installCommand(places.vexel, places.home); });
 }
 
 void DeveloperTab::addToClaude()
 {
-    const auto outcome = CommandLineSetup::addToClaude(m_places.findClaude(), m_places.home);
-    m_outcome->setText(QString::fromStdString(outcome.text));
-    m_outcome->show();
+    // claude may take seconds to answer (it is given twenty).
+    runStep(m_claude, QStringLiteral("Adding…"),
+        [places = m_places] { return CommandLineSetup::addToClaude(places.findClaude(), places.home); });
+}
+
+void DeveloperTab::runStep(QPushButton* button, const QString& working, std::function<CommandLineSetup::Outcome()> step)
+{
+    const QString label = button->text();
+    button->setText(working);
+    button->setEnabled(false);
+    inBackground<CommandLineSetup::Outcome>(
+        this, std::move(step), [this, button, label](CommandLineSetup::Outcome outcome) {
+            button->setText(label);
+            button->setEnabled(true);
+            m_outcome->setText(QString::fromStdString(outcome.text));
+            m_outcome->show();
+            emit stepDone();
+        });
 }
 
 QString DeveloperTab::outcomeText() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/CommandLineSetup.h"
 #include "settings/SettingsTab.h"
 
 #include <filesystem>
@@ -8,6 +9,7 @@
 #include <string>
 
 class QLabel;
+class QPushButton;
 
 namespace vexel {
 
@@ -16,6 +18,8 @@ class ChoiceBox;
 // Developer: when a dev server counts as idle, and setting up the command
 // line and the MCP server for AI assistants.
 class DeveloperTab final : public SettingsTab {
+    Q_OBJECT
+
 public:
     // Where things are: the vexel command beside the app, the home folder,
     // and Claude Code's claude command when it is installed.
@@ -30,13 +34,23 @@ public:
     void showModel(const AppModel& model) override;
 
     [[nodiscard]] ChoiceBox* idle() const { return m_idle; }
+    // Each step runs away from the window: its button says it is working
+    // until the outcome shows below.
     void installCommand();
     void addToClaude();
     [[nodiscard]] QString outcomeText() const;
+    [[nodiscard]] QPushButton* claudeButton() const { return m_claude; }
+
+signals:
+    void stepDone();
 
 private:
+    void runStep(QPushButton* button, const QString& working, std::function<CommandLineSetup::Outcome()> step);
+
     Places m_places;
     ChoiceBox* m_idle = nullptr;
+    QPushButton* m_install = nullptr;
+    QPushButton* m_claude = nullptr;
     QLabel* m_outcome = nullptr;
 };
 

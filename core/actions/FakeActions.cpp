@@ -2,20 +2,25 @@
 
 namespace vexel {
 
-bool FakeActions::quit(const AppGroup& app, bool force)
+Held FakeActions::hold(int32_t pid)
+{
+    return std::make_shared<const HeldProcess>(pid);
+}
+
+bool FakeActions::quit(const AppGroup& app, const std::vector<Held>&, bool force)
 {
     log.push_back((force ? "forceQuit " : "quit ") + app.name);
     return true;
 }
 
-bool FakeActions::signal(int32_t pid, int32_t)
+bool FakeActions::signal(const HeldProcess& process, int32_t)
 {
-    return alive.erase(pid) > 0;
+    return alive.erase(process.pid()) > 0;
 }
 
-bool FakeActions::isAlive(int32_t pid)
+bool FakeActions::isAlive(const HeldProcess& process)
 {
-    return alive.contains(pid);
+    return alive.contains(process.pid());
 }
 
 void FakeActions::reveal(const std::string& path)

@@ -13,9 +13,10 @@ namespace vexel {
 // holds the pids that count as running, and a signal takes its pid out.
 class FakeActions final : public ProcessActions {
 public:
-    bool quit(const AppGroup& app, bool force) override;
-    bool signal(int32_t pid, int32_t sig) override;
-    [[nodiscard]] bool isAlive(int32_t pid) override;
+    [[nodiscard]] Held hold(int32_t pid) override;
+    bool quit(const AppGroup& app, const std::vector<Held>& processes, bool force) override;
+    bool signal(const HeldProcess& process, int32_t sig) override;
+    [[nodiscard]] bool isAlive(const HeldProcess& process) override;
     void reveal(const std::string& path) override;
     void copy(const std::string& text) override;
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "actions/HeldProcess.h"
 #include "grouping/AppGroup.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace vexel {
 
@@ -13,11 +15,15 @@ class ProcessActions {
 public:
     virtual ~ProcessActions() = default;
 
-    // Asks the app to quit (or forces it); true when the request was accepted.
-    virtual bool quit(const AppGroup& app, bool force) = 0;
-    // Sends a signal; true on success.
-    virtual bool signal(int32_t pid, int32_t sig) = 0;
-    [[nodiscard]] virtual bool isAlive(int32_t pid) = 0;
+    // Holds a process from now on, for a question about it; nothing when it
+    // has already ended.
+    [[nodiscard]] virtual Held hold(int32_t pid) = 0;
+    // Asks the app to quit (or forces it) through its processes held when
+    // the question was asked, its main process first; true when accepted.
+    virtual bool quit(const AppGroup& app, const std::vector<Held>& processes, bool force) = 0;
+    // Sends a signal to a held process; true on success.
+    virtual bool signal(const HeldProcess& process, int32_t sig) = 0;
+    [[nodiscard]] virtual bool isAlive(const HeldProcess& process) = 0;
     // Shows the file or folder in the file browser.
     virtual void reveal(const std::string& path) = 0;
     // Puts the text on the clipboard.

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
 #include <map>
 #include <optional>
 #include <sys/wait.h>
@@ -42,13 +43,14 @@ AppGroup app(const std::string& name, AppKind kind, int helpers, uint32_t uid = 
 // Processes that ignore SIGTERM: every signal is recorded, none ends them.
 class StubbornActions final : public ProcessActions {
 public:
-    bool quit(const AppGroup&, bool) override { return false; }
-    bool signal(int32_t pid, int32_t sig) override
+    [[nodiscard]] Held hold(int32_t pid) override { return std::make_shared<const HeldProcess>(pid); }
+    bool quit(const AppGroup&, const std::vector<Held>&, bool) override { return false; }
+    bool signal(const HeldProcess& process, int32_t sig) override
     {
-        sent.emplace_back(pid, sig);
+        sent.emplace_back(process.pid(), sig);
         return true;
     }
-    [[nodiscard]] bool isAlive(int32_t) override { return true; }
+    [[nodiscard]] bool isAlive(const HeldProcess&) override { return true; }
     void reveal(const std::string&) override { }
     void copy(const std::string&) override { }
     std::vector<std::pair<int32_t, int32_t>> sent;
@@ -139,7 +141,7 @@ TEST(ActionFlow, QuitIsAskedThenDoneAndCancelChangesNothing)
 
     StubbornActions refusing;
     ActionFlow refused(refusing, screen.hooks(), me, vexelPid);
-    refused.performQuit(app("Slack", AppKind::app, 0), false);
+    refused.performQuit(app("Slack", AppKind::app, 0), {refusing.hold(500)}, false);
     EXPECT_EQ(screen.toasts.back(), "Slack didn't respond to Quit.");
 }
 
@@ -180,10 +182,10 @@ TEST(ActionFlow, AStopThatEndsTheProcessOffersNothingMoreAndAFailedOneSaysSo)
     fake.alive = {4242};
     Screen screen;
     ActionFlow flow(fake, screen.hooks(), me, vexelPid);
-    flow.performStop(4242, "node", false);
+    flow.performStop(fake.hold(4242), "node", false);
     screen.advance(5);
     EXPECT_FALSE(screen.sheet);
-    flow.performStop(4242, "node", false); // gone already
+    flow.performStop(fake.hold(4242), "node", false); // gone already
     EXPECT_EQ(screen.toasts.back(), "Couldn't signal node (process 4242). It may have already exited.");
     EXPECT_EQ(screen.rescans, 1);
 }
@@ -193,14 +195,49 @@ TEST(LiveActions, SignalsAliveAndTheClipboard)
     vexel::testing::ChildProcess sleeper({"sleep", "30"});
     ASSERT_NE(sleeper.pid(), 0);
     LiveActions live;
-    EXPECT_TRUE(live.isAlive(sleeper.pid()));
+    const auto held = live.hold(sleeper.pid());
+    ASSERT_TRUE(held);
+    EXPECT_TRUE(live.isAlive(*held));
     AppGroup group = app("sleep", AppKind::app, 0, static_cast<uint32_t>(::getuid()), sleeper.pid());
-    EXPECT_TRUE(live.quit(group, false)); // SIGTERM to the main process
+    EXPECT_TRUE(live.quit(group, {held}, false)); // SIGTERM to the main process
     const int status = sleeper.wait();
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM) << status;
-    EXPECT_FALSE(live.isAlive(sleeper.pid()));
-    EXPECT_FALSE(live.signal(sleeper.pid(), SIGTERM));
-    EXPECT_TRUE(live.isAlive(1)); // not ours to signal, but there
+    EXPECT_FALSE(live.isAlive(*held));
+    EXPECT_FALSE(live.signal(*held, SIGTERM));
+    EXPECT_FALSE(live.hold(sleeper.pid())) << "ended and reaped: nothing to hold";
+    const auto init = live.hold(1);
+    ASSERT_TRUE(init);
+    EXPECT_TRUE(live.isAlive(*init)); // not ours to signal, but there
     live.copy("vexel top --sort memory");
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "vexel top --sort memory");
+}
+
+// The sheet asking to force quit stays open while the app ends and its pid
+// is given to a new process: confirming must not kill the new one. The pid
+// is handed on for real, by setting the kernel's last pid (root only).
+TEST(LiveActions, AnAnswerNeverReachesTheProcessThatTookTheNumber)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to set /proc/sys/kernel/ns_last_pid; CI runs as root";
+    LiveActions live;
+    Screen screen;
+    ActionFlow flow(live, screen.hooks(), static_cast<uint32_t>(::getuid()), vexelPid);
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        std::optional<vexel::testing::ChildProcess> first(std::in_place, std::vector<std::string>{"sleep", "30"});
+        const pid_t pid = first->pid();
+        flow.requestQuit(app("sleep", AppKind::app, 0, static_cast<uint32_t>(::getuid()), pid), true);
+        ASSERT_TRUE(screen.sheet);
+        first.reset(); // the app ends while the question is open
+        std::ofstream("/proc/sys/kernel/ns_last_pid") << pid - 1;
+        vexel::testing::ChildProcess second({"sleep", "30"});
+        if (second.pid() != pid)
+            continue; // another process took the number first: try again
+        screen.confirm();
+        EXPECT_EQ(screen.toasts.back(), "sleep didn't respond to Quit.");
+        const auto stillThere = live.hold(second.pid());
+        ASSERT_TRUE(stillThere);
+        EXPECT_TRUE(live.isAlive(*stillThere)) << "the process that took the number was killed";
+        return;
+    }
+    FAIL() << "no pid was handed on in 20 tries";
 }

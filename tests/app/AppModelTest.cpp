@@ -108,12 +108,36 @@ TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
     EXPECT_EQ(demo.model->toast, "Asked " + quittable->name + " to quit.");
 }
 
+// A question that comes while the user reads another (the force offered
+// four seconds after a stop) waits its turn instead of taking its place.
+TEST(AppModel, QuestionsWaitTheirTurn)
+{
+    DemoModel demo;
+    demo.ticks(1, true);
+    auto& model = *demo.model;
+    const auto apps = model.apps(AppSort::memory, 100);
+    const auto quittable
+        = std::ranges::find_if(apps, [](const AppGroup& app) { return ActionFlow::canQuit(app, 501, 99999); });
+    ASSERT_NE(quittable, apps.end());
+    model.actions().requestQuit(*quittable, false);
+    model.actions().requestStop(4242, "node", {}, true);
+    ASSERT_TRUE(model.confirm);
+    EXPECT_EQ(model.confirm->title, "Quit " + quittable->name + "?");
+    model.cancelPending();
+    ASSERT_TRUE(model.confirm);
+    EXPECT_EQ(model.confirm->title, "Force stop node?");
+    model.cancelPending();
+    EXPECT_FALSE(model.confirm);
+    EXPECT_TRUE(demo.fake->log.empty());
+}
+
 TEST(AppModel, LoginItemAndLastSeen)
 {
     DemoModel demo;
     const auto config = demo.folder.path() / "config";
     ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
     demo.model->setOpenAtLogin(true);
+    demo.settle(); // written on the sampler's thread
     EXPECT_FALSE(demo.model->loginItemError);
     EXPECT_TRUE(demo.model->opensAtLogin());
     std::ifstream entry(config / "autostart" / "dev.vexel.Vexel.desktop");
@@ -121,11 +145,15 @@ TEST(AppModel, LoginItemAndLastSeen)
     EXPECT_NE(text.find("Exec="), std::string::npos);
     EXPECT_NE(text.find(" --hidden\n"), std::string::npos);
     demo.model->setOpenAtLogin(false);
+    demo.settle();
     EXPECT_FALSE(demo.model->opensAtLogin());
+    EXPECT_FALSE(std::filesystem::exists(config / "autostart" / "dev.vexel.Vexel.desktop"));
     std::ofstream(demo.folder.path() / "a-file") << "x";
     ::setenv("XDG_CONFIG_HOME", (demo.folder.path() / "a-file").c_str(), 1);
     demo.model->setOpenAtLogin(true);
+    demo.settle();
     EXPECT_TRUE(demo.model->loginItemError); // shown under the control
+    EXPECT_FALSE(demo.model->opensAtLogin());
     ::unsetenv("XDG_CONFIG_HOME");
 
     demo.now = 1'800'000'000;

@@ -19,7 +19,9 @@
 #include "texts/QtText.h"
 
 #include <QAction>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -227,4 +229,28 @@ TEST(Settings, ABrokenFileIsShownLeftAloneAndKeptAsideAtTheUsersChange)
         << *demo->model->toast;
     EXPECT_EQ(vexel::Files::read(file.string() + ".broken"), broken);
     EXPECT_EQ(VexelSettings::load(file).sampleSeconds, 10);
+}
+
+// Adding Vexel to Claude Code runs claude, which may take many seconds: the
+// window goes on while it does, the button saying so. This claude answers
+// only once the test has got its turn back from the click, so a click that
+// waited for it would wait out claude's whole time-out and fail.
+TEST(Settings, AddingToClaudeNeverHoldsTheWindow)
+{
+    TempFolder home("vexel-home");
+    const auto claude = home.path() / "claude";
+    const auto go = home.path() / "go";
+    std::ofstream(claude) << "#!/bin/sh\nwhile [ ! -e " << go.string() << " ]; do sleep 0.05; done\necho Added\n";
+    std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
+    DeveloperTab tab(
+        Appearance::light, {"/nonexistent/vexel", home.path(), [claude] { return claude.string(); }}, nullptr);
+    QSignalSpy done(&tab, &DeveloperTab::stepDone);
+    tab.addToClaude();
+    EXPECT_FALSE(tab.claudeButton()->isEnabled());
+    EXPECT_EQ(tab.claudeButton()->text(), QStringLiteral("Adding…"));
+    std::ofstream(go) << "";
+    ASSERT_TRUE(done.wait(15000));
+    EXPECT_EQ(tab.outcomeText(), QStringLiteral("Added Vexel's read-only MCP server to Claude Code."));
+    EXPECT_TRUE(tab.claudeButton()->isEnabled());
+    EXPECT_EQ(tab.claudeButton()->text(), QStringLiteral("Add to Claude Code"));
 }
