@@ -2,12 +2,14 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "SingleInstance.h"
 #include "StopSignals.h"
 #include "VexelCommands.h"
 #include "WindowKeeper.h"
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
 #include "panel/MenuBarController.h"
+#include "panel/PanelHost.h"
 #include "platform/Environment.h"
 #include "processes/Shell.h"
 #include "recorder/HeadlessRecorder.h"
@@ -18,13 +20,13 @@
 #include <QApplication>
 #include <QSocketNotifier>
 #include <QStyleHints>
-#include <QSystemTrayIcon>
 
 #include <csignal>
 #include <iostream>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include <optional>
 #include <string_view>
 
 namespace vexel {
@@ -96,6 +98,71 @@ bool hasArgument(int argc, char** argv, std::string_view wanted)
 
 } // namespace
 
+namespace {
+
+// The window, the settings, the panel's items and the model, until Vexel is quit.
+int runWindow(SingleInstance& instance, bool hidden)
+{
+    const auto paths = VexelPaths::standard();
+    AppModel model(liveSetup(paths));
+    // What of the settings could not be used goes to the journal too.
+    for (const auto& notice : model.notices)
+        std::cerr << notice << "\n";
+    MainWindow window(systemAppearance());
+    window.bind(model);
+    SettingsWindow settings(systemAppearance(), commandLinePlaces());
+    settings.bind(model);
+    const auto showSettings = [&settings](std::optional<SettingsWindow::Tab> tab) {
+        if (tab)
+            settings.showTab(*tab);
+        settings.show();
+        settings.raise();
+        settings.activateWindow();
+    };
+    VexelCommands commands(window, model, [showSettings] { showSettings(std::nullopt); });
+    WindowKeeper keeper(window, model);
+    const auto showWindow = [&window] {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    };
+    // exit, not quit: quit would first ask the window to close, and closing only puts it out of the way.
+    const auto quit = [] { QCoreApplication::exit(0); };
+    MenuBarController panel(model, panelAppearance(), systemAppearance(),
+        {showWindow, [showSettings] { showSettings(SettingsWindow::Tab::panel); }, quit});
+    // The panel's status area is followed as it comes and goes; without
+    // items in it, the window stays the way back.
+    PanelHost host;
+    const auto follow = [&keeper, &panel, &host] {
+        keeper.setPanel({host.present(), host.present() && !panel.order().empty()});
+    };
+    QObject::connect(&host, &PanelHost::changed, &keeper, [&panel, follow](bool present) {
+        if (present)
+            panel.start();
+        else
+            panel.stop();
+        follow();
+    });
+    QObject::connect(&model, &AppModel::changed, &keeper, [follow](unsigned what) {
+        if (what & AppModel::settingsChanged)
+            follow();
+    });
+    // Another launch asks for the window; the desktop's Quit action ends Vexel.
+    QObject::connect(&instance, &SingleInstance::activated, &window, [showWindow](const QString& token) {
+        if (!token.isEmpty())
+            qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+        showWindow();
+    });
+    QObject::connect(&instance, &SingleInstance::quitRequested, &window, quit);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
+    model.start();
+    host.start();
+    keeper.showAtStart(hidden);
+    return QApplication::exec();
+}
+
+} // namespace
+
 int runDesktopApp(int& argc, char** argv)
 {
     // Recording without a desktop needs no Qt at all.
@@ -109,55 +176,24 @@ int runDesktopApp(int& argc, char** argv)
         ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication app(argc, argv);
     quitOnStopSignals(app);
+    // With items in the panel, closing the window only hides it: Vexel goes on until it is quit.
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
     if (snapshot)
         return runSnapshotMode(*snapshot);
-    const auto paths = VexelPaths::standard();
-    AppModel model(liveSetup(paths));
-    // What of the settings could not be used goes to the journal too.
-    for (const auto& notice : model.notices)
-        std::cerr << notice << "\n";
-    MainWindow window(systemAppearance());
-    window.bind(model);
-    SettingsWindow settings(systemAppearance(), commandLinePlaces());
-    settings.bind(model);
-    VexelCommands commands(window, model, [&settings] {
-        settings.show();
-        settings.raise();
-        settings.activateWindow();
-    });
-    const bool host = QSystemTrayIcon::isSystemTrayAvailable();
-    WindowKeeper keeper(window, model, {.host = host, .carriesReadings = false});
-    const auto showWindow = [&window] {
-        window.showNormal();
-        window.raise();
-        window.activateWindow();
-    };
-    MenuBarController panel(model, panelAppearance(), systemAppearance(), {showWindow, [&settings] {
-                                                                               settings.showTab(
-                                                                                   SettingsWindow::Tab::panel);
-                                                                               settings.show();
-                                                                               settings.raise();
-                                                                               settings.activateWindow();
-                                                                           }});
-    if (host) {
-        panel.start();
-        // Without items in the panel, the window stays the way back.
-        const auto follow = [&keeper, &panel] { keeper.setCarriesReadings(!panel.order().empty()); };
-        follow();
-        QObject::connect(&model, &AppModel::changed, &keeper, [follow](unsigned what) {
-            if (what & AppModel::settingsChanged)
-                follow();
-        });
+    const bool hidden = hasArgument(argc, argv, "--hidden");
+    SingleInstance instance;
+    if (instance.claim() == SingleInstance::Claim::another) {
+        // At login (--hidden) the Vexel already running is all there is to do.
+        if (hidden || SingleInstance::activateRunning())
+            return 0;
+        std::cerr << "Vexel is already running in this session but didn't answer; it may be busy or stuck.\n";
+        return 1;
     }
-    QObject::connect(&app, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
-    model.start();
-    // At login the app starts with --hidden (the autostart entry).
-    keeper.showAtStart(hasArgument(argc, argv, "--hidden"));
-    return QApplication::exec();
+    return runWindow(instance, hidden);
 }
 
 } // namespace vexel

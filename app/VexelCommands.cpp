@@ -4,9 +4,26 @@
 #include "model/AppModel.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenuBar>
 
 namespace vexel {
+
+namespace {
+
+// `own` on every desktop, and the desktop's own key for the command too
+// where it has one: Qt knows none for preferences outside macOS and KDE
+// (Ctrl+Shift+,), and none at all on some platforms.
+QList<QKeySequence> keys(const QKeySequence& own, QKeySequence::StandardKey standard)
+{
+    QList<QKeySequence> all{own};
+    for (const auto& key : QKeySequence::keyBindings(standard))
+        if (!all.contains(key))
+            all << key;
+    return all;
+}
+
+} // namespace
 
 VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<void()> openSettings)
     : QObject(&window)
@@ -15,9 +32,15 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
     m_bar->setFont(Look::font(12));
     auto* vexel = m_bar->addMenu(QStringLiteral("Vexel"));
     auto* settings = vexel->addAction(QStringLiteral("Settings…"));
-    settings->setShortcut(QKeySequence::Preferences);
+    settings->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Comma), QKeySequence::Preferences));
     settings->setShortcutContext(Qt::ApplicationShortcut);
     connect(settings, &QAction::triggered, this, [openSettings = std::move(openSettings)] { openSettings(); });
+    vexel->addSeparator();
+    auto* quitVexel = vexel->addAction(QStringLiteral("Quit Vexel"));
+    quitVexel->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence::Quit));
+    quitVexel->setShortcutContext(Qt::ApplicationShortcut);
+    // exit, not quit: quit would first ask the window to close, and closing only puts it out of the way.
+    connect(quitVexel, &QAction::triggered, this, [] { QCoreApplication::exit(0); });
 
     auto* go = m_bar->addMenu(QStringLiteral("Go"));
     for (const auto route : allRoutes) {
@@ -35,6 +58,15 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
         window.activateWindow();
     });
     window.setMenuBar(m_bar);
+}
+
+QList<QAction*> VexelCommands::vexelActions() const
+{
+    QList<QAction*> actions;
+    for (auto* action : m_bar->actions().at(0)->menu()->actions())
+        if (!action->isSeparator())
+            actions << action;
+    return actions;
 }
 
 QList<QAction*> VexelCommands::goActions() const

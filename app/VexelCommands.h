@@ -12,13 +12,15 @@ namespace vexel {
 class AppModel;
 class MainWindow;
 
-// The app's commands in the window's menu bar: under "Go", every route with
-// its shortcut, a divider, "Quit Selected App…" and "Open Vexel Window";
-// under "Vexel", the settings.
+// The app's commands in the window's menu bar: under "Vexel", the settings
+// (Ctrl+,) and "Quit Vexel" (Ctrl+Q); under "Go", every route with its
+// shortcut, a divider, "Quit Selected App…" and "Open Vexel Window".
 class VexelCommands final : public QObject {
 public:
     VexelCommands(MainWindow& window, AppModel& model, std::function<void()> openSettings);
 
+    // The "Vexel" menu's entries: the settings, then quitting.
+    [[nodiscard]] QList<QAction*> vexelActions() const;
     // The "Go" menu's entries, dividers left out: the routes, then the two commands.
     [[nodiscard]] QList<QAction*> goActions() const;
 

@@ -3,8 +3,6 @@
 #include "model/AppModel.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
-#include <QShortcut>
 #include <QWidget>
 
 namespace vexel {
@@ -13,24 +11,37 @@ const char* const WindowKeeper::noPanelText
     = "There is no status area in this desktop's panel, so Vexel's readings stay in this window. Closing it keeps "
       "Vexel recording in the taskbar; Ctrl+Q quits. On GNOME, the AppIndicator extension adds a status area.";
 
-WindowKeeper::WindowKeeper(QWidget& window, AppModel& model, Panel panel)
+WindowKeeper::WindowKeeper(QWidget& window, AppModel& model)
     : m_window(window)
     , m_model(model)
-    , m_panel(panel)
 {
     window.installEventFilter(this);
-    auto* quit = new QShortcut(QKeySequence::Quit, &window);
-    // exit, not quit: quit would ask this window to close first, and closing only minimises it.
-    connect(quit, &QShortcut::activated, qApp, [] { QCoreApplication::exit(0); });
-    if (!m_panel.host)
+}
+
+void WindowKeeper::setPanel(Panel panel)
+{
+    m_panel = panel;
+    if (!panel.host && !m_told) {
+        m_told = true;
         m_model.tell(noPanelText);
+    }
+    if (!panel.carriesReadings && m_window.isHidden() && m_outOfTheWay) {
+        // Hidden with the items as the way back, and the items went: back to the taskbar.
+        m_window.showMinimized();
+    } else if (panel.carriesReadings && m_outOfTheWay && m_window.isMinimized()) {
+        // Started at login before the panel came: the items are the way back now.
+        m_window.hide();
+    }
 }
 
 void WindowKeeper::showAtStart(bool hidden)
 {
-    if (!hidden)
+    if (!hidden) {
         m_window.show();
-    else if (!m_panel.carriesReadings)
+        return;
+    }
+    m_outOfTheWay = true;
+    if (!m_panel.carriesReadings)
         m_window.showMinimized();
 }
 
@@ -38,15 +49,21 @@ bool WindowKeeper::eventFilter(QObject*, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Close:
-        if (m_panel.carriesReadings)
+        if (m_panel.carriesReadings) {
+            m_outOfTheWay = true; // hidden: the panel's items lead back
             return false;
+        }
         // A closed window would leave a process with no way back to it.
         event->ignore();
         m_window.showMinimized();
         return true;
     case QEvent::Show:
     case QEvent::Hide:
-    case QEvent::WindowStateChange: followVisibility(); return false;
+    case QEvent::WindowStateChange:
+        if (m_window.isVisible() && !m_window.isMinimized())
+            m_outOfTheWay = false; // in view: the user's to place from now on
+        followVisibility();
+        return false;
     default: return false;
     }
 }

@@ -116,7 +116,7 @@ void BM_PanelUpdateSevenItems(benchmark::State& state)
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
     panel.start();
     for (auto _ : state) {
         panel.update();

@@ -26,6 +26,8 @@ test_packages=(
   # its panel items in a real status area: a message bus of their own, the
   # watcher and a panel host, and a photograph of the screen
   dbus-daemon haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils imagemagick
+  # the desktop session test closes and finds the app's window through the X server
+  libxcb1-dev
 )
 
 case "${1:-test}" in

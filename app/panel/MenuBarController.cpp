@@ -1,5 +1,6 @@
 #include "panel/MenuBarController.h"
 
+#include "Logging.h"
 #include "model/AppModel.h"
 #include "panel/MenuGlyph.h"
 #include "panel/MenuReading.h"
@@ -62,13 +63,23 @@ MenuBarController::~MenuBarController()
 
 void MenuBarController::start()
 {
-    connect(&m_model, &AppModel::changed, this, [this](unsigned what) {
+    stop();
+    m_following = connect(&m_model, &AppModel::changed, this, [this](unsigned what) {
         if (what & AppModel::settingsChanged)
             rebuild();
         else if (what & AppModel::frameChanged)
             update();
     });
     rebuild();
+    qCInfo(panelLog) << "items made:" << m_order.size();
+}
+
+void MenuBarController::stop()
+{
+    disconnect(m_following);
+    if (m_dropdown)
+        m_dropdown->close();
+    removeAll();
 }
 
 void MenuBarController::rebuild()
@@ -109,6 +120,8 @@ void MenuBarController::add(MenuItemKind kind)
         [this] { m_actions.openWindow(); });
     connect(menu->addAction(qs(PageTexts::panelSettings(m_model.platform))), &QAction::triggered, this,
         [this] { m_actions.openPanelSettings(); });
+    menu->addSeparator();
+    connect(menu->addAction(QStringLiteral("Quit Vexel")), &QAction::triggered, this, [this] { m_actions.quit(); });
     item->setContextMenu(menu);
     connect(item, &QSystemTrayIcon::activated, this, [this, kind](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

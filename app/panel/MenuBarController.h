@@ -28,8 +28,11 @@ public:
     MenuBarController(AppModel& model, Appearance panel, Appearance window, MenuDropdown::Actions actions);
     ~MenuBarController() override;
 
-    // Subscribes to the model and puts the enabled items in the panel.
+    // Subscribes to the model and puts the enabled items in the panel (a
+    // status area that appeared, or came back: its items are made anew).
     void start();
+    // Takes every item out (the status area went away) until the next start.
+    void stop();
     // Removes the items no longer enabled and adds the newly enabled; when
     // the order changed, re-creates them all so the panel shows the new order.
     void rebuild();
@@ -60,6 +63,7 @@ private:
     MenuItemKind m_lastClosed = MenuItemKind::cpu;
     qint64 m_closedAt = 0;
     int m_recreations = 0;
+    QMetaObject::Connection m_following;
 };
 
 } // namespace vexel

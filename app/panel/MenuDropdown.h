@@ -24,6 +24,7 @@ public:
     struct Actions {
         std::function<void()> openWindow;
         std::function<void()> openPanelSettings;
+        std::function<void()> quit; // from an item's menu: Vexel ends, window and all
     };
 
     MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance appearance, Actions actions);

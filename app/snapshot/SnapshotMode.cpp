@@ -122,7 +122,7 @@ void writeDropdowns(const AppModel& model, const SnapshotOptions& options, const
             const std::string name = "dropdown-" + rawValue(kind) + "-" + infix + suffix;
             if (!options.wants(name))
                 continue;
-            MenuDropdown dropdown(model, kind, appearance, {[] {}, [] {}});
+            MenuDropdown dropdown(model, kind, appearance, {[] {}, [] {}, [] {}});
             dropdown.setWindowFlags(Qt::Widget); // a picture of it, not a popup on a screen
             dropdown.show();
             save(dropdown, options, name);

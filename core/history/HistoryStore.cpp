@@ -110,10 +110,18 @@ void checkBeforeWriting(const std::filesystem::path& file)
     sqlite3* handle = nullptr;
     const int result = Sqlite::openReadOnly(file, &handle, Sqlite::waitMilliseconds);
     const Sqlite::Database db(handle);
-    if (result == SQLITE_OK)
+    if (result != SQLITE_OK) {
+        if (!Sqlite::transient(result))
+            throw HistoryError(HistoryError::Kind::open, openFailure(handle, result));
+        return;
+    }
+    try {
         requireVexelsOwn(db.get(), file);
-    else if (!Sqlite::transient(result))
-        throw HistoryError(HistoryError::Kind::open, openFailure(handle, result));
+    } catch (const HistoryError& failure) {
+        if (failure.kind() == HistoryError::Kind::open)
+            throw; // refused
+        // A read refused for a moment: the writer's connection checks before its first change.
+    }
 }
 
 } // namespace
@@ -139,9 +147,13 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
         m_device = opened.st_dev;
         m_inode = opened.st_ino;
     }
-    requireVexelsOwn(m_db.get(), m_file);
-    if (m_readOnly)
+    if (m_readOnly) {
+        // In a read transaction, which waits out a writer recovering its log.
+        const ReadSnapshot snapshot(*this);
+        requireVexelsOwn(m_db.get(), m_file);
         return;
+    }
+    requireVexelsOwn(m_db.get(), m_file);
     sqlite3* handle = m_db.get();
     // The log and its index stay when the last writer closes, so that readers,
     // which open nothing for writing, can always read through them.
@@ -159,12 +171,16 @@ HistoryStore::HistoryStore(std::filesystem::path file, HistoryAccess access)
     // tail pages of the tables change every minute, so copying less often
     // writes each of them once for many commits instead of once for few.
     ::sqlite3_wal_autocheckpoint(handle, checkpointPages);
-    m_db.exec(schema);
-    // Marked once, in its header: the file is Vexel's from now on.
-    if (pragmaValue(handle, "application_id") != applicationId)
-        m_db.exec(("PRAGMA application_id=" + std::to_string(applicationId)).c_str());
-    if (pragmaValue(handle, "user_version") != schemaVersion)
-        m_db.exec(("PRAGMA user_version=" + std::to_string(schemaVersion)).c_str());
+    // The tables and the mark in the header come in one transaction: a writer
+    // killed between them would leave tables without the mark, which no
+    // later open would take for Vexel's.
+    batch([&] {
+        m_db.exec(schema);
+        if (pragmaValue(handle, "application_id") != applicationId)
+            m_db.exec(("PRAGMA application_id=" + std::to_string(applicationId)).c_str());
+        if (pragmaValue(handle, "user_version") != schemaVersion)
+            m_db.exec(("PRAGMA user_version=" + std::to_string(schemaVersion)).c_str());
+    });
 }
 
 void HistoryStore::connect() const

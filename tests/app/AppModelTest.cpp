@@ -221,7 +221,8 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 10; });
     MainWindow window(Appearance::light);
     window.bind(*demo.model);
-    WindowKeeper keeper(window, *demo.model, {.host = false, .carriesReadings = false});
+    WindowKeeper keeper(window, *demo.model);
+    keeper.setPanel({.host = false, .carriesReadings = false});
     EXPECT_EQ(demo.model->toast, WindowKeeper::noPanelText);
     keeper.showAtStart(true);
     EXPECT_TRUE(window.isMinimized());
@@ -240,15 +241,26 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
 
     DemoModel inPanel;
     MainWindow other(Appearance::light);
-    WindowKeeper panel(other, *inPanel.model, {.host = true, .carriesReadings = true});
+    WindowKeeper panel(other, *inPanel.model);
+    panel.showAtStart(true); // at login, before the panel has answered: the taskbar
+    EXPECT_TRUE(other.isMinimized());
+    panel.setPanel({.host = true, .carriesReadings = true}); // the panel came: its items lead back
     EXPECT_FALSE(inPanel.model->toast);
-    panel.showAtStart(true);
     EXPECT_FALSE(other.isVisible());
-    panel.showAtStart(false);
+    other.showNormal(); // the item's "Open Vexel Window"
     EXPECT_TRUE(inPanel.model->windowVisible);
     EXPECT_TRUE(other.close());
     EXPECT_FALSE(other.isVisible());
     EXPECT_FALSE(inPanel.model->windowVisible);
+    // The panel went away: the hidden window comes back to the taskbar, and the app says why once.
+    panel.setPanel({.host = false, .carriesReadings = false});
+    EXPECT_TRUE(other.isVisible() && other.isMinimized());
+    EXPECT_EQ(inPanel.model->toast, WindowKeeper::noPanelText);
+    // Shown by the user, then minimised by them: a panel coming back leaves it where they put it.
+    other.showNormal();
+    other.showMinimized();
+    panel.setPanel({.host = true, .carriesReadings = true});
+    EXPECT_TRUE(other.isVisible());
 }
 
 // Snapshot mode's "strained-" pictures are of a model that has seen the

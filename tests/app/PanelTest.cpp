@@ -110,7 +110,7 @@ TEST(MenuBarController, ItemsFollowTheSettingsInOrder)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
     panel.start();
     using Kinds = std::vector<MenuItemKind>;
     EXPECT_EQ(panel.order(), (Kinds{MenuItemKind::cpu, MenuItemKind::memory, MenuItemKind::network}));
@@ -141,7 +141,7 @@ TEST(MenuBarController, ADropdownOpensOnFreshFiguresAndOnlyOneAtATime)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
     panel.start();
     panel.clicked(MenuItemKind::memory);
     ASSERT_NE(panel.dropdown(), nullptr);
@@ -161,7 +161,7 @@ TEST(MenuDropdown, ReadingsWithoutPerAppFiguresSaySoInTheirPlatformsWords)
     model.frame->system.sensors
         = {{{"k10temp", "Tctl", 71, std::nullopt, std::nullopt}, {"nvme", "Composite", 39, 81.85, 84.85}},
             {{"thinkpad", "fan1", 3100}}};
-    const MenuDropdown::Actions none{[] {}, [] {}};
+    const MenuDropdown::Actions none{[] {}, [] {}, [] {}};
     EXPECT_EQ(MenuDropdown(model, MenuItemKind::gpu, Appearance::light, none).note(),
         QStringLiteral("Vexel doesn't read GPU use per app on Linux."));
     EXPECT_EQ(MenuDropdown(model, MenuItemKind::battery, Appearance::light, none).note(),

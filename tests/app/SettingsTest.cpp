@@ -173,6 +173,15 @@ TEST(VexelCommands, EveryRouteWithItsShortcutThenTheTwoCommands)
     }
     EXPECT_EQ(actions.at(10)->text(), QStringLiteral("Quit Selected App…"));
     EXPECT_EQ(actions.at(11)->text(), QStringLiteral("Open Vexel Window"));
+    // The settings on Ctrl+, on any desktop (Qt knows no key for them outside macOS and KDE), and quitting.
+    const auto vexel = commands.vexelActions();
+    ASSERT_EQ(vexel.size(), 2);
+    EXPECT_EQ(vexel.at(0)->text(), QStringLiteral("Settings…"));
+    EXPECT_TRUE(vexel.at(0)->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl+,"))));
+    vexel.at(0)->trigger();
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(vexel.at(1)->text(), QStringLiteral("Quit Vexel"));
+    EXPECT_EQ(vexel.at(1)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
 
     actions.at(static_cast<int>(Route::memory))->trigger();
     EXPECT_EQ(window.currentRoute(), Route::memory);

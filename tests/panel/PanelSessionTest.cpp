@@ -10,13 +10,12 @@
 #include "support/ChildProcess.h"
 #include "support/GoldenImage.h"
 #include "support/RunTool.h"
+#include "support/StatusArea.h"
 #include "support/TempFolder.h"
 
-#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusPendingCall>
 #include <QImage>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -29,78 +28,11 @@
 using namespace vexel;
 using vexel::testing::ChildProcess;
 using vexel::testing::DemoModel;
+using namespace vexel::testing;
 
 namespace {
 
-const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 constexpr int panelHeight = 30;
-
-// A call over the session bus, answered while this thread's event loop runs:
-// the items asked about live in this process, and a blocking call would keep
-// them from answering.
-QDBusMessage ask(const QDBusMessage& message)
-{
-    QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(message, 10000);
-    if (!QTest::qWaitFor([&] { return pending.isFinished(); }, 12000))
-        return {};
-    return pending.reply();
-}
-
-QVariant property(const QString& service, const QString& path, const QString& interface, const QString& name)
-{
-    auto message = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    message << interface << name;
-    const QDBusMessage reply = ask(message);
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
-        return {};
-    return reply.arguments().front().value<QDBusVariant>().variant();
-}
-
-QVariant watcherProperty(const QString& name)
-{
-    return property(watcherService, QStringLiteral("/StatusNotifierWatcher"), watcherService, name);
-}
-
-// The registered items by their unique bus names, in the order they
-// connected (a later connection has a higher number).
-QStringList registeredItems()
-{
-    QStringList items = watcherProperty(QStringLiteral("RegisteredStatusNotifierItems")).toStringList();
-    for (auto& item : items)
-        item = item.section('/', 0, 0);
-    std::ranges::sort(items,
-        [](const QString& a, const QString& b) { return a.section('.', 1).toInt() < b.section('.', 1).toInt(); });
-    return items;
-}
-
-// The text of an item's tooltip: "CPU 15%".
-QString toolTipOf(const QString& service)
-{
-    const QVariant value = property(service, QStringLiteral("/StatusNotifierItem"),
-        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("ToolTip"));
-    if (!value.isValid())
-        return {};
-    const auto argument = value.value<QDBusArgument>();
-    QString icon;
-    QString title;
-    QString text;
-    argument.beginStructure();
-    argument >> icon;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        int width = 0;
-        int height = 0;
-        QByteArray bytes;
-        argument.beginStructure();
-        argument >> width >> height >> bytes;
-        argument.endStructure();
-    }
-    argument.endArray();
-    argument >> title >> text;
-    argument.endStructure();
-    return title;
-}
 
 // The first word of each registered item's tooltip, in registration order.
 QStringList registeredKinds()
@@ -109,11 +41,6 @@ QStringList registeredKinds()
     for (const auto& item : registeredItems())
         kinds << toolTipOf(item).section(' ', 0, 0);
     return kinds;
-}
-
-bool waitFor(const std::function<bool()>& done)
-{
-    return QTest::qWaitFor(done, 15000);
 }
 
 // The panel's strip, photographed from the screen as a user sees it.
@@ -161,7 +88,7 @@ TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
     panel.start();
 
     // All seven, in the configured order.

@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <poll.h>
 #include <spawn.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -76,6 +78,20 @@ int ChildProcess::wait()
     while (::waitpid(m_pid, &status, 0) < 0 && errno == EINTR) { }
     m_reaped = true;
     return status;
+}
+
+std::optional<int> ChildProcess::waitUpTo(int milliseconds)
+{
+    if (m_pid > 0 && !m_reaped) {
+        const int fd = static_cast<int>(::syscall(SYS_pidfd_open, m_pid, 0));
+        pollfd ended{fd, POLLIN, 0};
+        const bool done = fd >= 0 && ::poll(&ended, 1, milliseconds) == 1;
+        if (fd >= 0)
+            ::close(fd);
+        if (!done)
+            return std::nullopt;
+    }
+    return wait();
 }
 
 ForkedRun runForked(const std::function<void()>& child)

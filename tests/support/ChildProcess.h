@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -39,6 +40,10 @@ public:
     int stop(int signal);
     // Waits for the program to end by itself; its wait status.
     int wait();
+    // Waits at most `milliseconds` for it to end by itself (on its pidfd,
+    // which turns readable when it does); its wait status, or nothing while
+    // it still runs.
+    std::optional<int> waitUpTo(int milliseconds);
 
 private:
     pid_t m_pid = 0;

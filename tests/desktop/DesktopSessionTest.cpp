@@ -1,0 +1,123 @@
+// The real vexel-app in a desktop session with a real status area: closing
+// its window while its readings are in the panel hides it and Vexel goes on;
+// a second launch raises the first and ends; an item's "Quit Vexel" ends it;
+// a panel that starts after Vexel gets its items, and a panel that goes away
+// sends the window back to the taskbar.
+
+#include "io/Files.h"
+#include "support/ChildProcess.h"
+#include "support/StatusArea.h"
+#include "support/TempFolder.h"
+#include "support/XWindows.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sys/wait.h>
+
+using namespace vexel::testing;
+
+namespace {
+
+const std::string vexelApp = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
+constexpr int panelHeight = 30;
+
+// The status area: the watcher, then the panel that hosts the items.
+struct StatusArea {
+    ChildProcess watcher{{"/usr/bin/status-notifier-watcher"}};
+    std::optional<ChildProcess> host;
+
+    StatusArea()
+    {
+        EXPECT_TRUE(waitFor(watcherRunning));
+        host.emplace(std::vector<std::string>{
+            "/usr/bin/gtk-sni-tray-standalone", "--top", "--beginning", "--size", std::to_string(panelHeight)});
+        EXPECT_TRUE(waitFor(hostRegistered));
+    }
+    ~StatusArea()
+    {
+        host.reset();
+        (void)watcher.stop(SIGTERM);
+        EXPECT_TRUE(waitFor([] { return !watcherRunning(); }));
+    }
+    StatusArea(const StatusArea&) = delete;
+    StatusArea& operator=(const StatusArea&) = delete;
+};
+
+// vexel-app on a data folder of the test's own, seen from outside.
+struct Vexel {
+    explicit Vexel(const std::filesystem::path& data)
+        : process(launch(data))
+    {
+        ::unsetenv("VEXEL_DATA_DIR");
+    }
+
+    [[nodiscard]] pid_t pid() const { return process.pid(); }
+
+    ChildProcess process;
+
+private:
+    static std::vector<std::string> launch(const std::filesystem::path& data)
+    {
+        std::ofstream(data / "settings.json") << R"({"sampleSeconds": 60})";
+        ::setenv("VEXEL_DATA_DIR", data.c_str(), 1);
+        return {vexelApp};
+    }
+};
+
+bool exitedWell(std::optional<int> status)
+{
+    return status && WIFEXITED(*status) && WEXITSTATUS(*status) == 0;
+}
+
+} // namespace
+
+TEST(DesktopSession, ClosingTheWindowKeepsVexelWhichIsOneAndQuitsFromItsItems)
+{
+    const StatusArea area;
+    TempFolder data("vexel-desktop");
+    Vexel app(data.path());
+    XDisplay display;
+    ASSERT_TRUE(display.connected());
+    ASSERT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
+    ASSERT_TRUE(waitFor([] { return registeredItems().size() == 3; })) << registeredItems().join(' ').toStdString();
+
+    // The close button hides the window: the items in the panel lead back.
+    display.close(display.windowsOf(app.pid(), "Vexel").front());
+    ASSERT_TRUE(waitFor([&] { return !display.shows(app.pid(), "Vexel"); }));
+
+    // A second launch finds Vexel running, raises its window and ends.
+    ChildProcess second({vexelApp});
+    EXPECT_TRUE(exitedWell(second.waitUpTo(15000)));
+    EXPECT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); })) << "the first Vexel came back";
+    EXPECT_EQ(registeredItems().size(), 3) << "one Vexel's items, not two";
+
+    // "Quit Vexel" in an item's menu ends it the ordinary way.
+    ASSERT_TRUE(clickMenuEntry(registeredItems().front(), QStringLiteral("Quit Vexel")));
+    EXPECT_TRUE(exitedWell(app.process.waitUpTo(15000)));
+    const auto settings = vexel::Files::read((data.path() / "settings.json").string()).value_or("");
+    EXPECT_NE(settings.find("\"lastSeen\""), std::string::npos) << settings;
+    EXPECT_TRUE(waitFor([] { return registeredItems().isEmpty(); }));
+}
+
+TEST(DesktopSession, APanelThatComesLateGetsTheItemsAndOneThatGoesSendsTheWindowBack)
+{
+    TempFolder data("vexel-desktop");
+    Vexel app(data.path());
+    XDisplay display;
+    ASSERT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
+    {
+        // The panel starts after Vexel, as it may at login.
+        const StatusArea area;
+        ASSERT_TRUE(waitFor([] { return registeredItems().size() == 3; })) << registeredItems().join(' ').toStdString();
+        // With its readings in the panel now, closing hides the window.
+        display.close(display.windowsOf(app.pid(), "Vexel").front());
+        ASSERT_TRUE(waitFor([&] { return !display.shows(app.pid(), "Vexel"); }));
+    }
+    // The panel went away: the window is back in the taskbar, the way back.
+    EXPECT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
+    EXPECT_TRUE(exitedWell(app.process.stop(SIGTERM)));
+}
