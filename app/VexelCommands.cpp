@@ -62,17 +62,18 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
 
 QList<QAction*> VexelCommands::vexelActions() const
 {
-    QList<QAction*> actions;
-    for (auto* action : m_bar->actions().at(0)->menu()->actions())
-        if (!action->isSeparator())
-            actions << action;
-    return actions;
+    return entriesOf(0);
 }
 
 QList<QAction*> VexelCommands::goActions() const
 {
+    return entriesOf(1);
+}
+
+QList<QAction*> VexelCommands::entriesOf(int menu) const
+{
     QList<QAction*> actions;
-    for (auto* action : m_bar->actions().at(1)->menu()->actions())
+    for (auto* action : m_bar->actions().at(menu)->menu()->actions())
         if (!action->isSeparator())
             actions << action;
     return actions;

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QList<QAction*> goActions() const;
 
 private:
+    // The entries of the bar's `menu`th menu, dividers left out.
+    [[nodiscard]] QList<QAction*> entriesOf(int menu) const;
+
     QMenuBar* m_bar = nullptr;
 };
 

@@ -182,7 +182,7 @@ private:
     template <typename Result> void onSampler(std::function<Result(Sampler&)> work, std::function<void(Result)> done)
     {
         ++m_inFlight;
-        m_sampler->post<Result>(std::move(work), this, [this, done = std::move(done)](Result result) {
+        m_sampler->post<Result>(std::move(work), [this, done = std::move(done)](Result result) {
             --m_inFlight;
             done(std::move(result));
         });

@@ -10,28 +10,35 @@ QString SamplerThread::threadName()
 SamplerThread::SamplerThread(std::function<std::unique_ptr<Sampler>()> build)
 {
     m_thread.setObjectName(threadName());
-    m_context = new QObject;
-    m_context->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, m_context, &QObject::deleteLater);
+    m_worker = new Mailbox;
+    m_worker->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread.start();
-    QMetaObject::invokeMethod(
-        m_context, [this, &build] { m_sampler = build(); }, Qt::BlockingQueuedConnection);
+    onWorker([this, &build] { m_sampler = build(); });
 }
 
 SamplerThread::~SamplerThread()
 {
     // A minute that can't be written is lost: the app is going and has nowhere left to say so.
     run([](Sampler& sampler) { (void)sampler.flush(); });
-    QMetaObject::invokeMethod(
-        m_context, [this] { m_sampler.reset(); }, Qt::BlockingQueuedConnection);
+    onWorker([this] { m_sampler.reset(); });
     m_thread.quit();
     m_thread.wait();
 }
 
 void SamplerThread::run(const std::function<void(Sampler&)>& work)
 {
-    QMetaObject::invokeMethod(
-        m_context, [this, &work] { work(*m_sampler); }, Qt::BlockingQueuedConnection);
+    onWorker([this, &work] { work(*m_sampler); });
+}
+
+void SamplerThread::onWorker(const std::function<void()>& work)
+{
+    Finished finished;
+    m_worker->post([&work, &finished] {
+        work();
+        finished.set();
+    });
+    finished.wait();
 }
 
 } // namespace vexel
