@@ -69,10 +69,13 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
         const auto plan = cadence.plan(m_options.clock(), first, {false, Route::overview}, settings);
         first = false;
         const auto result = sampler.tick(m_options.clock(), plan);
-        // Say a failure once, and again only when it changes.
+        // Say a failure once, and again only when it changes; a notice
+        // (the history file replaced under it) as it comes.
         if (result.error && result.error != lastError)
             err << "History: " << *result.error << "\n" << std::flush;
         lastError = result.error;
+        if (result.notice)
+            err << *result.notice << "\n" << std::flush;
     } while (!stopRequested(signals, Cadence::tickSeconds(false, settings)));
 
     int status = 0;

@@ -360,8 +360,9 @@ TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
 }
 
 // The headless recorder for real: it says where it records, a second one
-// refuses to write beside it, and on SIGHUP (its terminal closing; SIGTERM
-// and SIGINT are the same signals to it) it writes what was waiting and saves
+// refuses to write beside it, a history removed under it is said and started
+// anew with what waited, and on SIGHUP (its terminal closing; SIGTERM and
+// SIGINT are the same signals to it) it writes what was waiting and saves
 // when it last ran, so that `vexel history` reads the recording back.
 TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
 {
@@ -369,10 +370,11 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     std::ofstream(data.path() / "settings.json") << R"({"sampleSeconds": 1})";
     const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
     ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
-    ChildProcess recorder({app, "--headless"}, {{}, true});
+    ChildProcess recorder({app, "--headless"}, {{}, true, true});
     ::unsetenv("VEXEL_DATA_DIR");
     ASSERT_NE(recorder.pid(), 0);
-    EXPECT_EQ(recorder.readLine(), "Recording to " + (data.path() / "history.sqlite").string() + " every 1 s.");
+    const auto history = data.path() / "history.sqlite";
+    EXPECT_EQ(recorder.readLine(), "Recording to " + history.string() + " every 1 s.");
 
     const auto second = runTool({app, "--headless"}, {{{"VEXEL_DATA_DIR", data.path().string()}}, ""});
     EXPECT_EQ(second.status, 1);
@@ -383,15 +385,23 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     // Ticks a second apart: the first frame has no interval, the next ones are kept.
     const auto started = std::chrono::steady_clock::now();
     ASSERT_EQ(::waitpid(recorder.pid(), nullptr, WNOHANG), 0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(3500));
+    std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+    // The history pulled from under it: it says so at its next tick and goes on in a new file.
+    for (const char* companion : {"", "-wal", "-shm"})
+        std::filesystem::remove(history.string() + companion);
+    EXPECT_EQ(recorder.readLine(),
+        history.string()
+            + " was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on recording "
+              "in the file now at that path, starting with the minute it hadn't written yet.");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1000));
     const int status = recorder.stop(SIGHUP);
     ASSERT_TRUE(WIFEXITED(status)) << status;
     EXPECT_EQ(WEXITSTATUS(status), 0);
     EXPECT_EQ(recorder.readLine(), "Stopped recording.");
-    const HistoryStore stored(data.path() / "history.sqlite", HistoryAccess::readOnly);
-    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
-    const json history = jsonOf(vexelIn(data.path(), {"history", "today", "--json"}));
-    EXPECT_FALSE(history["busiest_apps"].empty()) << history.dump(1);
+    const HistoryStore stored(history, HistoryAccess::readOnly);
+    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 3) << "the minute that waited is in the new file";
+    const json today = jsonOf(vexelIn(data.path(), {"history", "today", "--json"}));
+    EXPECT_FALSE(today["busiest_apps"].empty()) << today.dump(1);
     const json settings = json::parse(Files::read((data.path() / "settings.json").string()).value_or("{}"));
     const std::chrono::duration<double> ran = std::chrono::steady_clock::now() - started;
     EXPECT_NEAR(settings["lastSeen"].get<double>(), static_cast<double>(::time(nullptr)), 5 + ran.count());
