@@ -257,7 +257,7 @@ std::optional<std::string> Sampler::saveSettings(const VexelSettings& settings, 
 {
     try {
         const auto outcome = m_settings.save(settings, saving);
-        // Vexel's own bookkeeping left a broken file alone: that was said when it was read.
+        // Vexel's own bookkeeping leaves a broken file alone: that was said when it was read.
         if (saving == SettingsFile::Saving::automatic || outcome.note.empty())
             return std::nullopt;
         return outcome.note;

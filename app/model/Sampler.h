@@ -68,8 +68,8 @@ public:
     // The settings file as this run found it.
     [[nodiscard]] const SettingsFile& settingsFile() const { return m_settings; }
     // Saves the settings (SettingsFile::save); what to tell the user: a
-    // failure, or, for the user's own change, what became of a file that
-    // could not be read. Nothing when there is nothing to say.
+    // failure, or, for the user's own change, that the file can't be read
+    // and the change holds until Vexel quits. Nothing when there is nothing to say.
     [[nodiscard]] std::optional<std::string> saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
 
     // Whether this process writes the history.

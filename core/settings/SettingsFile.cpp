@@ -4,8 +4,9 @@
 #include "io/Files.h"
 #include "text/TextScan.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 namespace vexel {
@@ -18,6 +19,9 @@ namespace {
 constexpr size_t readCap = 4 * 1024 * 1024;
 
 constexpr const char* leftAlone = " Vexel uses its defaults for now and leaves the file as it is.";
+
+// The settings whose stand-ins must never expire or trim history.
+constexpr std::array<const char*, 2> historyLimits{"retentionDays", "maxHistoryMB"};
 
 // What the file holds now.
 struct Reading {
@@ -91,6 +95,12 @@ SettingsFile SettingsFile::load(std::filesystem::path file)
     const auto reading = readDocument(settings.m_file);
     settings.m_failure = reading.failure;
     settings.adopt(reading.state, reading.document);
+    for (const char* limit : historyLimits) {
+        const bool unusable = std::ranges::any_of(
+            settings.m_problems, [limit](const SettingsProblem& problem) { return problem.key == limit; });
+        if (reading.state == State::unreadable || unusable)
+            settings.m_standIns.emplace_back(limit);
+    }
     return settings;
 }
 
@@ -112,38 +122,20 @@ std::vector<std::string> SettingsFile::messages() const
     return said;
 }
 
-bool SettingsFile::historyLimitsTrusted() const
-{
-    if (m_state == State::unreadable)
-        return false;
-    for (const auto& problem : m_problems)
-        if (problem.key == "retentionDays" || problem.key == "maxHistoryMB")
-            return false;
-    return true;
-}
-
-std::filesystem::path SettingsFile::setAside() const
-{
-    std::filesystem::path aside = m_file.string() + ".broken";
-    for (int n = 2; !Files::missing(aside.string()); ++n)
-        aside = m_file.string() + ".broken." + std::to_string(n);
-    if (std::rename(m_file.c_str(), aside.c_str()) != 0)
-        throw std::filesystem::filesystem_error("Couldn't move the unreadable settings aside", m_file, aside,
-            std::error_code(errno, std::generic_category()));
-    return aside;
-}
-
 SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Saving saving)
 {
+    // A limit the user sets is theirs, saved or not.
+    const auto before = toJson(m_saved);
+    const auto after = toJson(settings);
+    std::erase_if(m_standIns, [&](const std::string& limit) { return before[limit] != after[limit]; });
     Reading now = readDocument(m_file);
-    SaveOutcome outcome;
     if (now.state == State::unreadable) {
+        // Not saved: the change is still to write when the file can be read again.
         if (saving == Saving::automatic)
             return {false, *now.failure + leftAlone};
-        const auto aside = setAside();
-        outcome.note = *now.failure + " Vexel kept it as " + aside.string() + " and saved your settings in a new "
-            + m_file.filename().string() + ".";
-        now = Reading{};
+        return {false,
+            "Your change holds until Vexel quits but can't be saved: " + *now.failure
+                + " Put the file right, or move it away, and Vexel saves its settings there again."};
     }
     if (now.state == State::missing)
         now.document = toJson(settings); // a new file has every key, to be read and edited
@@ -154,8 +146,7 @@ SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Savi
     adopt(State::read, now.document);
     m_settings = settings;
     m_saved = settings;
-    outcome.written = true;
-    return outcome;
+    return {true, {}};
 }
 
 } // namespace vexel

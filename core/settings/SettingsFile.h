@@ -24,13 +24,14 @@ public:
         unreadable, // there, but not settings Vexel can read: left alone
     };
 
-    // Who asks for a save. Vexel's own bookkeeping (when it last ran, that
-    // the first start is over) never touches a file it cannot read; a change
-    // the user makes moves such a file aside as settings.json.broken first.
+    // Who asks for a save: Vexel's own bookkeeping (when it last ran, that
+    // the first start is over) or a change the user makes. Neither touches a
+    // file that cannot be read; the user is told that their change holds
+    // until Vexel quits.
     enum class Saving { automatic, userChange };
 
     // What a save did, and a sentence for the user when there is something
-    // to say (the file was left alone, or moved aside).
+    // to say (the file was left alone).
     struct SaveOutcome {
         bool written = false;
         std::string note;
@@ -51,9 +52,11 @@ public:
     // Whether the history's limits (retentionDays, maxHistoryMB) are the
     // user's: read as written, or left out of the file (or no file at all),
     // so Vexel's defaults. False when the file could not be read or either
-    // limit was not usable as written: no history may then be expired or
-    // trimmed on the strength of a default.
-    [[nodiscard]] bool historyLimitsTrusted() const;
+    // limit was not usable as written, and so for the whole run (a file put
+    // right meanwhile is read at the next start), unless the user sets that
+    // limit anew: no history may be expired or trimmed on the strength of a
+    // value that stands in for what the user wrote.
+    [[nodiscard]] bool historyLimitsTrusted() const { return m_standIns.empty(); }
 
     // Saves `settings`. The file is read again first, and only the keys
     // whose value differs from what this file last read or saved are written
@@ -67,8 +70,6 @@ private:
     explicit SettingsFile(std::filesystem::path file);
     // Takes the state, settings and problems of a document read or written.
     void adopt(State state, const nlohmann::ordered_json& document);
-    // Moves the unreadable file to a free name beside it; that name.
-    std::filesystem::path setAside() const;
 
     std::filesystem::path m_file;
     State m_state = State::missing;
@@ -76,6 +77,7 @@ private:
     VexelSettings m_saved; // as the file last held them, by this process's reading
     std::optional<std::string> m_failure;
     std::vector<SettingsProblem> m_problems;
+    std::vector<std::string> m_standIns; // history limits that stand in for what the user wrote
 };
 
 } // namespace vexel

@@ -221,9 +221,8 @@ TEST_F(SettingsJson, TwoProcessesSavingKeepEachOthersChanges)
 }
 
 // A settings file kept in a dotfiles folder and linked in stays a link: the
-// file it names is written, with its permissions. A change the user makes
-// while the file can't be read keeps the unreadable one beside it.
-TEST_F(SettingsJson, ALinkIsWrittenThroughAndABrokenFileIsSetAsideOnlyForAUserChange)
+// file it names is written, with its permissions.
+TEST_F(SettingsJson, ALinkIsWrittenThrough)
 {
     const auto dotfiles = m_dir.path() / "dotfiles";
     fs::create_directories(dotfiles);
@@ -240,18 +239,36 @@ TEST_F(SettingsJson, ALinkIsWrittenThroughAndABrokenFileIsSetAsideOnlyForAUserCh
     EXPECT_EQ(fs::status(dotfiles / "vexel.json").permissions() & fs::perms::all,
         fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     EXPECT_EQ(std::distance(fs::directory_iterator(dotfiles), fs::directory_iterator()), 1) << "no temporary left";
+}
 
-    fs::remove(link);
-    const auto broken = write("{\"idleDays\": 3,,}");
-    std::ofstream(m_dir.path() / "settings.json.broken") << "an older one";
-    auto file = SettingsFile::load(broken);
+// A change the user makes while the file can't be read holds for the run
+// and is said not to be saved; the file stays as it is. The history limits
+// stay stand-ins for the whole run, even once the file is put right, unless
+// the user sets them: 365 days must never expire the two years they wrote.
+TEST_F(SettingsJson, AnUnreadableFileTakesNoChangeAndItsLimitsStayStandIns)
+{
+    const std::string broken = "{\"retentionDays\": 730,}";
+    const auto path = write(broken);
+    auto file = SettingsFile::load(path);
     VexelSettings mine = file.settings();
     mine.sampleSeconds = 30;
-    const auto outcome = file.save(mine, SettingsFile::Saving::userChange);
-    EXPECT_TRUE(outcome.written);
-    EXPECT_NE(outcome.note.find("settings.json.broken.2"), std::string::npos) << outcome.note;
-    EXPECT_EQ(Files::read((m_dir.path() / "settings.json.broken.2").string()), "{\"idleDays\": 3,,}");
-    EXPECT_EQ(Files::read((m_dir.path() / "settings.json.broken").string()), "an older one");
-    EXPECT_EQ(VexelSettings::load(broken).sampleSeconds, 30);
-    EXPECT_TRUE(SettingsFile::load(broken).historyLimitsTrusted());
+    const auto refused = file.save(mine, SettingsFile::Saving::userChange);
+    EXPECT_FALSE(refused.written);
+    EXPECT_TRUE(refused.note.starts_with("Your change holds until Vexel quits but can't be saved: ")) << refused.note;
+    EXPECT_EQ(Files::read(path.string()), broken);
+    EXPECT_FALSE(file.historyLimitsTrusted());
+
+    // Put right by hand while Vexel runs: the next save writes the change into it, and keeps its 730.
+    write("{\"retentionDays\": 730}");
+    mine.lastSeen = 1'800'000'000;
+    ASSERT_TRUE(file.save(mine, SettingsFile::Saving::automatic).written);
+    const auto saved = VexelSettings::load(path);
+    EXPECT_EQ(saved.sampleSeconds, 30);
+    EXPECT_EQ(saved.retentionDays, 730);
+    EXPECT_FALSE(file.historyLimitsTrusted()) << "this run still holds the stand-in 365";
+
+    mine.retentionDays = 182; // set in the window: the user's own
+    mine.maxHistoryMB = 128;
+    ASSERT_TRUE(file.save(mine, SettingsFile::Saving::userChange).written);
+    EXPECT_TRUE(file.historyLimitsTrusted());
 }
