@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <limits>
+#include <string_view>
 
 namespace vexel {
 
@@ -238,8 +239,11 @@ void AppModel::apply(TickResult result)
 
 void AppModel::setStoreError(std::optional<std::string> error)
 {
-    if (error)
-        error = *error + " " + historyAdvice(*error, m_paths.dir);
+    if (error) {
+        // SQLite's words end without a stop ("database or disk is full").
+        const bool stopped = !error->empty() && std::string_view(".!?").find(error->back()) != std::string_view::npos;
+        error = *error + (stopped ? " " : ". ") + historyAdvice(*error, m_paths.dir);
+    }
     if (error == storeError)
         return;
     if (error)

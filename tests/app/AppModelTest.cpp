@@ -335,7 +335,8 @@ TEST(AppModel, AFailingHistoryIsShownNeverACrash)
         demo.settle();
         ASSERT_TRUE(model.storeError);
         EXPECT_TRUE(model.storeError->starts_with("History error: ")) << *model.storeError;
-        EXPECT_TRUE(model.storeError->ends_with("Live readings go on, and Vexel tries the history again each minute."))
+        EXPECT_TRUE(
+            model.storeError->ends_with(". Live readings go on, and Vexel tries the history again each minute."))
             << *model.storeError;
         EXPECT_EQ(window.banner()->texts(), QStringList{QString::fromStdString(*model.storeError)});
         auto* history = static_cast<HistoryPage*>(window.page(Route::history));
