@@ -9,12 +9,17 @@
 #include "grouping/linux/LiveDesktopIndex.h"
 #include "monitor/BundleNames.h"
 #include "processes/linux/LiveProcessSource.h"
+#include "processes/linux/ProcListing.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <dirent.h>
+#include <fcntl.h>
 #include <malloc.h>
 #include <unistd.h>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -64,10 +69,13 @@ BENCHMARK(BM_ProcessPipeline_Steady)
     ->Repetitions(5)
     ->ReportAggregatesOnly(true);
 
+// The floor: what any monitor pays to list /proc and open, read and close
+// every process's stat file, written as plainly as C would.
 void BM_ProcStat_Floor(benchmark::State& state)
 {
     IdleChildren::ensure(static_cast<size_t>(state.range(0)));
-    std::string buffer;
+    char path[300];
+    char buffer[4096];
     size_t processes = 0;
     for (auto _ : state) {
         processes = 0;
@@ -75,8 +83,13 @@ void BM_ProcStat_Floor(benchmark::State& state)
         while (const dirent* entry = ::readdir(dir)) {
             if (entry->d_name[0] < '0' || entry->d_name[0] > '9')
                 continue;
-            if (vexel::Files::readInto(std::string("/proc/") + entry->d_name + "/stat", buffer, 4096))
+            std::snprintf(path, sizeof path, "/proc/%s/stat", entry->d_name);
+            const int fd = ::open(path, O_RDONLY | O_CLOEXEC);
+            if (fd < 0)
+                continue;
+            if (::read(fd, buffer, sizeof buffer) > 0)
                 ++processes;
+            ::close(fd);
         }
         ::closedir(dir);
         benchmark::DoNotOptimize(buffer);
@@ -89,5 +102,71 @@ BENCHMARK(BM_ProcStat_Floor)
     ->Unit(benchmark::kMillisecond)
     ->Repetitions(5)
     ->ReportAggregatesOnly(true);
+
+// The same listing with each stat file opened once and read again with pread
+// from offset 0: the floor for a reader that keeps its descriptors.
+void BM_ProcStat_KeptFloor(benchmark::State& state)
+{
+    IdleChildren::ensure(static_cast<size_t>(state.range(0)));
+    char path[300];
+    char buffer[4096];
+    std::unordered_map<int, int> kept; // pid → descriptor
+    size_t processes = 0;
+    for (auto _ : state) {
+        processes = 0;
+        DIR* dir = ::opendir("/proc");
+        while (const dirent* entry = ::readdir(dir)) {
+            if (entry->d_name[0] < '0' || entry->d_name[0] > '9')
+                continue;
+            auto [slot, isNew] = kept.try_emplace(std::atoi(entry->d_name), -1);
+            if (isNew) {
+                std::snprintf(path, sizeof path, "/proc/%s/stat", entry->d_name);
+                slot->second = ::open(path, O_RDONLY | O_CLOEXEC);
+            }
+            if (slot->second >= 0 && ::pread(slot->second, buffer, sizeof buffer, 0) > 0)
+                ++processes;
+        }
+        ::closedir(dir);
+        benchmark::DoNotOptimize(buffer);
+    }
+    for (const auto& [pid, fd] : kept)
+        if (fd >= 0)
+            ::close(fd);
+    state.counters["processes"] = static_cast<double>(processes);
+}
+BENCHMARK(BM_ProcStat_KeptFloor)
+    ->Arg(500)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5)
+    ->ReportAggregatesOnly(true);
+
+// Listing /proc alone: readdir as the floors do it, and ProcListing's one
+// getdents64 buffer sized for the machine.
+void BM_ProcListing_Readdir(benchmark::State& state)
+{
+    IdleChildren::ensure(static_cast<size_t>(state.range(0)));
+    size_t processes = 0;
+    for (auto _ : state) {
+        processes = 0;
+        DIR* dir = ::opendir("/proc");
+        while (const dirent* entry = ::readdir(dir))
+            processes += entry->d_name[0] >= '0' && entry->d_name[0] <= '9' ? 1 : 0;
+        ::closedir(dir);
+    }
+    state.counters["processes"] = static_cast<double>(processes);
+}
+BENCHMARK(BM_ProcListing_Readdir)->Arg(500)->Arg(2000)->Unit(benchmark::kMicrosecond);
+
+void BM_ProcListing_Getdents(benchmark::State& state)
+{
+    IdleChildren::ensure(static_cast<size_t>(state.range(0)));
+    vexel::ProcListing listing;
+    std::vector<int32_t> pids;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(listing.read("/proc", pids));
+    state.counters["processes"] = static_cast<double>(pids.size());
+}
+BENCHMARK(BM_ProcListing_Getdents)->Arg(500)->Arg(2000)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -1,13 +1,19 @@
 #include "processes/linux/LiveProcessSource.h"
 
+#include "io/Files.h"
+#include "processes/Shell.h"
+#include "support/ChildProcess.h"
+#include "support/SleepingChildren.h"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <spawn.h>
-#include <sys/wait.h>
-
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <set>
+#include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,6 +29,31 @@ const ProcRecord* byPid(const std::vector<ProcRecord>& records, int32_t pid)
             return &record;
     }
     return nullptr;
+}
+
+// How many of this process's descriptors are open on /proc/<pid>/stat of one of `pids`.
+size_t statFilesHeldOf(const std::vector<pid_t>& pids)
+{
+    const std::set<pid_t> wanted(pids.begin(), pids.end());
+    size_t held = 0;
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+        const auto target = Files::readLink(entry.path().string()).value_or("");
+        if (!target.starts_with("/proc/") || !target.ends_with("/stat"))
+            continue;
+        const auto pid = ProcListing::pidOf(std::string_view(target).substr(6, target.size() - 11));
+        held += pid && wanted.contains(*pid) ? 1 : 0;
+    }
+    return held;
+}
+
+bool listsEvery(const std::vector<ProcRecord>& records, const std::vector<pid_t>& pids)
+{
+    std::set<pid_t> listed;
+    for (const auto& record : records) {
+        if (record.cpuTime)
+            listed.insert(record.pid);
+    }
+    return std::all_of(pids.begin(), pids.end(), [&](pid_t pid) { return listed.contains(pid); });
 }
 
 LiveProcessSource fixtureSource(uint32_t myUID)
@@ -174,4 +205,104 @@ TEST(LiveProcessSourceLive, AnAppImagesFileFromItsEnvironment)
     EXPECT_EQ(found->appImage, "/home/alice/Applications/Vexel-Test.AppImage");
     EXPECT_FALSE(found->flatpakApp);
     EXPECT_FALSE(byPid(records, ::getpid())->appImage); // not an AppImage's
+}
+
+// Each process's stat file is opened at its first reading and kept: no tool
+// started beside the source inherits one, and when processes end their
+// descriptors are closed at the next reading.
+TEST(LiveProcessSourceLive, KeepsOneDescriptorPerProcessUntilItEnds)
+{
+    LiveProcessSource source;
+    vexel::testing::SleepingChildren children(2000);
+    const auto pids = children.pids();
+    ASSERT_EQ(pids.size(), 2000u);
+    const auto records = source.snapshot(ProcessScope::everyone);
+    EXPECT_TRUE(listsEvery(records, pids));
+    ASSERT_GE(DescriptorBudget::program().limit(), 4000u) << "the soft limit on open files was not raised";
+    EXPECT_EQ(statFilesHeldOf(pids), pids.size());
+
+    const auto seen = Shell::run("/bin/ls", {"-l", "/proc/self/fd"}, 10);
+    ASSERT_TRUE(seen) << seen.error;
+    EXPECT_EQ(seen->find("/stat"), std::string::npos) << *seen;
+
+    children.end();
+    EXPECT_FALSE(listsEvery(source.snapshot(ProcessScope::everyone), {pids.front()}));
+    EXPECT_EQ(statFilesHeldOf(pids), 0u);
+}
+
+// Beyond its budget a source opens and closes each file as before: every
+// process still comes, and it never holds more than it was given.
+TEST(LiveProcessSourceLive, BeyondItsBudgetProcessesAreOpenedEachTime)
+{
+    DescriptorBudget budget(16);
+    vexel::testing::SleepingChildren children(100);
+    {
+        LiveProcessSource source("/proc", ::geteuid(), 0, 100, 4096, &budget);
+        for (int reading = 0; reading < 2; ++reading) {
+            EXPECT_TRUE(listsEvery(source.snapshot(ProcessScope::everyone), children.pids()));
+            EXPECT_EQ(budget.inUse(), 16u);
+        }
+    }
+    EXPECT_EQ(budget.inUse(), 0u) << "a source gives its descriptors back when it goes";
+    EXPECT_EQ(DescriptorBudget::shareOf(256), 128u);
+    EXPECT_EQ(DescriptorBudget::shareOf(1024), 768u);
+    EXPECT_EQ(DescriptorBudget::shareOf(100), 0u);
+}
+
+// When the program runs out of descriptors while it runs (a limit lowered,
+// a leak elsewhere), the source lets go of those it keeps and reads on.
+TEST(LiveProcessSourceLive, RunningOutOfDescriptorsGivesTheKeptOnesBack)
+{
+    DescriptorBudget budget(100000);
+    vexel::testing::SleepingChildren before(300);
+    LiveProcessSource source("/proc", ::geteuid(), 0, 100, 4096, &budget);
+    ASSERT_TRUE(listsEvery(source.snapshot(ProcessScope::everyone), before.pids()));
+    const size_t kept = budget.inUse();
+    ASSERT_GE(kept, 300u);
+
+    rlimit saved{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &saved), 0);
+    struct Restore {
+        rlimit limit;
+        ~Restore() { ::setrlimit(RLIMIT_NOFILE, &limit); }
+    } const restore{saved};
+    const rlimit low{Files::list("/proc/self/fd").size() + 4, saved.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &low), 0);
+    vexel::testing::SleepingChildren after(50);
+    const auto records = source.snapshot(ProcessScope::everyone);
+    EXPECT_TRUE(listsEvery(records, before.pids()));
+    EXPECT_TRUE(listsEvery(records, after.pids()));
+    EXPECT_LT(budget.limit(), kept) << "it keeps fewer from now on";
+}
+
+// A kept descriptor of an ended process answers ESRCH even when its pid now
+// names another: the new process is read as new. The pid is handed on for
+// real, by setting the kernel's last pid (root only).
+TEST(LiveProcessSourceLive, APidGivenToANewProcessIsReadAsThatProcess)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to set /proc/sys/kernel/ns_last_pid; CI runs as root";
+    LiveProcessSource source;
+    const auto sleep = Files::realPath("/bin/sleep");
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        std::optional<vexel::testing::SleepingChildren> first(std::in_place, 1);
+        const pid_t pid = first->pids().front();
+        const auto before = source.snapshot(ProcessScope::own);
+        ASSERT_TRUE(listsEvery(before, {pid}));
+        ASSERT_EQ(statFilesHeldOf({pid}), 1u);
+        first.reset();
+        std::ofstream("/proc/sys/kernel/ns_last_pid") << pid - 1;
+        vexel::testing::ChildProcess second({"sleep", "30"});
+        if (second.pid() != pid)
+            continue; // another process took the number first: try again
+        const auto after = source.snapshot(ProcessScope::own);
+        const auto* record = byPid(after, pid);
+        ASSERT_NE(record, nullptr) << "the process that took the number was missed";
+        EXPECT_EQ(record->name, "sleep");
+        EXPECT_EQ(record->path, sleep);
+        EXPECT_GT(record->start, byPid(before, pid)->start - 1);
+        EXPECT_EQ(statFilesHeldOf({pid}), 1u);
+        return;
+    }
+    FAIL() << "no pid was handed on in 20 tries";
 }

@@ -29,6 +29,7 @@ TEST(ProcPidFiles, StatWhoseNameHoldsBlanksAndParentheses)
     EXPECT_EQ(stat->utime, 153u);
     EXPECT_EQ(stat->stime, 5u);
     EXPECT_EQ(stat->startTime, 234411u);
+    EXPECT_EQ(stat->rssPages, 15622u);
     EXPECT_FALSE(stat->isKernelThread());
     EXPECT_FALSE(stat->isZombie());
 

@@ -5,10 +5,11 @@
 #include "system/linux/Meminfo.h"
 #include "text/TextScan.h"
 
+#include <cerrno>
+#include <charconv>
 #include <cmath>
 #include <ctime>
-#include <dirent.h>
-#include <memory>
+#include <iterator>
 #include <unistd.h>
 
 namespace vexel {
@@ -42,19 +43,10 @@ std::string withoutDeleted(std::string path)
     return path;
 }
 
-struct CloseDir {
-    void operator()(DIR* dir) const { ::closedir(dir); }
-};
-
-std::optional<int32_t> pidOf(const char* name)
+// Whether the last open failed for want of descriptors, the process's or the system's.
+bool outOfDescriptors()
 {
-    int64_t value = 0;
-    for (const char* c = name; *c != '\0'; ++c) {
-        if (*c < '0' || *c > '9' || value > 100'000'000)
-            return std::nullopt;
-        value = value * 10 + (*c - '0');
-    }
-    return name[0] == '\0' ? std::nullopt : std::optional(static_cast<int32_t>(value));
+    return errno == EMFILE || errno == ENFILE;
 }
 
 } // namespace
@@ -64,13 +56,14 @@ LiveProcessSource::LiveProcessSource()
 {
 }
 
-LiveProcessSource::LiveProcessSource(
-    std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize)
+LiveProcessSource::LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond,
+    long pageSize, DescriptorBudget* budget)
     : m_proc(std::move(procRoot))
     , m_myUID(myUID)
     , m_bootEpoch(bootEpoch)
     , m_ticksPerSecond(ticksPerSecond > 0 ? static_cast<double>(ticksPerSecond) : 100.0)
     , m_pageSize(pageSize > 0 ? static_cast<uint64_t>(pageSize) : 4096)
+    , m_budget(budget != nullptr ? *budget : DescriptorBudget::program())
 {
     // Root sees through hidepid; everyone else sees only their own processes.
     m_othersHidden = m_myUID != 0
@@ -164,74 +157,109 @@ const std::string& LiveProcessSource::fileOf(const std::string& folder, const ch
 std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
 {
     std::vector<ProcRecord> records;
-    std::unique_ptr<DIR, CloseDir> dir(::opendir(m_proc.c_str()));
-    if (!dir)
+    if (!m_listing.read(m_proc, m_pids)
+        && !(outOfDescriptors() && giveBackDescriptors() && m_listing.read(m_proc, m_pids)))
         return records;
     ++m_readings;
     const bool swapping = machineSwaps();
-    records.reserve(m_known.size() + 16);
-    std::string folder;
-    while (const dirent* entry = ::readdir(dir.get())) {
-        const auto pid = pidOf(entry->d_name);
-        if (!pid)
-            continue;
-        folder.assign(m_proc).append("/").append(entry->d_name);
-        if (!Files::readInto(fileOf(folder, "stat"), m_buffer, 4096))
-            continue; // it exited since the folder was listed
-        auto stat = ProcPidFiles::parseStat(m_buffer);
-        if (!stat)
-            continue;
-
-        ProcRecord record;
-        record.pid = *pid;
-        record.ppid = stat->ppid;
-        record.start = m_bootEpoch + static_cast<double>(stat->startTime) / m_ticksPerSecond;
-        record.zombie = stat->isZombie();
-        const auto key = ProcKey::of(record);
-
-        auto [slot, isNew] = m_known.try_emplace(key);
-        Known& known = slot->second;
-        known.seen = m_readings;
-        known.kernelThread = known.kernelThread || stat->isKernelThread();
-        const bool slowDue = (m_readings + static_cast<uint64_t>(*pid)) % slowRefreshEvery == 0;
-        // A new program (a changed name) may bring a new user and executable.
-        // Kernel threads never run a new program, but workers rename themselves for each job.
-        const bool renamed = known.comm != stat->comm && !known.kernelThread;
-        if (isNew || renamed || slowDue)
-            learnSlowFacts(folder, known, stat->comm);
-
-        record.name = known.name ? *known.name : std::move(stat->comm);
-        record.uid = known.uid;
-        record.kernelThread = known.kernelThread;
-        record.cgroup = known.cgroup;
-        record.flatpakApp = known.flatpakApp;
-        record.appImage = known.appImage;
-        if (!record.zombie)
-            record.path = known.path;
-        const bool own = known.uid == m_myUID;
-        const uint64_t ticks = stat->utime + stat->stime;
-        // stat is every user's to read and already read: every process's time
-        // comes on every tick, so other users' rates hold across the ticks that
-        // skip their memory.
-        if (!record.zombie)
-            record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
-        if (!record.zombie && (own || scope == ProcessScope::everyone)) {
-            const bool due = (m_readings + static_cast<uint64_t>(*pid)) % refreshEvery == 0;
-            if (!known.measured || ticks != known.ticks || due)
-                measure(folder, known, own, swapping);
-            known.ticks = ticks;
-            record.memory = known.anonBytes + known.swapBytes;
-            record.memoryIsFootprint = true;
-            if (own) {
-                record.diskRead = known.diskRead;
-                record.diskWrite = known.diskWrite;
-            }
-        }
-        records.push_back(std::move(record));
+    records.reserve(m_pids.size());
+    for (const int32_t pid : m_pids) {
+        if (auto record = read(pid, scope, swapping))
+            records.push_back(std::move(*record));
     }
-    // Forget the processes that are gone.
+    // Forget the processes that are gone, closing their descriptors.
     std::erase_if(m_known, [this](const auto& entry) { return entry.second.seen != m_readings; });
     return records;
+}
+
+std::optional<std::string_view> LiveProcessSource::readStat(Known& known)
+{
+    const bool wasKept = known.stat.kept();
+    auto text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+    if (!text && wasKept) {
+        // The process the descriptor was kept for has ended; the pid may name a new one.
+        known = Known{};
+        text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+    }
+    if (!text && outOfDescriptors() && giveBackDescriptors())
+        text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+    return text;
+}
+
+bool LiveProcessSource::giveBackDescriptors()
+{
+    const size_t kept = m_budget.inUse();
+    if (kept == 0)
+        return false;
+    m_budget.lowerTo(kept / 2);
+    for (auto& entry : m_known)
+        entry.second.stat.close();
+    return true;
+}
+
+std::optional<ProcRecord> LiveProcessSource::read(int32_t pid, ProcessScope scope, bool swapping)
+{
+    char digits[16];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), pid).ptr;
+    m_folder.assign(m_proc).append("/").append(std::begin(digits), end);
+    Known& known = m_known[pid];
+    const auto text = readStat(known);
+    if (!text)
+        return std::nullopt; // it exited since the folder was listed
+    auto stat = ProcPidFiles::parseStat(*text);
+    if (!stat)
+        return std::nullopt;
+    const bool isNew = stat->startTime != known.startTicks;
+    if (isNew) {
+        KeptFile file = std::move(known.stat);
+        known = Known{};
+        known.stat = std::move(file);
+        known.startTicks = stat->startTime;
+    }
+
+    ProcRecord record;
+    record.pid = pid;
+    record.ppid = stat->ppid;
+    record.start = m_bootEpoch + static_cast<double>(stat->startTime) / m_ticksPerSecond;
+    record.zombie = stat->isZombie();
+    known.seen = m_readings;
+    known.kernelThread = known.kernelThread || stat->isKernelThread();
+    const bool slowDue = (m_readings + static_cast<uint64_t>(pid)) % slowRefreshEvery == 0;
+    // A new program (a changed name) may bring a new user and executable.
+    // Kernel threads never run a new program, but workers rename themselves for each job.
+    const bool renamed = known.comm != stat->comm && !known.kernelThread;
+    if (isNew || renamed || slowDue)
+        learnSlowFacts(m_folder, known, stat->comm);
+
+    record.name = known.name ? *known.name : std::move(stat->comm);
+    record.uid = known.uid;
+    record.kernelThread = known.kernelThread;
+    record.cgroup = known.cgroup;
+    record.flatpakApp = known.flatpakApp;
+    record.appImage = known.appImage;
+    if (!record.zombie)
+        record.path = known.path;
+    const bool own = known.uid == m_myUID;
+    const uint64_t ticks = stat->utime + stat->stime;
+    // stat is every user's to read and already read: every process's time
+    // comes on every tick, so other users' rates hold across the ticks that
+    // skip their memory.
+    if (!record.zombie)
+        record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
+    if (!record.zombie && (own || scope == ProcessScope::everyone)) {
+        const bool due = (m_readings + static_cast<uint64_t>(pid)) % refreshEvery == 0;
+        if (!known.measured || ticks != known.ticks || stat->rssPages != known.rssPages || due)
+            measure(m_folder, known, own, swapping);
+        known.ticks = ticks;
+        known.rssPages = stat->rssPages;
+        record.memory = known.anonBytes + known.swapBytes;
+        record.memoryIsFootprint = true;
+        if (own) {
+            record.diskRead = known.diskRead;
+            record.diskWrite = known.diskWrite;
+        }
+    }
+    return record;
 }
 
 std::optional<std::string> LiveProcessSource::cwd(int32_t pid)

@@ -1,7 +1,11 @@
 #pragma once
 
 #include "processes/ProcessSource.h"
+#include "processes/linux/DescriptorBudget.h"
+#include "processes/linux/KeptFile.h"
+#include "processes/linux/ProcListing.h"
 
+#include <array>
 #include <string>
 #include <unordered_map>
 
@@ -9,20 +13,25 @@ namespace vexel {
 
 // The process table of a Linux machine, read from /proc.
 //
-// Each reading opens /proc/<pid>/stat for every process. What changes rarely
-// (user, executable, cgroup) is kept per process and looked up again only
-// when the process runs a new program. Memory (statm, plus swap from status
-// when the machine swaps) and disk bytes (io, own processes) are re-read for
-// a process that used processor time since the last reading, and every 64th
-// reading otherwise: a process that did not run cannot have touched its
-// memory or the disk.
+// Each reading lists /proc and reads /proc/<pid>/stat of every process,
+// through a descriptor opened at the process's first reading and kept until
+// it ends (as many as the program's descriptor budget allows; the rest are
+// opened each time). What changes rarely (user, executable, cgroup) is kept
+// per process and looked up again only when the process runs a new program.
+// Memory (statm, plus swap from status when the machine swaps) and disk bytes
+// (io, own processes) are re-read for a process whose processor time or
+// resident pages moved since the last reading, and every 64th reading
+// otherwise: a process that did not run cannot have touched its memory or
+// the disk, and one whose pages were swapped out has fewer resident.
 class LiveProcessSource final : public ProcessSource {
 public:
-    // This machine's /proc, as the calling user.
+    // This machine's /proc, as the calling user, within the program's budget.
     LiveProcessSource();
     // A /proc tree elsewhere (tests), the user to count as "own", when the
-    // machine booted (seconds since the epoch), clock ticks per second and page size.
-    LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize);
+    // machine booted (seconds since the epoch), clock ticks per second, page
+    // size and the descriptors it may keep (the program's when none).
+    LiveProcessSource(std::string procRoot, uint32_t myUID, double bootEpoch, long ticksPerSecond, long pageSize,
+        DescriptorBudget* budget = nullptr);
 
     [[nodiscard]] bool othersHidden() const override { return m_othersHidden; }
 
@@ -33,7 +42,11 @@ public:
     [[nodiscard]] size_t knownCount() const { return m_known.size(); }
 
 private:
+    static constexpr uint64_t unknownStart = ~uint64_t{0};
+
     struct Known {
+        KeptFile stat;
+        uint64_t startTicks = unknownStart; // tells a new process from the one the pid named before
         std::string comm; // the name when the slow facts were read
         uint32_t uid = 0;
         bool kernelThread = false;
@@ -43,6 +56,7 @@ private:
         std::optional<std::string> flatpakApp;
         std::optional<std::string> appImage;
         uint64_t ticks = 0; // utime + stime at the last full reading
+        uint64_t rssPages = 0; // resident pages at the last full reading
         uint64_t anonBytes = 0; // resident anonymous memory
         uint64_t swapBytes = 0;
         std::optional<uint64_t> diskRead;
@@ -51,6 +65,13 @@ private:
         uint64_t seen = 0; // the reading that last listed it
     };
 
+    [[nodiscard]] std::optional<ProcRecord> read(int32_t pid, ProcessScope scope, bool swapping);
+    // The text of the process's stat file; a process that is not the one
+    // `known` was about starts over with nothing known.
+    [[nodiscard]] std::optional<std::string_view> readStat(Known& known);
+    // The program ran out of descriptors: closes the kept ones and keeps
+    // fewer from now on. False when there were none to give back.
+    bool giveBackDescriptors();
     void learnSlowFacts(const std::string& folder, Known& known, const std::string& comm);
     void learnPackage(const std::string& folder, Known& known);
     void measure(const std::string& folder, Known& known, bool own, bool swapping);
@@ -65,8 +86,13 @@ private:
     double m_ticksPerSecond;
     uint64_t m_pageSize;
     uint64_t m_readings = 0;
-    std::unordered_map<ProcKey, Known, ProcKeyHash> m_known;
+    DescriptorBudget& m_budget;
+    ProcListing m_listing;
+    std::vector<int32_t> m_pids;
+    std::unordered_map<int32_t, Known> m_known; // by pid
+    std::array<char, 4096> m_statText{};
     std::string m_buffer;
+    std::string m_folder;
     std::string m_file;
 };
 

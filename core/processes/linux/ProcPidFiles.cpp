@@ -31,9 +31,10 @@ std::optional<Stat> parseStat(std::string_view text)
     const auto close = text.rfind(')');
     if (open == std::string_view::npos || close == std::string_view::npos || close < open)
         return std::nullopt;
-    // After the name, counting from 0: 0 state, 1 ppid, 6 flags, 11 utime, 12 stime, 19 starttime.
+    // After the name, counting from 0: 0 state, 1 ppid, 6 flags, 11 utime, 12 stime, 19 starttime, 21 rss.
     // Read once per process per tick, so the fields are picked out without building a list.
-    std::array<std::string_view, 20> fields;
+    constexpr size_t needed = 20;
+    std::array<std::string_view, 22> fields;
     size_t count = 0;
     size_t i = close + 1;
     while (count < fields.size() && i < text.size()) {
@@ -45,7 +46,7 @@ std::optional<Stat> parseStat(std::string_view text)
         if (i > start)
             fields[count++] = text.substr(start, i - start);
     }
-    if (count < fields.size() || fields[0].size() != 1)
+    if (count < needed || fields[0].size() != 1)
         return std::nullopt;
     Stat stat;
     stat.comm = std::string(text.substr(open + 1, close - open - 1));
@@ -62,6 +63,7 @@ std::optional<Stat> parseStat(std::string_view text)
     stat.utime = *utime;
     stat.stime = *stime;
     stat.startTime = *start;
+    stat.rssPages = count > 21 ? TextScan::toU64(fields[21]).value_or(0) : 0;
     return stat;
 }
 

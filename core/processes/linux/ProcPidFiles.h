@@ -17,6 +17,7 @@ struct Stat {
     uint64_t utime = 0;
     uint64_t stime = 0;
     uint64_t startTime = 0; // ticks after boot
+    uint64_t rssPages = 0; // resident pages of every kind; 0 when the line stops before it
 
     [[nodiscard]] bool isKernelThread() const { return (flags & 0x00200000) != 0; } // PF_KTHREAD
     [[nodiscard]] bool isZombie() const { return state == 'Z' || state == 'X'; }
