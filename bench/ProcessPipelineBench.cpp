@@ -1,7 +1,8 @@
 // One refresh of the process table as the monitor does it: the snapshot of
 // every process, the rate tracker and the grouping into apps, beside a floor
-// that only opens, reads and closes /proc/<pid>/stat of every process.
-// Idle children are spawned so that the machine holds about 500 or 2,000 processes.
+// that only opens, reads and closes /proc/<pid>/stat of every process and one
+// that keeps those files open. Idle children are spawned so that the machine
+// holds about 500 or 2,000 processes (argument 0: the machine as it is).
 
 #include "IdleChildren.h"
 #include "grouping/AppGrouper.h"
@@ -62,12 +63,7 @@ void BM_ProcessPipeline_Steady(benchmark::State& state)
             benchmark::Counter::kIsRate | benchmark::Counter::kInvert, benchmark::Counter::kIs1000);
     state.counters["state_kB"] = static_cast<double>(heapWarm - heapBefore) / 1024.0;
 }
-BENCHMARK(BM_ProcessPipeline_Steady)
-    ->Arg(500)
-    ->Arg(2000)
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly(true);
+BENCHMARK(BM_ProcessPipeline_Steady)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
 
 // The floor: what any monitor pays to list /proc and open, read and close
 // every process's stat file, written as plainly as C would.
@@ -96,16 +92,11 @@ void BM_ProcStat_Floor(benchmark::State& state)
     }
     state.counters["processes"] = static_cast<double>(processes);
 }
-BENCHMARK(BM_ProcStat_Floor)
-    ->Arg(500)
-    ->Arg(2000)
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly(true);
+BENCHMARK(BM_ProcStat_Floor)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
 
-// The same listing with each stat file opened once and read again with pread
-// from offset 0: the floor for a reader that keeps its descriptors.
-void BM_ProcStat_KeptFloor(benchmark::State& state)
+// Lists /proc as the floor does and reads each process's `file` through a
+// descriptor opened at its first sight and kept, with pread from offset 0.
+void readKept(benchmark::State& state, const char* file)
 {
     IdleChildren::ensure(static_cast<size_t>(state.range(0)));
     char path[300];
@@ -120,7 +111,7 @@ void BM_ProcStat_KeptFloor(benchmark::State& state)
                 continue;
             auto [slot, isNew] = kept.try_emplace(std::atoi(entry->d_name), -1);
             if (isNew) {
-                std::snprintf(path, sizeof path, "/proc/%s/stat", entry->d_name);
+                std::snprintf(path, sizeof path, "/proc/%s/%s", entry->d_name, file);
                 slot->second = ::open(path, O_RDONLY | O_CLOEXEC);
             }
             if (slot->second >= 0 && ::pread(slot->second, buffer, sizeof buffer, 0) > 0)
@@ -134,12 +125,21 @@ void BM_ProcStat_KeptFloor(benchmark::State& state)
             ::close(fd);
     state.counters["processes"] = static_cast<double>(processes);
 }
-BENCHMARK(BM_ProcStat_KeptFloor)
-    ->Arg(500)
-    ->Arg(2000)
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly(true);
+
+// The floor for a reader that keeps its descriptors.
+void BM_ProcStat_KeptFloor(benchmark::State& state)
+{
+    readKept(state, "stat");
+}
+BENCHMARK(BM_ProcStat_KeptFloor)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
+
+// The same with each process's schedstat, the file Vexel reads first to learn
+// whether a single-threaded process ran at all.
+void BM_ProcSchedstat_KeptFloor(benchmark::State& state)
+{
+    readKept(state, "schedstat");
+}
+BENCHMARK(BM_ProcSchedstat_KeptFloor)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
 
 // Listing /proc alone: readdir as the floors do it, and ProcListing's one
 // getdents64 buffer sized for the machine.

@@ -14,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         require(stat->comm.size() < size);
         require(stat->ppid >= 0);
     }
+    (void)vexel::ProcPidFiles::parseSchedstatRuntime(text);
     (void)vexel::ProcPidFiles::parseStatmAnonPages(text);
     (void)vexel::ProcPidFiles::parseStatus(text);
     (void)vexel::ProcPidFiles::parseIo(text);

@@ -2,6 +2,7 @@
 
 #include "io/Files.h"
 #include "processes/Shell.h"
+#include "processes/linux/ProcPidFiles.h"
 #include "support/ChildProcess.h"
 #include "support/SleepingChildren.h"
 
@@ -13,6 +14,7 @@
 #include <optional>
 #include <set>
 #include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -305,4 +307,71 @@ TEST(LiveProcessSourceLive, APidGivenToANewProcessIsReadAsThatProcess)
         return;
     }
     FAIL() << "no pid was handed on in 20 tries";
+}
+
+// An idle single-threaded process costs a look at its schedstat, not a read
+// of its stat; one that runs is read every time, and one whose parent ended
+// (handed to another without running) is read for its new parent.
+TEST(LiveProcessSourceLive, OnlyProcessesThatRanOrMovedAreReadAgain)
+{
+    ASSERT_EQ(::prctl(PR_SET_CHILD_SUBREAPER, 1), 0); // orphans come to this process, to be reaped
+    struct Unreap {
+        ~Unreap() { ::prctl(PR_SET_CHILD_SUBREAPER, 0); }
+    } const unreap;
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const pid_t parent = ::fork();
+    if (parent == 0) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::pause();
+            ::_exit(0);
+        }
+        (void)!::write(ends[1], &child, sizeof child);
+        ::pause();
+        ::_exit(0);
+    }
+    pid_t orphan = 0;
+    ASSERT_EQ(::read(ends[0], &orphan, sizeof orphan), static_cast<ssize_t>(sizeof orphan));
+    ::close(ends[0]);
+    ::close(ends[1]);
+    const pid_t busy = ::fork();
+    if (busy == 0) {
+        for (;;) { }
+    }
+    struct Reap {
+        std::vector<pid_t> pids;
+        ~Reap()
+        {
+            for (const pid_t pid : pids) {
+                ::kill(pid, SIGKILL);
+                ::waitpid(pid, nullptr, 0);
+            }
+        }
+    } const reap{{busy, orphan, parent}};
+    vexel::testing::SleepingChildren idle(200);
+
+    LiveProcessSource source;
+    for (int reading = 0; reading < 3; ++reading)
+        (void)source.snapshot(ProcessScope::everyone); // the third knows how long each had run
+    const auto reads = source.statReads();
+    const auto before = source.snapshot(ProcessScope::everyone);
+    EXPECT_LT(source.statReads() - reads, before.size() - 150) << "the idle children's stat files were read";
+    ASSERT_NE(byPid(before, orphan), nullptr);
+    EXPECT_EQ(byPid(before, orphan)->ppid, parent);
+
+    ::kill(parent, SIGKILL);
+    ::waitpid(parent, nullptr, 0);
+    // The busy child runs on: wait until it has used two more clock ticks.
+    const auto busyTicks = [&] {
+        const auto stat = ProcPidFiles::parseStat(Files::read("/proc/" + std::to_string(busy) + "/stat").value_or(""));
+        return stat ? static_cast<double>(stat->utime + stat->stime) / 100.0 : 0.0;
+    };
+    for (int wait = 0; wait < 500 && busyTicks() < *byPid(before, busy)->cpuTime + 0.02; ++wait)
+        ::usleep(10'000);
+    const auto after = source.snapshot(ProcessScope::everyone);
+    ASSERT_NE(byPid(after, orphan), nullptr);
+    EXPECT_EQ(byPid(after, orphan)->ppid, ::getpid()) << "an orphan is read for its new parent";
+    EXPECT_GT(*byPid(after, busy)->cpuTime, *byPid(before, busy)->cpuTime);
+    EXPECT_EQ(byPid(after, idle.pids().front())->cpuTime, byPid(before, idle.pids().front())->cpuTime);
 }

@@ -30,6 +30,7 @@ TEST(ProcPidFiles, StatWhoseNameHoldsBlanksAndParentheses)
     EXPECT_EQ(stat->stime, 5u);
     EXPECT_EQ(stat->startTime, 234411u);
     EXPECT_EQ(stat->rssPages, 15622u);
+    EXPECT_EQ(stat->threads, 1u);
     EXPECT_FALSE(stat->isKernelThread());
     EXPECT_FALSE(stat->isZombie());
 
@@ -48,6 +49,15 @@ TEST(ProcPidFiles, MalformedStatLines)
         {"", "12 (cut", "12 no parens S 1", "12 (a) S 1 2 3", "12 (a) SS 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1",
             "12 (a) S x 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1", ")( S 1"})
         EXPECT_FALSE(ProcPidFiles::parseStat(bad)) << bad;
+}
+
+// schedstat as this VM's kernel writes it; one without scheduler statistics writes "0 0 0".
+TEST(ProcPidFiles, SchedstatRuntime)
+{
+    EXPECT_EQ(ProcPidFiles::parseSchedstatRuntime("2519459 632941 2\n"), 2519459u);
+    EXPECT_EQ(ProcPidFiles::parseSchedstatRuntime("0 0 0\n"), 0u);
+    for (const char* bad : {"", "\n", "1 2", "1 2 3 4", "x 2 3", "1 2 -3", "18446744073709551616 0 0"})
+        EXPECT_FALSE(ProcPidFiles::parseSchedstatRuntime(bad)) << bad;
 }
 
 TEST(ProcPidFiles, StatusStatmIoAndCgroup)

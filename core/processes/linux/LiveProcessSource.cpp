@@ -5,12 +5,14 @@
 #include "system/linux/Meminfo.h"
 #include "text/TextScan.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <ctime>
 #include <iterator>
 #include <unistd.h>
+#include <utility>
 
 namespace vexel {
 
@@ -82,6 +84,7 @@ bool LiveProcessSource::machineSwaps()
 void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, const std::string& comm)
 {
     known.comm = comm;
+    known.learned = true;
     if (Files::readInto(fileOf(folder, "status"), m_buffer, 64 * 1024)) {
         const auto status = ProcPidFiles::parseStatus(m_buffer);
         known.uid = status.uid.value_or(known.uid);
@@ -162,9 +165,10 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
         return records;
     ++m_readings;
     const bool swapping = machineSwaps();
+    noteListed();
     records.reserve(m_pids.size());
-    for (const int32_t pid : m_pids) {
-        if (auto record = read(pid, scope, swapping))
+    for (size_t i = 0; i < m_pids.size(); ++i) {
+        if (auto record = read(m_pids[i], *m_listed[i], scope, swapping))
             records.push_back(std::move(*record));
     }
     // Forget the processes that are gone, closing their descriptors.
@@ -172,8 +176,57 @@ std::vector<ProcRecord> LiveProcessSource::snapshot(ProcessScope scope)
     return records;
 }
 
+void LiveProcessSource::noteListed()
+{
+    m_listed.clear();
+    for (const int32_t pid : m_pids) {
+        Known& known = m_known[pid]; // entries stay where they are as the map grows
+        known.listed = m_readings;
+        m_listed.push_back(&known);
+    }
+    m_gone.clear();
+    for (const auto& [pid, known] : m_known) {
+        if (known.listed != m_readings)
+            m_gone.push_back(pid);
+    }
+    std::sort(m_gone.begin(), m_gone.end());
+}
+
+bool LiveProcessSource::parentGone(const ProcPidFiles::Stat& stat) const
+{
+    // Its children were given to another parent without running.
+    return !m_gone.empty() && std::binary_search(m_gone.begin(), m_gone.end(), stat.ppid);
+}
+
+LiveProcessSource::Ran LiveProcessSource::ranSinceLastReading(Known& known)
+{
+    if (!m_schedstatTells || known.noSchedstat || known.last->threads != 1
+        || (!known.schedstat.kept() && m_budget.inUse() >= m_budget.limit()))
+        return Ran::unknown;
+    const bool wasKept = known.schedstat.kept();
+    const auto text = known.schedstat.read(fileOf(m_folder, "schedstat").c_str(), m_statText, m_budget);
+    const auto runtime = text ? ProcPidFiles::parseSchedstatRuntime(*text) : std::nullopt;
+    if (!runtime) {
+        // Ended (its stat says so next), or no schedstat to read.
+        known.noSchedstat = !wasKept;
+        known.schedstat.close();
+        return Ran::unknown;
+    }
+    if (*runtime == 0 && known.last->utime + known.last->stime > 0) {
+        // Never run, by a process that has used processor time: the kernel
+        // keeps no scheduler statistics and writes "0 0 0" for everyone.
+        m_schedstatTells = false;
+        known.schedstat.close();
+        return Ran::unknown;
+    }
+    const bool ran = known.runtime != runtime;
+    known.runtime = runtime;
+    return ran ? Ran::yes : Ran::no;
+}
+
 std::optional<std::string_view> LiveProcessSource::readStat(Known& known)
 {
+    ++m_statReads;
     const bool wasKept = known.stat.kept();
     auto text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
     if (!text && wasKept) {
@@ -197,41 +250,46 @@ bool LiveProcessSource::giveBackDescriptors()
     return true;
 }
 
-std::optional<ProcRecord> LiveProcessSource::read(int32_t pid, ProcessScope scope, bool swapping)
+std::optional<ProcRecord> LiveProcessSource::read(int32_t pid, Known& known, ProcessScope scope, bool swapping)
 {
     char digits[16];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), pid).ptr;
     m_folder.assign(m_proc).append("/").append(std::begin(digits), end);
-    Known& known = m_known[pid];
-    const auto text = readStat(known);
-    if (!text)
-        return std::nullopt; // it exited since the folder was listed
-    auto stat = ProcPidFiles::parseStat(*text);
-    if (!stat)
-        return std::nullopt;
-    const bool isNew = stat->startTime != known.startTicks;
-    if (isNew) {
-        KeptFile file = std::move(known.stat);
-        known = Known{};
-        known.stat = std::move(file);
-        known.startTicks = stat->startTime;
+    const bool due = (m_readings + static_cast<uint64_t>(pid)) % refreshEvery == 0;
+    const Ran ran = known.last && !due && !parentGone(*known.last) ? ranSinceLastReading(known) : Ran::unknown;
+    std::optional<ProcPidFiles::Stat> previous;
+    if (ran != Ran::no) {
+        const auto text = readStat(known);
+        if (!text)
+            return std::nullopt; // it exited since the folder was listed
+        auto stat = ProcPidFiles::parseStat(*text);
+        if (!stat)
+            return std::nullopt;
+        if (known.last && known.last->startTime != stat->startTime) {
+            // Another process has the pid now: only the open stat file is its.
+            KeptFile file = std::move(known.stat);
+            known = Known{};
+            known.stat = std::move(file);
+        }
+        previous = std::exchange(known.last, std::move(*stat));
     }
+    const ProcPidFiles::Stat& stat = *known.last;
 
     ProcRecord record;
     record.pid = pid;
-    record.ppid = stat->ppid;
-    record.start = m_bootEpoch + static_cast<double>(stat->startTime) / m_ticksPerSecond;
-    record.zombie = stat->isZombie();
+    record.ppid = stat.ppid;
+    record.start = m_bootEpoch + static_cast<double>(stat.startTime) / m_ticksPerSecond;
+    record.zombie = stat.isZombie();
     known.seen = m_readings;
-    known.kernelThread = known.kernelThread || stat->isKernelThread();
+    known.kernelThread = known.kernelThread || stat.isKernelThread();
     const bool slowDue = (m_readings + static_cast<uint64_t>(pid)) % slowRefreshEvery == 0;
     // A new program (a changed name) may bring a new user and executable.
     // Kernel threads never run a new program, but workers rename themselves for each job.
-    const bool renamed = known.comm != stat->comm && !known.kernelThread;
-    if (isNew || renamed || slowDue)
-        learnSlowFacts(m_folder, known, stat->comm);
+    const bool renamed = known.comm != stat.comm && !known.kernelThread;
+    if (!known.learned || renamed || slowDue)
+        learnSlowFacts(m_folder, known, stat.comm);
 
-    record.name = known.name ? *known.name : std::move(stat->comm);
+    record.name = known.name ? *known.name : stat.comm;
     record.uid = known.uid;
     record.kernelThread = known.kernelThread;
     record.cgroup = known.cgroup;
@@ -240,18 +298,16 @@ std::optional<ProcRecord> LiveProcessSource::read(int32_t pid, ProcessScope scop
     if (!record.zombie)
         record.path = known.path;
     const bool own = known.uid == m_myUID;
-    const uint64_t ticks = stat->utime + stat->stime;
-    // stat is every user's to read and already read: every process's time
-    // comes on every tick, so other users' rates hold across the ticks that
-    // skip their memory.
+    const uint64_t ticks = stat.utime + stat.stime;
+    // stat is every user's to read: every process's time comes on every
+    // tick, so other users' rates hold across the ticks that skip their memory.
     if (!record.zombie)
         record.cpuTime = static_cast<double>(ticks) / m_ticksPerSecond;
     if (!record.zombie && (own || scope == ProcessScope::everyone)) {
-        const bool due = (m_readings + static_cast<uint64_t>(pid)) % refreshEvery == 0;
-        if (!known.measured || ticks != known.ticks || stat->rssPages != known.rssPages || due)
+        const bool moved = previous
+            && (previous->utime + previous->stime != ticks || previous->rssPages != stat.rssPages || ran == Ran::yes);
+        if (!known.measured || moved || due)
             measure(m_folder, known, own, swapping);
-        known.ticks = ticks;
-        known.rssPages = stat->rssPages;
         record.memory = known.anonBytes + known.swapBytes;
         record.memoryIsFootprint = true;
         if (own) {

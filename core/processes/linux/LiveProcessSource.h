@@ -4,6 +4,7 @@
 #include "processes/linux/DescriptorBudget.h"
 #include "processes/linux/KeptFile.h"
 #include "processes/linux/ProcListing.h"
+#include "processes/linux/ProcPidFiles.h"
 
 #include <array>
 #include <string>
@@ -13,16 +14,20 @@ namespace vexel {
 
 // The process table of a Linux machine, read from /proc.
 //
-// Each reading lists /proc and reads /proc/<pid>/stat of every process,
-// through a descriptor opened at the process's first reading and kept until
-// it ends (as many as the program's descriptor budget allows; the rest are
-// opened each time). What changes rarely (user, executable, cgroup) is kept
-// per process and looked up again only when the process runs a new program.
-// Memory (statm, plus swap from status when the machine swaps) and disk bytes
-// (io, own processes) are re-read for a process whose processor time or
-// resident pages moved since the last reading, and every 64th reading
-// otherwise: a process that did not run cannot have touched its memory or
-// the disk, and one whose pages were swapped out has fewer resident.
+// Each reading lists /proc and reads every process through descriptors
+// opened at its first reading and kept until it ends (as many as the
+// program's descriptor budget allows; the rest are opened each time).
+//
+// A single-threaded process is asked first how long it has run
+// (/proc/<pid>/schedstat, a far cheaper file than stat): when that did not
+// move and its parent is still there, nothing in its stat can have changed,
+// and the last one stands. Other processes have their stat read every time.
+// What changes rarely (user, executable, cgroup) is kept per process and
+// looked up again only when the process runs a new program. Memory (statm,
+// plus swap from status when the machine swaps) and disk bytes (io, own
+// processes) are re-read for a process that ran or whose resident pages
+// moved since the last reading: one that did not run cannot have touched its
+// memory or the disk. Every 64th reading of a process reads all of it anew.
 class LiveProcessSource final : public ProcessSource {
 public:
     // This machine's /proc, as the calling user, within the program's budget.
@@ -40,13 +45,17 @@ public:
 
     // Processes known from earlier readings (for tests and the benchmark's memory figure).
     [[nodiscard]] size_t knownCount() const { return m_known.size(); }
+    // Stat files read so far (for tests: idle processes are not re-read).
+    [[nodiscard]] uint64_t statReads() const { return m_statReads; }
 
 private:
-    static constexpr uint64_t unknownStart = ~uint64_t{0};
-
     struct Known {
         KeptFile stat;
-        uint64_t startTicks = unknownStart; // tells a new process from the one the pid named before
+        KeptFile schedstat;
+        std::optional<ProcPidFiles::Stat> last; // its start time tells a new process from the one the pid named before
+        std::optional<uint64_t> runtime; // nanoseconds run, from schedstat
+        bool noSchedstat = false; // its schedstat could not be opened
+        bool learned = false; // the slow facts have been read
         std::string comm; // the name when the slow facts were read
         uint32_t uid = 0;
         bool kernelThread = false;
@@ -55,17 +64,24 @@ private:
         std::optional<std::string> cgroup;
         std::optional<std::string> flatpakApp;
         std::optional<std::string> appImage;
-        uint64_t ticks = 0; // utime + stime at the last full reading
-        uint64_t rssPages = 0; // resident pages at the last full reading
         uint64_t anonBytes = 0; // resident anonymous memory
         uint64_t swapBytes = 0;
         std::optional<uint64_t> diskRead;
         std::optional<uint64_t> diskWrite;
         bool measured = false; // memory and disk have been read at least once
-        uint64_t seen = 0; // the reading that last listed it
+        uint64_t listed = 0; // the reading that last listed it
+        uint64_t seen = 0; // the reading that last read it
     };
 
-    [[nodiscard]] std::optional<ProcRecord> read(int32_t pid, ProcessScope scope, bool swapping);
+    // Finds (or makes) each listed process's entry, and notes the known ones
+    // that are no longer listed.
+    void noteListed();
+    [[nodiscard]] std::optional<ProcRecord> read(int32_t pid, Known& known, ProcessScope scope, bool swapping);
+    // Whether the process ran since its last reading, by its schedstat;
+    // unknown when that cannot tell (several threads, no such file, no budget).
+    enum class Ran { yes, no, unknown };
+    [[nodiscard]] Ran ranSinceLastReading(Known& known);
+    [[nodiscard]] bool parentGone(const ProcPidFiles::Stat& stat) const;
     // The text of the process's stat file; a process that is not the one
     // `known` was about starts over with nothing known.
     [[nodiscard]] std::optional<std::string_view> readStat(Known& known);
@@ -86,9 +102,13 @@ private:
     double m_ticksPerSecond;
     uint64_t m_pageSize;
     uint64_t m_readings = 0;
+    uint64_t m_statReads = 0;
     DescriptorBudget& m_budget;
     ProcListing m_listing;
     std::vector<int32_t> m_pids;
+    std::vector<Known*> m_listed; // the entry of each of m_pids
+    std::vector<int32_t> m_gone; // known at the last reading, not listed at this one; sorted
+    bool m_schedstatTells = true; // false on a kernel that keeps no scheduler statistics
     std::unordered_map<int32_t, Known> m_known; // by pid
     std::array<char, 4096> m_statText{};
     std::string m_buffer;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <limits>
+#include <span>
 
 namespace vexel::ProcPidFiles {
 
@@ -23,20 +24,13 @@ std::optional<uint64_t> statusBytes(std::string_view rest)
     return *value * scale;
 }
 
-} // namespace
-
-std::optional<Stat> parseStat(std::string_view text)
+// Splits `text` after `from` at blanks and newlines into `fields`, stopping
+// once they are full; how many it found. Builds no list: stat and schedstat
+// are read for every process at every reading.
+size_t splitFields(std::string_view text, size_t from, std::span<std::string_view> fields)
 {
-    const auto open = text.find('(');
-    const auto close = text.rfind(')');
-    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
-        return std::nullopt;
-    // After the name, counting from 0: 0 state, 1 ppid, 6 flags, 11 utime, 12 stime, 19 starttime, 21 rss.
-    // Read once per process per tick, so the fields are picked out without building a list.
-    constexpr size_t needed = 20;
-    std::array<std::string_view, 22> fields;
     size_t count = 0;
-    size_t i = close + 1;
+    size_t i = from;
     while (count < fields.size() && i < text.size()) {
         while (i < text.size() && (text[i] == ' ' || text[i] == '\n'))
             ++i;
@@ -46,6 +40,22 @@ std::optional<Stat> parseStat(std::string_view text)
         if (i > start)
             fields[count++] = text.substr(start, i - start);
     }
+    return count;
+}
+
+} // namespace
+
+std::optional<Stat> parseStat(std::string_view text)
+{
+    const auto open = text.find('(');
+    const auto close = text.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return std::nullopt;
+    // After the name, counting from 0: 0 state, 1 ppid, 6 flags, 11 utime, 12 stime, 17 num_threads,
+    // 19 starttime, 21 rss.
+    constexpr size_t needed = 20;
+    std::array<std::string_view, 22> fields;
+    const size_t count = splitFields(text, close + 1, fields);
     if (count < needed || fields[0].size() != 1)
         return std::nullopt;
     Stat stat;
@@ -55,16 +65,27 @@ std::optional<Stat> parseStat(std::string_view text)
     const auto flags = TextScan::toU64(fields[6]);
     const auto utime = TextScan::toU64(fields[11]);
     const auto stime = TextScan::toU64(fields[12]);
+    const auto threads = TextScan::toU64(fields[17]);
     const auto start = TextScan::toU64(fields[19]);
-    if (!ppid || *ppid < 0 || *ppid > std::numeric_limits<int32_t>::max() || !flags || !utime || !stime || !start)
+    if (!ppid || *ppid < 0 || *ppid > std::numeric_limits<int32_t>::max() || !flags || !utime || !stime || !start
+        || !threads)
         return std::nullopt;
     stat.ppid = static_cast<int32_t>(*ppid);
     stat.flags = *flags;
     stat.utime = *utime;
     stat.stime = *stime;
     stat.startTime = *start;
+    stat.threads = *threads;
     stat.rssPages = count > 21 ? TextScan::toU64(fields[21]).value_or(0) : 0;
     return stat;
+}
+
+std::optional<uint64_t> parseSchedstatRuntime(std::string_view text)
+{
+    std::array<std::string_view, 4> fields;
+    if (splitFields(text, 0, fields) != 3 || !TextScan::toU64(fields[1]) || !TextScan::toU64(fields[2]))
+        return std::nullopt;
+    return TextScan::toU64(fields[0]);
 }
 
 std::optional<uint64_t> parseStatmAnonPages(std::string_view text)

@@ -18,6 +18,7 @@ struct Stat {
     uint64_t stime = 0;
     uint64_t startTime = 0; // ticks after boot
     uint64_t rssPages = 0; // resident pages of every kind; 0 when the line stops before it
+    uint64_t threads = 0;
 
     [[nodiscard]] bool isKernelThread() const { return (flags & 0x00200000) != 0; } // PF_KTHREAD
     [[nodiscard]] bool isZombie() const { return state == 'Z' || state == 'X'; }
@@ -28,6 +29,11 @@ struct Stat {
 // The name is the text between the first "(" and the last ")"; the fields
 // after it are split on blanks. Nothing when the line is cut short.
 [[nodiscard]] std::optional<Stat> parseStat(std::string_view text);
+
+// /proc/<pid>/schedstat: the nanoseconds the process's main thread has run
+// ("2519459 632941 2" → 2519459). A kernel that keeps no scheduler
+// statistics writes "0 0 0".
+[[nodiscard]] std::optional<uint64_t> parseSchedstatRuntime(std::string_view text);
 
 // /proc/<pid>/statm: resident pages minus shared (file-backed and shmem)
 // pages, which is the anonymous resident memory, in pages.
