@@ -4,6 +4,7 @@
 #include "processes/Shell.h"
 #include "processes/linux/ProcPidFiles.h"
 #include "support/ChildProcess.h"
+#include "support/ProcessChecks.h"
 #include "support/SleepingChildren.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +21,8 @@
 #include <unistd.h>
 
 using namespace vexel;
+using vexel::testing::listsEvery;
+using vexel::testing::statFilesHeldOf;
 namespace fs = std::filesystem;
 
 namespace {
@@ -31,31 +34,6 @@ const ProcRecord* byPid(const std::vector<ProcRecord>& records, int32_t pid)
             return &record;
     }
     return nullptr;
-}
-
-// How many of this process's descriptors are open on /proc/<pid>/stat of one of `pids`.
-size_t statFilesHeldOf(const std::vector<pid_t>& pids)
-{
-    const std::set<pid_t> wanted(pids.begin(), pids.end());
-    size_t held = 0;
-    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
-        const auto target = Files::readLink(entry.path().string()).value_or("");
-        if (!target.starts_with("/proc/") || !target.ends_with("/stat"))
-            continue;
-        const auto pid = ProcListing::pidOf(std::string_view(target).substr(6, target.size() - 11));
-        held += pid && wanted.contains(*pid) ? 1 : 0;
-    }
-    return held;
-}
-
-bool listsEvery(const std::vector<ProcRecord>& records, const std::vector<pid_t>& pids)
-{
-    std::set<pid_t> listed;
-    for (const auto& record : records) {
-        if (record.cpuTime)
-            listed.insert(record.pid);
-    }
-    return std::all_of(pids.begin(), pids.end(), [&](pid_t pid) { return listed.contains(pid); });
 }
 
 LiveProcessSource fixtureSource(uint32_t myUID)
@@ -207,29 +185,6 @@ TEST(LiveProcessSourceLive, AnAppImagesFileFromItsEnvironment)
     EXPECT_EQ(found->appImage, "/home/alice/Applications/Vexel-Test.AppImage");
     EXPECT_FALSE(found->flatpakApp);
     EXPECT_FALSE(byPid(records, ::getpid())->appImage); // not an AppImage's
-}
-
-// Each process's stat file is opened at its first reading and kept: no tool
-// started beside the source inherits one, and when processes end their
-// descriptors are closed at the next reading.
-TEST(LiveProcessSourceLive, KeepsOneDescriptorPerProcessUntilItEnds)
-{
-    LiveProcessSource source;
-    vexel::testing::SleepingChildren children(2000);
-    const auto pids = children.pids();
-    ASSERT_EQ(pids.size(), 2000u);
-    const auto records = source.snapshot(ProcessScope::everyone);
-    EXPECT_TRUE(listsEvery(records, pids));
-    ASSERT_GE(DescriptorBudget::program().limit(), 4000u) << "the soft limit on open files was not raised";
-    EXPECT_EQ(statFilesHeldOf(pids), pids.size());
-
-    const auto seen = Shell::run("/bin/ls", {"-l", "/proc/self/fd"}, 10);
-    ASSERT_TRUE(seen) << seen.error;
-    EXPECT_EQ(seen->find("/stat"), std::string::npos) << *seen;
-
-    children.end();
-    EXPECT_FALSE(listsEvery(source.snapshot(ProcessScope::everyone), {pids.front()}));
-    EXPECT_EQ(statFilesHeldOf(pids), 0u);
 }
 
 // Beyond its budget a source opens and closes each file as before: every
