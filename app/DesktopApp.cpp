@@ -2,6 +2,7 @@
 
 #include "Appearance.h"
 #include "MainWindow.h"
+#include "QuitVexel.h"
 #include "SingleInstance.h"
 #include "StopSignals.h"
 #include "VexelCommands.h"
@@ -61,9 +62,7 @@ void quitOnStopSignals(QCoreApplication& app)
     QObject::connect(notifier, &QSocketNotifier::activated, &app, [fd] {
         signalfd_siginfo info{};
         while (::read(fd, &info, sizeof info) == static_cast<ssize_t>(sizeof info)) { }
-        // exit, not quit: quit first asks the windows to close, and the
-        // window only minimises while it is the way back.
-        QCoreApplication::exit(0);
+        quitVexel();
     });
 }
 
@@ -126,10 +125,8 @@ int runWindow(SingleInstance& instance, bool hidden)
         window.raise();
         window.activateWindow();
     };
-    // exit, not quit: quit would first ask the window to close, and closing only puts it out of the way.
-    const auto quit = [] { QCoreApplication::exit(0); };
     MenuBarController panel(model, panelAppearance(), systemAppearance(),
-        {showWindow, [showSettings] { showSettings(SettingsWindow::Tab::panel); }, quit});
+        {showWindow, [showSettings] { showSettings(SettingsWindow::Tab::panel); }, quitVexel});
     // The panel's status area is followed as it comes and goes; without
     // items in it, the window stays the way back.
     PanelHost host;
@@ -153,7 +150,7 @@ int runWindow(SingleInstance& instance, bool hidden)
             qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
         showWindow();
     });
-    QObject::connect(&instance, &SingleInstance::quitRequested, &window, quit);
+    QObject::connect(&instance, &SingleInstance::quitRequested, &window, quitVexel);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &model, &AppModel::shutdown);
     model.start();
     host.start();

@@ -1,10 +1,10 @@
 #include "VexelCommands.h"
 
 #include "MainWindow.h"
+#include "QuitVexel.h"
 #include "model/AppModel.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QMenuBar>
 
 namespace vexel {
@@ -36,11 +36,10 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
     settings->setShortcutContext(Qt::ApplicationShortcut);
     connect(settings, &QAction::triggered, this, [openSettings = std::move(openSettings)] { openSettings(); });
     vexel->addSeparator();
-    auto* quitVexel = vexel->addAction(QStringLiteral("Quit Vexel"));
-    quitVexel->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence::Quit));
-    quitVexel->setShortcutContext(Qt::ApplicationShortcut);
-    // exit, not quit: quit would first ask the window to close, and closing only puts it out of the way.
-    connect(quitVexel, &QAction::triggered, this, [] { QCoreApplication::exit(0); });
+    auto* quitAction = vexel->addAction(QStringLiteral("Quit Vexel"));
+    quitAction->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence::Quit));
+    quitAction->setShortcutContext(Qt::ApplicationShortcut);
+    connect(quitAction, &QAction::triggered, this, &quitVexel);
 
     auto* go = m_bar->addMenu(QStringLiteral("Go"));
     for (const auto route : allRoutes) {

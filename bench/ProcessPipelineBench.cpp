@@ -65,65 +65,63 @@ void BM_ProcessPipeline_Steady(benchmark::State& state)
 }
 BENCHMARK(BM_ProcessPipeline_Steady)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
 
-// The floor: what any monitor pays to list /proc and open, read and close
-// every process's stat file, written as plainly as C would.
-void BM_ProcStat_Floor(benchmark::State& state)
+// Runs each process's `read(name)` over a readdir of /proc, as plainly as C
+// would, at every iteration; `read` says whether it got the file.
+template <typename Read> void everyProcess(benchmark::State& state, Read read)
 {
     IdleChildren::ensure(static_cast<size_t>(state.range(0)));
-    char path[300];
-    char buffer[4096];
     size_t processes = 0;
     for (auto _ : state) {
         processes = 0;
         DIR* dir = ::opendir("/proc");
         while (const dirent* entry = ::readdir(dir)) {
-            if (entry->d_name[0] < '0' || entry->d_name[0] > '9')
-                continue;
-            std::snprintf(path, sizeof path, "/proc/%s/stat", entry->d_name);
-            const int fd = ::open(path, O_RDONLY | O_CLOEXEC);
-            if (fd < 0)
-                continue;
-            if (::read(fd, buffer, sizeof buffer) > 0)
+            if (entry->d_name[0] >= '0' && entry->d_name[0] <= '9' && read(entry->d_name))
                 ++processes;
-            ::close(fd);
         }
         ::closedir(dir);
-        benchmark::DoNotOptimize(buffer);
     }
     state.counters["processes"] = static_cast<double>(processes);
 }
+
+// The floor: what any monitor pays to list /proc and open, read and close
+// every process's stat file.
+void BM_ProcStat_Floor(benchmark::State& state)
+{
+    char path[300];
+    char buffer[4096];
+    everyProcess(state, [&](const char* name) {
+        std::snprintf(path, sizeof path, "/proc/%s/stat", name);
+        const int fd = ::open(path, O_RDONLY | O_CLOEXEC);
+        if (fd < 0)
+            return false;
+        const bool got = ::read(fd, buffer, sizeof buffer) > 0;
+        ::close(fd);
+        benchmark::DoNotOptimize(buffer);
+        return got;
+    });
+}
 BENCHMARK(BM_ProcStat_Floor)->Apply(atProcessCounts)->Unit(benchmark::kMillisecond);
 
-// Lists /proc as the floor does and reads each process's `file` through a
-// descriptor opened at its first sight and kept, with pread from offset 0.
+// Each process's `file` through a descriptor opened at its first sight and
+// kept, read with pread from offset 0.
 void readKept(benchmark::State& state, const char* file)
 {
-    IdleChildren::ensure(static_cast<size_t>(state.range(0)));
     char path[300];
     char buffer[4096];
     std::unordered_map<int, int> kept; // pid → descriptor
-    size_t processes = 0;
-    for (auto _ : state) {
-        processes = 0;
-        DIR* dir = ::opendir("/proc");
-        while (const dirent* entry = ::readdir(dir)) {
-            if (entry->d_name[0] < '0' || entry->d_name[0] > '9')
-                continue;
-            auto [slot, isNew] = kept.try_emplace(std::atoi(entry->d_name), -1);
-            if (isNew) {
-                std::snprintf(path, sizeof path, "/proc/%s/%s", entry->d_name, file);
-                slot->second = ::open(path, O_RDONLY | O_CLOEXEC);
-            }
-            if (slot->second >= 0 && ::pread(slot->second, buffer, sizeof buffer, 0) > 0)
-                ++processes;
+    everyProcess(state, [&](const char* name) {
+        auto [slot, isNew] = kept.try_emplace(std::atoi(name), -1);
+        if (isNew) {
+            std::snprintf(path, sizeof path, "/proc/%s/%s", name, file);
+            slot->second = ::open(path, O_RDONLY | O_CLOEXEC);
         }
-        ::closedir(dir);
+        const bool got = slot->second >= 0 && ::pread(slot->second, buffer, sizeof buffer, 0) > 0;
         benchmark::DoNotOptimize(buffer);
-    }
+        return got;
+    });
     for (const auto& [pid, fd] : kept)
         if (fd >= 0)
             ::close(fd);
-    state.counters["processes"] = static_cast<double>(processes);
 }
 
 // The floor for a reader that keeps its descriptors.
@@ -145,16 +143,7 @@ BENCHMARK(BM_ProcSchedstat_KeptFloor)->Apply(atProcessCounts)->Unit(benchmark::k
 // getdents64 buffer sized for the machine.
 void BM_ProcListing_Readdir(benchmark::State& state)
 {
-    IdleChildren::ensure(static_cast<size_t>(state.range(0)));
-    size_t processes = 0;
-    for (auto _ : state) {
-        processes = 0;
-        DIR* dir = ::opendir("/proc");
-        while (const dirent* entry = ::readdir(dir))
-            processes += entry->d_name[0] >= '0' && entry->d_name[0] <= '9' ? 1 : 0;
-        ::closedir(dir);
-    }
-    state.counters["processes"] = static_cast<double>(processes);
+    everyProcess(state, [](const char*) { return true; });
 }
 BENCHMARK(BM_ProcListing_Readdir)->Arg(500)->Arg(2000)->Unit(benchmark::kMicrosecond);
 

@@ -124,10 +124,11 @@ std::vector<std::string> SettingsFile::messages() const
 
 SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Saving saving)
 {
-    // A limit the user sets is theirs, saved or not.
     const auto before = toJson(m_saved);
-    const auto after = toJson(settings);
-    std::erase_if(m_standIns, [&](const std::string& limit) { return before[limit] != after[limit]; });
+    const auto wanted = toJson(settings);
+    // A limit the user sets is theirs, saved or not.
+    std::erase_if(m_standIns,
+        [&](const std::string& limit) { return before.value(limit, Json()) != wanted.value(limit, Json()); });
     Reading now = readDocument(m_file);
     if (now.state == State::unreadable) {
         // Not saved: the change is still to write when the file can be read again.
@@ -138,9 +139,9 @@ SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Savi
                 + " Put the file right, or move it away, and Vexel saves its settings there again."};
     }
     if (now.state == State::missing)
-        now.document = toJson(settings); // a new file has every key, to be read and edited
+        now.document = wanted; // a new file has every key, to be read and edited
     else
-        mergeChanges(now.document, toJson(settings), toJson(m_saved));
+        mergeChanges(now.document, wanted, before);
     AtomicFile::write(m_file, now.document.dump(2) + "\n");
     m_failure.reset();
     adopt(State::read, now.document);

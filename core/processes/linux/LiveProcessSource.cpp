@@ -83,7 +83,6 @@ bool LiveProcessSource::machineSwaps()
 
 void LiveProcessSource::learnSlowFacts(const std::string& folder, Known& known, const std::string& comm)
 {
-    known.comm = comm;
     known.learned = true;
     if (Files::readInto(fileOf(folder, "status"), m_buffer, 64 * 1024)) {
         const auto status = ProcPidFiles::parseStatus(m_buffer);
@@ -227,15 +226,16 @@ LiveProcessSource::Ran LiveProcessSource::ranSinceLastReading(Known& known)
 std::optional<std::string_view> LiveProcessSource::readStat(Known& known)
 {
     ++m_statReads;
+    const char* path = fileOf(m_folder, "stat").c_str();
     const bool wasKept = known.stat.kept();
-    auto text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+    auto text = known.stat.read(path, m_statText, m_budget);
     if (!text && wasKept) {
         // The process the descriptor was kept for has ended; the pid may name a new one.
         known = Known{};
-        text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+        text = known.stat.read(path, m_statText, m_budget);
     }
     if (!text && outOfDescriptors() && giveBackDescriptors())
-        text = known.stat.read(fileOf(m_folder, "stat").c_str(), m_statText, m_budget);
+        text = known.stat.read(path, m_statText, m_budget);
     return text;
 }
 
@@ -285,7 +285,7 @@ std::optional<ProcRecord> LiveProcessSource::read(int32_t pid, Known& known, Pro
     const bool slowDue = (m_readings + static_cast<uint64_t>(pid)) % slowRefreshEvery == 0;
     // A new program (a changed name) may bring a new user and executable.
     // Kernel threads never run a new program, but workers rename themselves for each job.
-    const bool renamed = known.comm != stat.comm && !known.kernelThread;
+    const bool renamed = previous && previous->comm != stat.comm && !known.kernelThread;
     if (!known.learned || renamed || slowDue)
         learnSlowFacts(m_folder, known, stat.comm);
 

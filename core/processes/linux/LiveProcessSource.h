@@ -56,7 +56,6 @@ private:
         std::optional<uint64_t> runtime; // nanoseconds run, from schedstat
         bool noSchedstat = false; // its schedstat could not be opened
         bool learned = false; // the slow facts have been read
-        std::string comm; // the name when the slow facts were read
         uint32_t uid = 0;
         bool kernelThread = false;
         std::optional<std::string> path;
