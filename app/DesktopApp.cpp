@@ -19,6 +19,7 @@
 #include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSocketNotifier>
 #include <QStyleHints>
 
@@ -85,6 +86,15 @@ AppModel::Setup liveSetup(const VexelPaths& paths)
         },
         std::make_unique<LiveActions>(), currentTime, static_cast<uint32_t>(::geteuid()),
         static_cast<int32_t>(::getpid()), true};
+}
+
+// Vexel's icon from the icon theme where it is installed, else the one built in.
+QIcon vexelIcon()
+{
+    QIcon builtIn;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256})
+        builtIn.addFile(QStringLiteral(":/icons/dev.vexel.Vexel-%1.png").arg(size), QSize(size, size));
+    return QIcon::fromTheme(QStringLiteral("dev.vexel.Vexel"), builtIn);
 }
 
 bool hasArgument(int argc, char** argv, std::string_view wanted)
@@ -177,10 +187,14 @@ int runDesktopApp(int& argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
+    QApplication::setWindowIcon(vexelIcon());
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
     if (snapshot)
         return runSnapshotMode(*snapshot);
+    // The desktop entry's Quit action: the running Vexel quits, and nothing starts.
+    if (hasArgument(argc, argv, "--quit"))
+        return SingleInstance::quitRunning() ? 0 : 1;
     const bool hidden = hasArgument(argc, argv, "--hidden");
     SingleInstance instance;
     if (instance.claim() == SingleInstance::Claim::another) {

@@ -68,6 +68,15 @@ bool SingleInstance::activateRunning()
     return reply.type() == QDBusMessage::ReplyMessage;
 }
 
+bool SingleInstance::quitRunning()
+{
+    auto call = QDBusMessage::createMethodCall(
+        serviceName, objectPath, applicationInterface, QStringLiteral("ActivateAction"));
+    call << QStringLiteral("quit") << QVariantList() << platformData();
+    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, activateMilliseconds);
+    return reply.type() == QDBusMessage::ReplyMessage;
+}
+
 bool SingleInstance::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)
 {
     if (message.interface() != applicationInterface)

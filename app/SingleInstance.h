@@ -32,6 +32,9 @@ public:
     // launcher's activation token so the desktop lets it come forward;
     // whether it answered. The second launch's last act: it may wait.
     static bool activateRunning();
+    // Asks the Vexel running in this session to quit, as the desktop entry's
+    // Quit action does; false when none answered.
+    static bool quitRunning();
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
     [[nodiscard]] QString introspect(const QString& path) const override;

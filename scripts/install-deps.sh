@@ -11,6 +11,8 @@ run_packages=(
   cmake ninja-build g++ pkg-config
   # libraries
   nlohmann-json3-dev libsqlite3-dev qt6-base-dev
+  # the desktop app under Wayland compositors
+  qt6-wayland
   # the app's font and the GPU name database
   fonts-inter pci.ids
   # the tools Vexel runs: ss (iproute2), with lsof as the fallback, for listening ports
@@ -28,6 +30,9 @@ test_packages=(
   dbus-daemon haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils imagemagick
   # the desktop session test closes and finds the app's window through the X server
   libxcb1-dev
+  # the install check validates the desktop entry and the AppStream metadata;
+  # scripts/icons.sh renders the icon's sizes
+  desktop-file-utils appstream librsvg2-bin
 )
 
 case "${1:-test}" in

@@ -45,6 +45,7 @@ export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 started=$SECONDS
 (cd "$build" && ctest --output-on-failure -j2)
 echo "test: the CTest suites took $((SECONDS - started)) s"
+scripts/check-install.sh "$build"
 
 if ((fuzz)); then
   started=$SECONDS

@@ -2,6 +2,7 @@
 
 #include "Logging.h"
 #include "grouping/AppGrouper.h"
+#include "grouping/linux/DesktopEntry.h"
 #include "io/AtomicFile.h"
 #include "model/AppSearch.h"
 #include "platform/Environment.h"
@@ -469,8 +470,8 @@ void AppModel::setOpenAtLogin(bool open)
             try {
                 if (open)
                     AtomicFile::write(file,
-                        "[Desktop Entry]\nType=Application\nName=Vexel\nExec=" + program
-                            + " --hidden\nX-GNOME-Autostart-enabled=true\n");
+                        "[Desktop Entry]\nType=Application\nName=Vexel\nIcon=dev.vexel.Vexel\nExec="
+                            + DesktopEntry::execArgument(program) + " --hidden\nX-GNOME-Autostart-enabled=true\n");
                 else
                     std::filesystem::remove(file);
                 return std::nullopt;

@@ -9,6 +9,7 @@
 #include "NoticeBanner.h"
 #include "WindowKeeper.h"
 #include "actions/FakeActions.h"
+#include "grouping/linux/DesktopEntry.h"
 #include "pages/HistoryPage.h"
 #include "pages/OverviewFigures.h"
 #include "pages/OverviewPage.h"
@@ -142,7 +143,9 @@ TEST(AppModel, LoginItemAndLastSeen)
     EXPECT_TRUE(demo.model->opensAtLogin());
     std::ifstream entry(config / "autostart" / "dev.vexel.Vexel.desktop");
     std::string text((std::istreambuf_iterator<char>(entry)), std::istreambuf_iterator<char>());
-    EXPECT_NE(text.find("Exec="), std::string::npos);
+    const auto parsed = DesktopEntry::parse(text);
+    ASSERT_TRUE(parsed);
+    EXPECT_EQ(parsed->program, QCoreApplication::applicationFilePath().toStdString());
     EXPECT_NE(text.find(" --hidden\n"), std::string::npos);
     demo.model->setOpenAtLogin(false);
     demo.settle();

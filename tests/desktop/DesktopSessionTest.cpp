@@ -117,7 +117,16 @@ TEST(DesktopSession, APanelThatComesLateGetsTheItemsAndOneThatGoesSendsTheWindow
         display.close(display.windowsOf(app.pid(), "Vexel").front());
         ASSERT_TRUE(waitFor([&] { return !display.shows(app.pid(), "Vexel"); }));
     }
-    // The panel went away: the window is back in the taskbar, the way back.
+    // The panel went away: the window is back in the taskbar, the way back,
+    // under the desktop entry that names its class, with Vexel's icon.
     EXPECT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
-    EXPECT_TRUE(exitedWell(app.process.stop(SIGTERM)));
+    const auto window = display.windowsOf(app.pid(), "Vexel").front();
+    const auto entry = vexel::Files::read(std::string(VEXEL_SOURCE_DIR) + "/packaging/dev.vexel.Vexel.desktop.in");
+    EXPECT_NE(entry.value_or("").find("\nStartupWMClass=" + display.windowClass(window) + "\n"), std::string::npos)
+        << display.windowClass(window);
+    EXPECT_TRUE(display.hasIcon(window));
+    // The entry's Quit action ends it.
+    ChildProcess quit({vexelApp, "--quit"});
+    EXPECT_TRUE(exitedWell(quit.waitUpTo(15000)));
+    EXPECT_TRUE(exitedWell(app.process.waitUpTo(15000)));
 }

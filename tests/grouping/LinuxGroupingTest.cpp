@@ -100,6 +100,9 @@ TEST(DesktopEntry, ParsesApplicationsOnly)
     EXPECT_FALSE(DesktopEntry::parse("[Desktop Entry]\nType=Application\n"));
     EXPECT_FALSE(DesktopEntry::parse("Type=Application\nName=outside any group\n"));
     EXPECT_EQ(DesktopEntry::programOf("%U"), "");
+    // A program path as Vexel writes it (the autostart entry) reads back whole.
+    for (const std::string path : {"/usr/bin/vexel-app", "/home/al ice/100% \"new\"/$HOME/`x`/a\\b/vexel-app"})
+        EXPECT_EQ(DesktopEntry::programOf(DesktopEntry::execArgument(path) + " --hidden"), path);
 }
 
 TEST(DesktopEntry, TheNameInTheUsersLanguage)

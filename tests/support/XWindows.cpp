@@ -93,6 +93,21 @@ bool XDisplay::mapped(uint32_t window)
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
+std::string XDisplay::windowClass(uint32_t window)
+{
+    const auto value = propertyOf(window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING);
+    const std::string both(value.begin(), value.end()); // "instance\0Class\0"
+    const auto split = both.find('\0');
+    if (split == std::string::npos)
+        return {};
+    return std::string(both.c_str() + split + 1);
+}
+
+bool XDisplay::hasIcon(uint32_t window)
+{
+    return !propertyOf(window, atom("_NET_WM_ICON"), XCB_ATOM_CARDINAL).empty();
+}
+
 bool XDisplay::shows(pid_t pid, const std::string& title)
 {
     const auto windows = windowsOf(pid, title);

@@ -31,6 +31,10 @@ public:
     [[nodiscard]] bool mapped(uint32_t window);
     // Whether `pid` has a window titled `title` on the screen.
     [[nodiscard]] bool shows(pid_t pid, const std::string& title);
+    // The class half of WM_CLASS, which a desktop entry's StartupWMClass names.
+    [[nodiscard]] std::string windowClass(uint32_t window);
+    // Whether the window carries its own icon (_NET_WM_ICON) for taskbars.
+    [[nodiscard]] bool hasIcon(uint32_t window);
     // Asks the window to close, as a window manager's close button does.
     void close(uint32_t window);
 

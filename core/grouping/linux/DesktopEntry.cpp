@@ -9,7 +9,28 @@ namespace vexel {
 
 namespace {
 
-// Splits an Exec value into words, honouring double quotes and backslash escapes.
+// A string value with its escapes undone: \\ \s \t \n \r.
+std::string unescaped(std::string_view value)
+{
+    std::string result;
+    for (size_t i = 0; i < value.size(); ++i) {
+        if (value[i] != '\\' || i + 1 == value.size()) {
+            result += value[i];
+            continue;
+        }
+        switch (const char next = value[++i]) {
+        case 's': result += ' '; break;
+        case 't': result += '\t'; break;
+        case 'n': result += '\n'; break;
+        case 'r': result += '\r'; break;
+        default: result += next; break;
+        }
+    }
+    return result;
+}
+
+// Splits an Exec value into words, honouring double quotes and backslash
+// escapes; %% is a percent sign.
 std::vector<std::string> execWords(std::string_view exec)
 {
     std::vector<std::string> words;
@@ -20,6 +41,9 @@ std::vector<std::string> execWords(std::string_view exec)
         const char c = exec[i];
         if (quoted && c == '\\' && i + 1 < exec.size()) {
             current += exec[++i];
+        } else if (c == '%' && i + 1 < exec.size() && exec[i + 1] == '%') {
+            current += exec[++i];
+            inWord = true;
         } else if (c == '"') {
             quoted = !quoted;
             inWord = true;
@@ -47,7 +71,7 @@ bool isTrue(std::string_view value)
 
 std::string DesktopEntry::programOf(std::string_view exec)
 {
-    const auto words = execWords(exec);
+    const auto words = execWords(unescaped(exec));
     size_t i = 0;
     if (i < words.size() && (words[i] == "env" || words[i] == "/usr/bin/env")) {
         ++i;
@@ -59,6 +83,21 @@ std::string DesktopEntry::programOf(std::string_view exec)
             return words[i];
     }
     return {};
+}
+
+std::string DesktopEntry::execArgument(std::string_view word)
+{
+    std::string quoted = "\"";
+    for (const char c : word) {
+        if (c == '"' || c == '`' || c == '$')
+            quoted += "\\\\";
+        else if (c == '\\')
+            quoted += "\\\\\\";
+        if (c == '%')
+            quoted += '%';
+        quoted += c;
+    }
+    return quoted + '"';
 }
 
 std::vector<std::string> DesktopEntry::localeKeys(std::string_view locale)

@@ -30,6 +30,11 @@ struct DesktopEntry {
     // The program of an Exec line: quotes removed, `env` and its assignments
     // skipped, field codes (%f %U …) ignored.
     [[nodiscard]] static std::string programOf(std::string_view exec);
+
+    // A word as an Exec value writes it: quoted, with ", `, $ and \ escaped
+    // inside the quotes, % doubled, and each backslash doubled once more for
+    // the value's own escapes. programOf gives the word back.
+    [[nodiscard]] static std::string execArgument(std::string_view word);
 };
 
 } // namespace vexel
