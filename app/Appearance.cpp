@@ -4,6 +4,17 @@
 #include <QFontDatabase>
 #include <QStringList>
 
+namespace vexel {
+
+Appearance appearanceOf(const QPalette& palette)
+{
+    // Text is the one role Vexel never sets on a widget of its own, so a
+    // widget's palette tells its appearance even where Vexel coloured it.
+    return palette.color(QPalette::Text).lightness() > 128 ? Appearance::dark : Appearance::light;
+}
+
+} // namespace vexel
+
 namespace vexel::Look {
 
 namespace {
@@ -44,7 +55,13 @@ bool installFont()
 
 QFont font(double pointSize, QFont::Weight weight)
 {
-    QFont result = g_family.isEmpty() ? QApplication::font() : QFont(g_family);
+    if (g_family.isEmpty()) { // the system's font, hinted as the system hints it
+        QFont result = QApplication::font();
+        result.setPointSizeF(pointSize);
+        result.setWeight(weight);
+        return result;
+    }
+    QFont result(g_family);
     result.setPointSizeF(pointSize);
     result.setWeight(weight);
     result.setHintingPreference(QFont::PreferNoHinting);

@@ -9,8 +9,13 @@ namespace vexel {
 // Light or dark: the two looks of the app.
 enum class Appearance { light, dark };
 
-// The app's look in one place: a fixed palette per appearance and the app's
-// own font, so that windows and pictures look the same on every machine.
+// The appearance a palette shows: dark when its text is light.
+[[nodiscard]] Appearance appearanceOf(const QPalette& palette);
+
+// The app's look in one place. Pictures use a fixed palette per appearance
+// and the app's own font, so that they look the same on every machine; the
+// live window uses the system's style, font and palette, and everything
+// drawn takes its colours from the palette it is drawn on.
 namespace Look {
 
 // Loads the bundled Inter font by file and makes it the app's font, with
@@ -21,12 +26,15 @@ bool installFont();
 // The font at a point size, in the app's face.
 [[nodiscard]] QFont font(double pointSize, QFont::Weight weight = QFont::Normal);
 
+// Vexel's own palette of an appearance: the pictures', and the live window's
+// where the system's palette is of the other appearance than the desktop asks.
 [[nodiscard]] QPalette palette(Appearance appearance);
 
 // The sidebar's own background, a step away from the page background.
 [[nodiscard]] QColor sidebar(Appearance appearance);
 
-// Secondary text, for explanations under a figure.
+// Secondary text, for explanations under a figure: the palette's
+// PlaceholderText, which Vexel's palettes set to this.
 [[nodiscard]] QColor secondaryText(Appearance appearance);
 
 // The text of a button whose action destroys something (Force Quit, Erase).

@@ -1,6 +1,7 @@
 #include "ConfirmSheet.h"
 
 #include "actions/ActionFlow.h"
+#include "look/FollowAppearance.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -31,16 +32,17 @@ bool OverlayFrame::eventFilter(QObject*, QEvent* event)
     return false;
 }
 
-ConfirmSheet::ConfirmSheet(Appearance appearance, QWidget* parent)
+ConfirmSheet::ConfirmSheet(QWidget* parent)
     : OverlayFrame(parent)
-    , m_appearance(appearance)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     // Lifted off the page: the base colour, a step brighter (or darker) than the window.
-    QPalette palette = Look::palette(appearance);
-    palette.setColor(QPalette::Window, palette.color(QPalette::Base));
-    setPalette(palette);
+    Look::followAppearance(this, [](QWidget* sheet, Appearance) {
+        QPalette palette = sheet->palette();
+        palette.setColor(QPalette::Window, palette.color(QPalette::Base));
+        sheet->setPalette(palette);
+    });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(22, 20, 22, 16);
     layout->setSpacing(10);
@@ -57,6 +59,7 @@ ConfirmSheet::ConfirmSheet(Appearance appearance, QWidget* parent)
     m_cancel = new QPushButton(QStringLiteral("Cancel"), this);
     m_cancel->setDefault(true);
     m_confirm = new QPushButton(this);
+    Look::followAppearance(m_confirm, [this](QWidget*, Appearance appearance) { styleConfirm(appearance); });
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_confirm);
     layout->addLayout(buttons);
@@ -74,15 +77,20 @@ void ConfirmSheet::show(const ConfirmRequest* request)
     m_title->setText(QString::fromStdString(request->title));
     m_message->setText(QString::fromStdString(request->message));
     m_confirm->setText(QString::fromStdString(request->button));
-    QPalette palette = Look::palette(m_appearance);
-    palette.setColor(QPalette::Window, palette.color(QPalette::Base));
-    if (request->destructive)
-        palette.setColor(QPalette::ButtonText, Look::destructive(m_appearance));
-    m_confirm->setPalette(palette);
+    m_destructive = request->destructive;
+    styleConfirm(appearanceOf(palette()));
     place();
     QFrame::show();
     raise();
     m_cancel->setFocus();
+}
+
+void ConfirmSheet::styleConfirm(Appearance appearance)
+{
+    QPalette palette = m_confirm->palette();
+    palette.setColor(QPalette::ButtonText,
+        m_destructive ? Look::destructive(appearance) : this->palette().color(QPalette::ButtonText));
+    m_confirm->setPalette(palette);
 }
 
 void ConfirmSheet::keyPressEvent(QKeyEvent* event)
@@ -112,14 +120,12 @@ QString ConfirmSheet::messageText() const
     return m_message->text();
 }
 
-ToastBar::ToastBar(Appearance appearance, QWidget* parent)
+ToastBar::ToastBar(QWidget* parent)
     : OverlayFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    QPalette palette = Look::palette(appearance);
-    palette.setColor(QPalette::Window, Look::sidebar(appearance));
-    setPalette(palette);
+    Look::keepColour(this, QPalette::Window, Look::sidebar);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 8, 6, 8);
     m_text = new QLabel(this);

@@ -29,7 +29,7 @@ class ConfirmSheet final : public OverlayFrame {
     Q_OBJECT
 
 public:
-    ConfirmSheet(Appearance appearance, QWidget* parent);
+    explicit ConfirmSheet(QWidget* parent);
 
     // Shows the request, or hides the sheet when there is none.
     void show(const ConfirmRequest* request);
@@ -49,12 +49,14 @@ protected:
 
 private:
     void place() override;
+    // The action's button in the text colour, or the destructive one.
+    void styleConfirm(Appearance appearance);
 
-    Appearance m_appearance;
     QLabel* m_title = nullptr;
     QLabel* m_message = nullptr;
     QPushButton* m_cancel = nullptr;
     QPushButton* m_confirm = nullptr;
+    bool m_destructive = false;
 };
 
 // A short message at the foot of the window with its close button; a longer
@@ -63,7 +65,7 @@ class ToastBar final : public OverlayFrame {
     Q_OBJECT
 
 public:
-    ToastBar(Appearance appearance, QWidget* parent);
+    explicit ToastBar(QWidget* parent);
 
     // Shows the text, or hides the bar when there is none.
     void show(const std::optional<std::string>& text);

@@ -5,6 +5,7 @@
 #include "QuitVexel.h"
 #include "SingleInstance.h"
 #include "StopSignals.h"
+#include "SystemLook.h"
 #include "VexelCommands.h"
 #include "WindowKeeper.h"
 #include "actions/LiveActions.h"
@@ -35,20 +36,14 @@ namespace vexel {
 
 namespace {
 
-Appearance systemAppearance()
-{
-    const QPalette palette = QApplication::palette();
-    return palette.color(QPalette::Window).lightness() < 128 ? Appearance::dark : Appearance::light;
-}
-
 // The panel's look: GNOME's top bar is dark in both of its styles; other
 // desktops' panels follow the system's appearance.
-Appearance panelAppearance()
+Appearance panelAppearance(const SystemLook& look)
 {
     const auto desktop = environmentVariable("XDG_CURRENT_DESKTOP").value_or("");
     if (desktop.find("GNOME") != std::string::npos)
         return Appearance::dark;
-    return systemAppearance();
+    return look.appearance();
 }
 
 // SIGTERM (the session ending, systemd stopping it) and Ctrl-C quit the app
@@ -112,14 +107,16 @@ namespace {
 // The window, the settings, the panel's items and the model, until Vexel is quit.
 int runWindow(SingleInstance& instance, bool hidden)
 {
+    SystemLook look(QDBusConnection::sessionBus());
+    look.start();
     const auto paths = VexelPaths::standard();
     AppModel model(liveSetup(paths));
     // What of the settings could not be used goes to the journal too.
     for (const auto& notice : model.notices)
         std::cerr << notice << "\n";
-    MainWindow window(systemAppearance());
+    MainWindow window;
     window.bind(model);
-    SettingsWindow settings(systemAppearance(), commandLinePlaces());
+    SettingsWindow settings(commandLinePlaces());
     settings.bind(model);
     const auto showSettings = [&settings](std::optional<SettingsWindow::Tab> tab) {
         if (tab)
@@ -135,7 +132,7 @@ int runWindow(SingleInstance& instance, bool hidden)
         window.raise();
         window.activateWindow();
     };
-    MenuBarController panel(model, panelAppearance(), systemAppearance(),
+    MenuBarController panel(model, panelAppearance(look),
         {showWindow, [showSettings] { showSettings(SettingsWindow::Tab::panel); }, quitVexel});
     // The panel's status area is followed as it comes and goes; without
     // items in it, the window stays the way back.
@@ -188,8 +185,6 @@ int runDesktopApp(int& argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
     QApplication::setWindowIcon(vexelIcon());
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    Look::installFont();
     if (snapshot)
         return runSnapshotMode(*snapshot);
     // The desktop entry's Quit action: the running Vexel quits, and nothing starts.

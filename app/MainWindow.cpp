@@ -3,6 +3,7 @@
 #include "ConfirmSheet.h"
 #include "NoticeBanner.h"
 #include "SidebarDelegate.h"
+#include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "pages/AppsPage.h"
@@ -31,37 +32,35 @@ constexpr int sidebarWidth = 210;
 
 } // namespace
 
-MainWindow::MainWindow(Appearance appearance, QWidget* parent)
+MainWindow::MainWindow(QWidget* parent)
     : QWidget(parent)
 {
     setWindowTitle(QStringLiteral("Vexel"));
-    setPalette(Look::palette(appearance));
     setAutoFillBackground(true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(buildSidebar(appearance));
+    layout->addWidget(buildSidebar());
     auto* content = new QVBoxLayout;
     content->setSpacing(0);
-    m_banner = new NoticeBanner(appearance, this);
+    m_banner = new NoticeBanner(this);
     content->addWidget(m_banner);
     m_pages = new QStackedWidget(this);
-    buildPages(appearance);
+    buildPages();
     content->addWidget(m_pages, 1);
     layout->addLayout(content, 1);
     connect(this, &MainWindow::routeChanged, this,
         [this](Route route) { m_pages->setCurrentIndex(static_cast<int>(route)); });
-    m_sheet = new ConfirmSheet(appearance, this);
-    m_toast = new ToastBar(appearance, this);
+    m_sheet = new ConfirmSheet(this);
+    m_toast = new ToastBar(this);
     resize(960, 620);
 }
 
-void MainWindow::buildPages(Appearance appearance)
+void MainWindow::buildPages()
 {
-    m_routePages = {new OverviewPage(appearance, m_pages), new AppsPage(appearance, m_pages),
-        new CpuPage(appearance, m_pages), new MemoryPage(appearance, m_pages), new DiskPage(appearance, m_pages),
-        new NetworkPage(appearance, m_pages), new GpuPage(appearance, m_pages), new PowerPage(appearance, m_pages),
-        new HistoryPage(appearance, m_pages), new DevelopersPage(appearance, m_pages)};
+    m_routePages = {new OverviewPage(m_pages), new AppsPage(m_pages), new CpuPage(m_pages), new MemoryPage(m_pages),
+        new DiskPage(m_pages), new NetworkPage(m_pages), new GpuPage(m_pages), new PowerPage(m_pages),
+        new HistoryPage(m_pages), new DevelopersPage(m_pages)};
     for (auto* page : m_routePages)
         m_pages->addWidget(page);
 }
@@ -111,14 +110,12 @@ void MainWindow::bind(AppModel& model)
     connect(m_toast, &ToastBar::closed, &model, &AppModel::dismissToast);
 }
 
-QWidget* MainWindow::buildSidebar(Appearance appearance)
+QWidget* MainWindow::buildSidebar()
 {
     auto* panel = new QWidget(this);
     panel->setFixedWidth(sidebarWidth);
     panel->setAutoFillBackground(true);
-    QPalette panelPalette = Look::palette(appearance);
-    panelPalette.setColor(QPalette::Window, Look::sidebar(appearance));
-    panel->setPalette(panelPalette);
+    Look::keepColour(panel, QPalette::Window, Look::sidebar);
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 18, 0, 12);
     layout->setSpacing(10);
@@ -129,12 +126,10 @@ QWidget* MainWindow::buildSidebar(Appearance appearance)
     layout->addWidget(name);
 
     m_sidebar = new QListWidget(panel);
-    m_sidebar->setItemDelegate(new SidebarDelegate(appearance, m_sidebar));
+    m_sidebar->setItemDelegate(new SidebarDelegate(m_sidebar));
     m_sidebar->setFrameShape(QFrame::NoFrame);
     m_sidebar->setFocusPolicy(Qt::StrongFocus); // arrow keys move between pages
-    QPalette palette = Look::palette(appearance);
-    palette.setColor(QPalette::Base, Look::sidebar(appearance));
-    m_sidebar->setPalette(palette);
+    Look::keepColour(m_sidebar, QPalette::Base, Look::sidebar);
     m_sidebar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const auto route : allRoutes) {

@@ -28,7 +28,7 @@ class MainWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MainWindow(Appearance appearance, QWidget* parent = nullptr);
+    explicit MainWindow(QWidget* parent = nullptr);
 
     [[nodiscard]] Route currentRoute() const;
     void showRoute(Route route);
@@ -52,8 +52,8 @@ signals:
     void routeChanged(vexel::Route route);
 
 private:
-    QWidget* buildSidebar(Appearance appearance);
-    void buildPages(Appearance appearance);
+    QWidget* buildSidebar();
+    void buildPages();
 
     QListWidget* m_sidebar = nullptr;
     QStackedWidget* m_pages = nullptr;

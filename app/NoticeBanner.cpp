@@ -1,5 +1,6 @@
 #include "NoticeBanner.h"
 
+#include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/StrainColours.h"
 
@@ -10,9 +11,8 @@
 
 namespace vexel {
 
-NoticeBanner::NoticeBanner(Appearance appearance, QWidget* parent)
+NoticeBanner::NoticeBanner(QWidget* parent)
     : QFrame(parent)
-    , m_appearance(appearance)
 {
     m_rows = new QVBoxLayout(this);
     m_rows->setContentsMargins(16, 8, 8, 8);
@@ -41,9 +41,8 @@ void NoticeBanner::addRow(const QString& text, Strain strain, std::optional<int>
     auto* mark = new QFrame(row);
     mark->setFixedSize(4, 18);
     mark->setAutoFillBackground(true);
-    QPalette palette = mark->palette();
-    palette.setColor(QPalette::Window, Look::strainColour(m_appearance, strain));
-    mark->setPalette(palette);
+    Look::keepColour(
+        mark, QPalette::Window, [strain](Appearance appearance) { return Look::strainColour(appearance, strain); });
     layout->addWidget(mark, 0, Qt::AlignTop);
     auto* words = Look::line(row, text);
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);

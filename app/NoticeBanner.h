@@ -21,7 +21,7 @@ class NoticeBanner final : public QFrame {
     Q_OBJECT
 
 public:
-    NoticeBanner(Appearance appearance, QWidget* parent);
+    explicit NoticeBanner(QWidget* parent);
 
     void show(const std::optional<std::string>& error, const std::vector<std::string>& notices);
     // The lines shown, the error first.
@@ -33,7 +33,6 @@ signals:
 private:
     void addRow(const QString& text, Strain strain, std::optional<int> closes);
 
-    Appearance m_appearance;
     QVBoxLayout* m_rows = nullptr;
 };
 

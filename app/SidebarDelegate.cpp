@@ -14,15 +14,14 @@ constexpr int textIndent = 14;
 
 } // namespace
 
-SidebarDelegate::SidebarDelegate(Appearance appearance, QObject* parent)
+SidebarDelegate::SidebarDelegate(QObject* parent)
     : QStyledItemDelegate(parent)
-    , m_appearance(appearance)
 {
 }
 
 void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    const QPalette palette = Look::palette(m_appearance);
+    const QPalette& palette = option.palette;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);

@@ -10,13 +10,12 @@ namespace vexel {
 // rounded highlight behind the route in view.
 class SidebarDelegate final : public QStyledItemDelegate {
 public:
-    SidebarDelegate(Appearance appearance, QObject* parent);
+    explicit SidebarDelegate(QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    Appearance m_appearance;
 };
 
 } // namespace vexel

@@ -65,7 +65,7 @@ Demo& demo()
 
 void pagePicture(benchmark::State& state, Route route)
 {
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(*demo().model);
     window.show();
     window.showRoute(route);
@@ -89,7 +89,7 @@ BENCHMARK(BM_PagePicture)->DenseRange(0, 9)->Unit(benchmark::kMillisecond);
 // One visible tick on the Overview: the new frame shown and the page repainted.
 void BM_OverviewTickRepaint(benchmark::State& state)
 {
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(*demo().model);
     window.show();
     window.showRoute(Route::overview); // the model may still be on another page's route
@@ -116,7 +116,7 @@ void BM_PanelUpdateSevenItems(benchmark::State& state)
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, {[] {}, [] {}, [] {}});
     panel.start();
     for (auto _ : state) {
         panel.update();

@@ -18,7 +18,7 @@ QRectF BarBank::barRect(size_t index, const QRectF& area) const
     return {area.left() + pitch * static_cast<double>(index), area.top(), width, area.height()};
 }
 
-void BarBank::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+void BarBank::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -26,13 +26,13 @@ void BarBank::paint(QPainter& painter, const QRectF& area, Appearance appearance
     for (size_t i = 0; i < fractions.size(); ++i) {
         const QRectF bar = barRect(i, area);
         const double radius = std::min(2.0, bar.width() / 2);
-        painter.setBrush(Look::track(appearance));
+        painter.setBrush(Look::track(palette));
         painter.drawRoundedRect(bar, radius, radius);
         const double value = std::isfinite(fractions[i]) ? std::clamp(fractions[i], 0.0, 1.0) : 0.0;
         if (value <= 0)
             continue;
         const QRectF filled(bar.left(), bar.bottom() - bar.height() * value, bar.width(), bar.height() * value);
-        painter.setBrush(Look::strainColour(appearance, strainOf(fractions[i])));
+        painter.setBrush(Look::strainColour(palette, strainOf(fractions[i])));
         painter.drawRoundedRect(filled, radius, radius);
     }
     painter.restore();

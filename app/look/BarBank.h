@@ -18,7 +18,7 @@ struct BarBank {
     std::vector<double> fractions; // 0…1 each; clamped, and nonsense drawn empty
     std::function<Strain(double)> strainOf = [](double) { return Strain::calm; };
 
-    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
     // The rectangle of bar `index` (its track) in `area`.
     [[nodiscard]] QRectF barRect(size_t index, const QRectF& area) const;

@@ -1,5 +1,7 @@
 #include "look/Buttons.h"
 
+#include "look/FollowAppearance.h"
+
 #include <QPushButton>
 
 namespace vexel::Look {
@@ -11,12 +13,10 @@ QPushButton* button(const QString& text, QWidget* parent)
     return button;
 }
 
-QPushButton* destructiveButton(const QString& text, Appearance appearance, QWidget* parent)
+QPushButton* destructiveButton(const QString& text, QWidget* parent)
 {
     auto* made = button(text, parent);
-    QPalette palette = made->palette();
-    palette.setColor(QPalette::ButtonText, destructive(appearance));
-    made->setPalette(palette);
+    keepColour(made, QPalette::ButtonText, destructive);
     return made;
 }
 

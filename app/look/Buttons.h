@@ -11,6 +11,6 @@ namespace vexel::Look {
 // A push button in the app's font; one whose action destroys something
 // (Force Quit, Force Stop, Erase) says so in the destructive colour.
 [[nodiscard]] QPushButton* button(const QString& text, QWidget* parent);
-[[nodiscard]] QPushButton* destructiveButton(const QString& text, Appearance appearance, QWidget* parent);
+[[nodiscard]] QPushButton* destructiveButton(const QString& text, QWidget* parent);
 
 } // namespace vexel::Look

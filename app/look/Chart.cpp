@@ -30,21 +30,21 @@ QPointF Chart::place(const QPointF& point, const QRectF& plot) const
     return {x, y};
 }
 
-void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+void Chart::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF plot = plotOf(area);
-    const QColor secondary = Look::secondaryText(appearance);
+    const QColor secondary = palette.color(QPalette::PlaceholderText);
     painter.setFont(Look::font(10));
 
     // The legend: a swatch and the name of each series, then the top value at the right.
     double x = area.left();
     for (size_t i = 0; i < series.size(); ++i) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(Look::seriesColour(appearance, i));
+        painter.setBrush(Look::seriesColour(palette, i));
         painter.drawRoundedRect(QRectF(x, area.top() + 5, 10, 10), 2, 2);
-        painter.setPen(Look::palette(appearance).color(QPalette::WindowText));
+        painter.setPen(palette.color(QPalette::WindowText));
         const QRectF name(x + 14, area.top(), 200, legendHeight);
         QRectF used;
         painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter, series[i].name, &used);
@@ -55,7 +55,7 @@ void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) 
         QRectF(area.left(), area.top(), area.width(), legendHeight), Qt::AlignRight | Qt::AlignVCenter, valueText(top));
 
     // The floor, the top line and the times under the plot.
-    painter.setPen(QPen(Look::track(appearance), 1));
+    painter.setPen(QPen(Look::track(palette), 1));
     painter.drawLine(plot.bottomLeft(), plot.bottomRight());
     painter.drawLine(plot.topLeft(), plot.topRight());
     painter.setPen(secondary);
@@ -102,7 +102,7 @@ void Chart::paint(QPainter& painter, const QRectF& area, Appearance appearance) 
             fill.lineTo(start.x(), plot.bottom());
             fill.closeSubpath();
         }
-        QColor colour = Look::seriesColour(appearance, i);
+        QColor colour = Look::seriesColour(palette, i);
         if (i == 0) {
             QColor soft = colour;
             soft.setAlphaF(0.18F);

@@ -31,7 +31,7 @@ struct Chart {
     std::function<QString(double)> valueText = [](double value) { return QString::number(value); };
     std::vector<std::pair<double, QString>> times; // marked under the plot
 
-    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
     // The plot inside `area`, under the legend and above the times.
     [[nodiscard]] static QRectF plotOf(const QRectF& area);

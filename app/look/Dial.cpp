@@ -34,7 +34,7 @@ double Dial::angleOf(double fraction)
     return startAngle - sweep * clamped(fraction);
 }
 
-void Dial::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+void Dial::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     const double side = std::min(area.width(), area.height());
     const QRectF square(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
@@ -43,11 +43,11 @@ void Dial::paint(QPainter& painter, const QRectF& area, Appearance appearance) c
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
 
-    QPen pen(Look::track(appearance), thickness, Qt::SolidLine, Qt::RoundCap);
+    QPen pen(Look::track(palette), thickness, Qt::SolidLine, Qt::RoundCap);
     painter.setPen(pen);
     painter.drawArc(ring, static_cast<int>(startAngle * 16), static_cast<int>(-sweep * 16));
     if (const double filled = clamped(fraction); filled > 0) {
-        pen.setColor(Look::strainColour(appearance, strain));
+        pen.setColor(Look::strainColour(palette, strain));
         painter.setPen(pen);
         painter.drawArc(ring, static_cast<int>(startAngle * 16), static_cast<int>(-sweep * filled * 16));
     }
@@ -55,17 +55,17 @@ void Dial::paint(QPainter& painter, const QRectF& area, Appearance appearance) c
         // A short tick across the ring, in the text colour, where the needle last stood highest.
         const double angle = angleOf(*peak);
         const double radius = ring.width() / 2;
-        QPen tick(Look::palette(appearance).color(QPalette::WindowText), std::max(1.5, thickness / 4));
+        QPen tick(palette.color(QPalette::WindowText), std::max(1.5, thickness / 4));
         painter.setPen(tick);
         painter.drawLine(onCircle(ring.center(), radius - thickness * 0.75, angle),
             onCircle(ring.center(), radius + thickness * 0.75, angle));
     }
 
-    painter.setPen(Look::palette(appearance).color(QPalette::WindowText));
+    painter.setPen(palette.color(QPalette::WindowText));
     painter.setFont(Look::font(std::max(8.0, side * 0.13), QFont::DemiBold));
     const QRectF middle(square.left(), square.top() + side * 0.30, side, side * 0.28);
     painter.drawText(middle, Qt::AlignCenter, value);
-    painter.setPen(Look::secondaryText(appearance));
+    painter.setPen(palette.color(QPalette::PlaceholderText));
     painter.setFont(Look::font(std::max(7.0, side * 0.075)));
     const QRectF below(square.left(), square.top() + side * 0.58, side, side * 0.16);
     painter.drawText(below, Qt::AlignCenter, title);

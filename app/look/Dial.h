@@ -23,7 +23,7 @@ struct Dial {
     QString title; // "CPU"
 
     // Draws the dial in the largest square centred in `area`.
-    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
     // Where on the arc a fraction lies, in Qt's degrees (0 at three
     // o'clock, counter-clockwise): 225 for 0, -45 for 1.

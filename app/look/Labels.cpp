@@ -6,22 +6,20 @@ namespace vexel::Look {
 
 namespace {
 
-QLabel* secondary(const QString& text, Appearance appearance, QWidget* parent, double size)
+QLabel* secondary(const QString& text, QWidget* parent, double size)
 {
     auto* label = new QLabel(text, parent);
     label->setWordWrap(true);
     label->setFont(font(size));
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, secondaryText(appearance));
-    label->setPalette(palette);
+    label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }
 
 } // namespace
 
-QLabel* centredNote(const QString& text, Appearance appearance, QWidget* parent)
+QLabel* centredNote(const QString& text, QWidget* parent)
 {
-    auto* label = secondary(text, appearance, parent, 13);
+    auto* label = secondary(text, parent, 13);
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
@@ -55,9 +53,9 @@ QLabel* line(QWidget* parent, const QString& text)
     return label;
 }
 
-QLabel* explanation(const QString& text, Appearance appearance, QWidget* parent)
+QLabel* explanation(const QString& text, QWidget* parent)
 {
-    return secondary(text, appearance, parent, 11);
+    return secondary(text, parent, 11);
 }
 
 } // namespace vexel::Look

@@ -22,23 +22,22 @@ QRectF LevelScale::stepRect(size_t index, const QRectF& area) const
     return {area.left() + (width + gap) * static_cast<double>(index), area.top(), width, barHeight};
 }
 
-void LevelScale::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+void LevelScale::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     if (steps.empty())
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const size_t reached = std::min(current, steps.size() - 1);
-    const QColor filled = Look::strainColour(appearance, steps[reached].strain);
+    const QColor filled = Look::strainColour(palette, steps[reached].strain);
     for (size_t i = 0; i < steps.size(); ++i) {
         const QRectF bar = stepRect(i, area);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(i <= reached ? filled : Look::track(appearance));
+        painter.setBrush(i <= reached ? filled : Look::track(palette));
         painter.drawRoundedRect(bar, barHeight / 2, barHeight / 2);
         QFont font = Look::font(11, i == reached ? QFont::DemiBold : QFont::Normal);
         painter.setFont(font);
-        painter.setPen(
-            i == reached ? Look::palette(appearance).color(QPalette::WindowText) : Look::secondaryText(appearance));
+        painter.setPen(i == reached ? palette.color(QPalette::WindowText) : palette.color(QPalette::PlaceholderText));
         const QRectF label(bar.left(), bar.bottom() + 4, bar.width(), area.bottom() - bar.bottom() - 4);
         painter.drawText(label, Qt::AlignHCenter | Qt::AlignTop, steps[i].name);
     }

@@ -23,7 +23,7 @@ struct LevelScale {
     std::vector<Step> steps;
     size_t current = 0;
 
-    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
     // The rectangle of step `index`'s bar in `area` (its name goes under it).
     [[nodiscard]] QRectF stepRect(size_t index, const QRectF& area) const;

@@ -22,7 +22,7 @@ void PaintedView::paintEvent(QPaintEvent*)
     if (!m_drawing)
         return;
     QPainter painter(this);
-    m_drawing(painter, QRectF(rect()));
+    m_drawing(painter, QRectF(rect()), palette());
 }
 
 } // namespace vexel

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Appearance.h"
-
 #include <QWidget>
 
 #include <functional>
@@ -12,16 +10,18 @@ namespace vexel {
 // bars), so that pages lay drawings out without painting themselves.
 class PaintedView final : public QWidget {
 public:
-    using Drawing = std::function<void(QPainter&, const QRectF&)>;
+    // Draws in the area with the colours of the palette the view is shown in.
+    using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
 
     PaintedView(QSize preferred, QWidget* parent);
 
     void setDrawing(Drawing drawing);
-    // Shows one of the house look's drawings (anything with paint(painter, area, appearance)).
-    template <typename Drawable> void draw(Drawable drawable, Appearance appearance)
+    // Shows one of the house look's drawings (anything with paint(painter, area, palette)).
+    template <typename Drawable> void draw(Drawable drawable)
     {
-        setDrawing([drawable = std::move(drawable), appearance](
-                       QPainter& painter, const QRectF& area) { drawable.paint(painter, area, appearance); });
+        setDrawing([drawable = std::move(drawable)](QPainter& painter, const QRectF& area, const QPalette& palette) {
+            drawable.paint(painter, area, palette);
+        });
     }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
 

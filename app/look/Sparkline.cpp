@@ -17,7 +17,7 @@ double Sparkline::heightOf(double value, double areaHeight) const
     return std::clamp(value / top, 0.0, 1.0) * areaHeight;
 }
 
-void Sparkline::paint(QPainter& painter, const QRectF& area, Appearance appearance) const
+void Sparkline::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     if (values.size() < 2)
         return;
@@ -33,7 +33,7 @@ void Sparkline::paint(QPainter& painter, const QRectF& area, Appearance appearan
         runs.back() << QPointF(
             area.left() + step * static_cast<double>(i), area.bottom() - heightOf(values[i], area.height()));
     }
-    const QColor colour = Look::strainColour(appearance, strain);
+    const QColor colour = Look::strainColour(palette, strain);
     QColor fill = colour;
     fill.setAlphaF(0.18F);
     painter.save();

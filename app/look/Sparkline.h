@@ -19,7 +19,7 @@ struct Sparkline {
     double top = 1; // the value drawn at the top (values above it are clipped to it)
     Strain strain = Strain::calm;
 
-    void paint(QPainter& painter, const QRectF& area, Appearance appearance) const;
+    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
     // The height in the area, from its bottom, at which `value` is drawn.
     [[nodiscard]] double heightOf(double value, double areaHeight) const;

@@ -4,6 +4,7 @@
 #include "spikes/Strain.h"
 
 #include <QColor>
+#include <QPalette>
 
 #include <cstddef>
 
@@ -19,5 +20,12 @@ namespace vexel::Look {
 
 // The unfilled part of a dial or bar, a quiet step off the page.
 [[nodiscard]] QColor track(Appearance appearance);
+
+// The same colours for a drawing on `palette`: calm is the palette's
+// highlight (the system's accent in the live window), and the others are of
+// the palette's appearance.
+[[nodiscard]] QColor strainColour(const QPalette& palette, Strain strain);
+[[nodiscard]] QColor seriesColour(const QPalette& palette, size_t index);
+[[nodiscard]] QColor track(const QPalette& palette);
 
 } // namespace vexel::Look

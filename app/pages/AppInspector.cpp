@@ -34,9 +34,8 @@ QString kindWord(const AppGroup& app)
 
 } // namespace
 
-AppInspector::AppInspector(Appearance appearance, QWidget* parent)
+AppInspector::AppInspector(QWidget* parent)
     : QWidget(parent)
-    , m_appearance(appearance)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -46,13 +45,13 @@ AppInspector::AppInspector(Appearance appearance, QWidget* parent)
     layout->addWidget(m_name);
     m_summary = Look::line(this);
     layout->addWidget(m_summary);
-    m_where = Look::explanation({}, appearance, this);
+    m_where = Look::explanation({}, this);
     layout->addWidget(m_where);
 
     auto* buttons = new QHBoxLayout;
     m_reveal = Look::button({}, this);
     m_quit = Look::button(QStringLiteral("Quit…"), this);
-    m_forceQuit = Look::destructiveButton(QStringLiteral("Force Quit…"), appearance, this);
+    m_forceQuit = Look::destructiveButton(QStringLiteral("Force Quit…"), this);
     buttons->addWidget(m_quit);
     buttons->addWidget(m_forceQuit);
     buttons->addStretch(1);
@@ -71,9 +70,9 @@ AppInspector::AppInspector(Appearance appearance, QWidget* parent)
     connect(m_quit, &QPushButton::clicked, this, [quit] { quit(false); });
     connect(m_forceQuit, &QPushButton::clicked, this, [quit] { quit(true); });
 
-    m_system = Look::explanation({}, appearance, this);
-    m_otherUsers = Look::explanation({}, appearance, this);
-    m_zombies = Look::explanation({}, appearance, this);
+    m_system = Look::explanation({}, this);
+    m_otherUsers = Look::explanation({}, this);
+    m_zombies = Look::explanation({}, this);
     for (auto* note : {m_system, m_otherUsers, m_zombies})
         layout->addWidget(note);
 
@@ -100,10 +99,10 @@ void AppInspector::buildHangingSection(QVBoxLayout* layout)
     };
     m_sampleCommand = new CommandLine(this, copy);
     layout->addWidget(m_sampleCommand);
-    layout->addWidget(Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), m_appearance, this));
+    layout->addWidget(Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), this));
     m_reportCommand = new CommandLine(this, copy);
     layout->addWidget(m_reportCommand);
-    m_reportNote = Look::explanation({}, m_appearance, this);
+    m_reportNote = Look::explanation({}, this);
     layout->addWidget(m_reportNote);
 }
 

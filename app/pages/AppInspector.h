@@ -23,7 +23,7 @@ struct AppGroup;
 // run when it hangs, and why some of its processes show less.
 class AppInspector final : public QWidget {
 public:
-    AppInspector(Appearance appearance, QWidget* parent);
+    explicit AppInspector(QWidget* parent);
 
     void attach(AppModel& model) { m_model = &model; }
     void showApp(const AppGroup& app, const AppModel& model);
@@ -36,7 +36,6 @@ public:
 private:
     void buildHangingSection(QVBoxLayout* layout);
 
-    Appearance m_appearance;
     AppModel* m_model = nullptr;
     std::string m_appId;
     std::optional<std::string> m_path;

@@ -26,8 +26,8 @@ enum Column { name, cpu, memory };
 
 } // namespace
 
-AppsPage::AppsPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+AppsPage::AppsPage(QWidget* parent)
+    : Page(parent)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 24);
@@ -36,7 +36,7 @@ AppsPage::AppsPage(Appearance appearance, QWidget* parent)
     layout->addWidget(Look::explanation(QStringLiteral("Apps, not processes: every helper process counted with its "
                                                        "app, processes grouped under the apps and services that "
                                                        "started them."),
-        appearance, this));
+        this));
     m_search = new QLineEdit(this);
     m_search->setPlaceholderText(QStringLiteral("Find an app, process or PID"));
     m_search->setClearButtonEnabled(true);
@@ -59,7 +59,7 @@ AppsPage::AppsPage(Appearance appearance, QWidget* parent)
     for (const int column : {Column::cpu, Column::memory})
         m_list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     listColumn->addWidget(m_list, 1);
-    m_noMatch = Look::centredNote(QStringLiteral("No app, process or PID matches."), appearance, this);
+    m_noMatch = Look::centredNote(QStringLiteral("No app, process or PID matches."), this);
     m_noMatch->hide();
     listColumn->addWidget(m_noMatch);
     body->addLayout(listColumn, 1);
@@ -70,13 +70,13 @@ AppsPage::AppsPage(Appearance appearance, QWidget* parent)
 
     m_side = new QStackedWidget(this);
     m_side->setFixedWidth(inspectorWidth);
-    m_side->addWidget(Look::centredNote(QStringLiteral("Select an app to see its processes."), appearance, m_side));
+    m_side->addWidget(Look::centredNote(QStringLiteral("Select an app to see its processes."), m_side));
     // The inspector scrolls: an app with many processes and notes is taller than the window.
     auto* scroll = new QScrollArea(m_side);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_inspector = new AppInspector(appearance, scroll);
+    m_inspector = new AppInspector(scroll);
     scroll->setWidget(m_inspector);
     m_side->addWidget(scroll);
     body->addWidget(m_side);

@@ -16,7 +16,7 @@ class AppInspector;
 // selected app beside the list.
 class AppsPage final : public Page {
 public:
-    AppsPage(Appearance appearance, QWidget* parent);
+    explicit AppsPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -29,8 +29,8 @@ std::string coresCaption(const CPUStats& cpu)
 
 } // namespace
 
-CpuPage::CpuPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+CpuPage::CpuPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("CPU"));
     m_total = Look::figure(this);
@@ -39,11 +39,11 @@ CpuPage::CpuPage(Appearance appearance, QWidget* parent)
     column->addWidget(m_split);
     m_trace = new PaintedView(QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     column->addSpacing(6);
     column->addWidget(Look::heading(QStringLiteral("Cores"), this));
-    m_coresCaption = Look::explanation({}, appearance, this);
+    m_coresCaption = Look::explanation({}, this);
     column->addWidget(m_coresCaption);
     m_cores = new PaintedView(QSize(480, 70), this);
     column->addWidget(m_cores);
@@ -51,12 +51,12 @@ CpuPage::CpuPage(Appearance appearance, QWidget* parent)
     column->addWidget(Look::heading(QStringLiteral("Load"), this));
     m_load = Look::line(this);
     column->addWidget(m_load);
-    m_loadNote = Look::explanation({}, appearance, this);
+    m_loadNote = Look::explanation({}, this);
     column->addWidget(m_loadNote);
-    m_scale = Look::explanation({}, appearance, this);
+    m_scale = Look::explanation({}, this);
     column->addWidget(m_scale);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Busiest apps"), appearance, this);
+    m_top = new TopApps(QStringLiteral("Busiest apps"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }
@@ -77,11 +77,11 @@ void CpuPage::showModel(const AppModel& model)
     m_total->setText(qs(Fmt::cpu(busy, cores)));
     m_split->setText(qs("User " + Fmt::cpu(cpu.user * model.cores, cores) + "  ·  System "
         + Fmt::cpu(cpu.system * model.cores, cores)));
-    m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)), appearance());
+    m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)));
     m_coresCaption->setText(qs(coresCaption(cpu)));
     BarBank bank{cpu.cores};
     bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };
-    m_cores->draw(bank, appearance());
+    m_cores->draw(bank);
     m_load->setText(
         qs(cformat("%.2f  ·  %.2f  ·  %.2f", cpu.load1, cpu.load5, cpu.load15) + "   (the last 1, 5 and 15 minutes)"));
     m_loadNote->setText(qs("Load is the number of threads waiting for or using a core. Below "

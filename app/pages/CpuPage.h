@@ -13,7 +13,7 @@ class TopApps;
 // averages against the core count, the scale in use and the busiest apps.
 class CpuPage final : public Page {
 public:
-    CpuPage(Appearance appearance, QWidget* parent);
+    explicit CpuPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

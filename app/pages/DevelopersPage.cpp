@@ -35,14 +35,14 @@ std::string vexelPath(Platform platform)
 
 } // namespace
 
-DevelopersPage::DevelopersPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+DevelopersPage::DevelopersPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("Developers"));
-    column->addWidget(Look::explanation(QStringLiteral("Dev servers grouped by project folder."), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("Dev servers grouped by project folder."), this));
     m_serversHeading = Look::heading({}, this);
     column->addWidget(m_serversHeading);
-    m_serversNote = Look::explanation({}, appearance, this);
+    m_serversNote = Look::explanation({}, this);
     column->addWidget(m_serversNote);
     m_projects = new QVBoxLayout;
     m_projects->setSpacing(8);
@@ -50,17 +50,17 @@ DevelopersPage::DevelopersPage(Appearance appearance, QWidget* parent)
     column->addSpacing(8);
 
     column->addWidget(Look::heading(QStringLiteral("Other listening ports"), this));
-    column->addWidget(Look::explanation(QStringLiteral("apps and services, not dev servers"), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("apps and services, not dev servers"), this));
     m_ports = new FigureRows(this);
     column->addWidget(m_ports);
-    m_noPorts = Look::explanation(QStringLiteral("None."), appearance, this);
+    m_noPorts = Look::explanation(QStringLiteral("None."), this);
     column->addWidget(m_noPorts);
     column->addSpacing(8);
 
     column->addWidget(Look::heading(QStringLiteral("Containers"), this));
     m_dockerHeading = Look::line(this);
     column->addWidget(m_dockerHeading);
-    m_dockerNote = Look::explanation({}, appearance, this);
+    m_dockerNote = Look::explanation({}, this);
     column->addWidget(m_dockerNote);
     m_containers = new FigureRows(this);
     column->addWidget(m_containers);
@@ -72,7 +72,7 @@ DevelopersPage::DevelopersPage(Appearance appearance, QWidget* parent)
 void DevelopersPage::buildToolsSection(QVBoxLayout* column)
 {
     column->addWidget(Look::heading(QStringLiteral("Command line and AI tools"), this));
-    m_installNote = Look::explanation({}, appearance(), this);
+    m_installNote = Look::explanation({}, this);
     column->addWidget(m_installNote);
     const auto copy = [this](const std::string& command) {
         if (model())
@@ -83,14 +83,13 @@ void DevelopersPage::buildToolsSection(QVBoxLayout* column)
     auto* status = new CommandLine(this);
     status->setText(QStringLiteral("vexel status"));
     column->addWidget(status);
-    column->addWidget(
-        Look::explanation(QStringLiteral("Add the read-only MCP server to Claude Code:"), appearance(), this));
+    column->addWidget(Look::explanation(QStringLiteral("Add the read-only MCP server to Claude Code:"), this));
     m_mcpCommand = new CommandLine(this, copy);
     column->addWidget(m_mcpCommand);
     column->addWidget(Look::explanation(QStringLiteral("Your assistant can ask what's busy, what happened overnight, "
                                                        "which dev servers are idle and what's on a port. It can't "
                                                        "quit or stop anything — it has to ask you to do it here."),
-        appearance(), this));
+        this));
 }
 
 unsigned DevelopersPage::shows() const
@@ -143,9 +142,9 @@ void DevelopersPage::showServers(const AppModel& model)
         auto* name = Look::line(project, qs(group.project.name));
         name->setFont(Look::font(13, QFont::DemiBold));
         layout->addWidget(name);
-        layout->addWidget(Look::explanation(qs(PageTexts::shownPath(group.project.path, home)), appearance(), project));
+        layout->addWidget(Look::explanation(qs(PageTexts::shownPath(group.project.path, home)), project));
         for (const auto& server : group.servers) {
-            auto* row = new ServerRow(server, model, appearance(), project);
+            auto* row = new ServerRow(server, model, project);
             if (auto* acting = Page::model())
                 row->attach(*acting);
             layout->addWidget(row);

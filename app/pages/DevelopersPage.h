@@ -23,7 +23,7 @@ class ServerRow;
 // command line and the MCP server.
 class DevelopersPage final : public Page {
 public:
-    DevelopersPage(Appearance appearance, QWidget* parent);
+    explicit DevelopersPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -24,26 +24,26 @@ std::string rate(double bytesPerSecond)
 
 } // namespace
 
-DiskPage::DiskPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+DiskPage::DiskPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("Disk"));
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
-    column->addWidget(Look::explanation(QStringLiteral("Read"), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("Read"), this));
     m_readTrace = new PaintedView(QSize(480, 60), this);
     column->addWidget(m_readTrace);
-    column->addWidget(Look::explanation(QStringLiteral("Write"), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("Write"), this));
     m_writeTrace = new PaintedView(QSize(480, 60), this);
     column->addWidget(m_writeTrace);
     column->addSpacing(6);
     column->addWidget(Look::heading(QStringLiteral("Volumes"), this));
     m_volumes = new FigureRows(this);
     column->addWidget(m_volumes);
-    m_noVolumes = Look::explanation(QStringLiteral("No volumes could be read."), appearance, this);
+    m_noVolumes = Look::explanation(QStringLiteral("No volumes could be read."), this);
     column->addWidget(m_noVolumes);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Reading and writing most"), appearance, this);
+    m_top = new TopApps(QStringLiteral("Reading and writing most"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }
@@ -59,8 +59,8 @@ void DiskPage::showModel(const AppModel& model)
         return;
     const auto& disk = model.frame->system.disk;
     m_rates->setText(qs("Read " + rate(disk.readRate) + "  ·  Write " + rate(disk.writeRate)));
-    m_readTrace->draw(rateTrace(model.ring, &RingSample::diskR, Strain::calm), appearance());
-    m_writeTrace->draw(rateTrace(model.ring, &RingSample::diskW, Strain::calm), appearance());
+    m_readTrace->draw(rateTrace(model.ring, &RingSample::diskR, Strain::calm));
+    m_writeTrace->draw(rateTrace(model.ring, &RingSample::diskW, Strain::calm));
     FigureRows::Rows rows;
     for (const auto& volume : disk.volumes)
         rows.emplace_back(qs(volume.name + "  (" + volume.path + ")"),

@@ -14,7 +14,7 @@ class TopApps;
 // and the apps reading and writing most.
 class DiskPage final : public Page {
 public:
-    DiskPage(Appearance appearance, QWidget* parent);
+    explicit DiskPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -12,24 +12,24 @@
 
 namespace vexel {
 
-GpuPage::GpuPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+GpuPage::GpuPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("GPU"));
     m_use = Look::figure(this);
     column->addWidget(m_use);
-    m_name = Look::explanation({}, appearance, this);
+    m_name = Look::explanation({}, this);
     column->addWidget(m_name);
     m_trace = new PaintedView(QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     m_unavailable = Look::line(this);
     column->addWidget(m_unavailable);
     column->addSpacing(6);
-    m_perApp = Look::explanation({}, appearance, this);
+    m_perApp = Look::explanation({}, this);
     column->addWidget(m_perApp);
-    m_neuralEngine = Look::explanation({}, appearance, this);
+    m_neuralEngine = Look::explanation({}, this);
     column->addWidget(m_neuralEngine);
     column->addStretch(1);
 }
@@ -52,7 +52,7 @@ void GpuPage::showModel(const AppModel& model)
     if (gpu) {
         m_use->setText(QString::fromStdString(Fmt::percent(gpu->utilisation) + " busy"));
         m_name->setText(QString::fromStdString(gpu->name));
-        m_trace->draw(shareTrace(model.ring, &RingSample::gpu, model.strain(MenuItemKind::gpu)), appearance());
+        m_trace->draw(shareTrace(model.ring, &RingSample::gpu, model.strain(MenuItemKind::gpu)));
     } else {
         m_unavailable->setText(QString::fromStdString(PageTexts::noGpuUtilisation(model.platform)));
     }

@@ -12,7 +12,7 @@ class PaintedView;
 // otherwise the sentence that says it doesn't; why there is no GPU per app.
 class GpuPage final : public Page {
 public:
-    GpuPage(Appearance appearance, QWidget* parent);
+    explicit GpuPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -82,8 +82,8 @@ std::string spikeTime(const Spike& spike)
 
 } // namespace
 
-HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+HistoryPage::HistoryPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("History"));
     auto* picker = new QHBoxLayout;
@@ -107,7 +107,7 @@ HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
     m_emptyHeading = Look::heading({}, empty);
     m_emptyHeading->setAlignment(Qt::AlignCenter);
     emptyLayout->addWidget(m_emptyHeading);
-    m_emptyNote = Look::centredNote({}, appearance, empty);
+    m_emptyNote = Look::centredNote({}, empty);
     emptyLayout->addWidget(m_emptyNote);
     emptyLayout->addStretch(1);
     m_body->addWidget(empty);
@@ -121,7 +121,7 @@ HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
         m_chartViews.push_back(new PaintedView(QSize(560, 120), m_charts));
         charts->addWidget(m_chartViews.back());
     }
-    m_gapNote = Look::explanation({}, appearance, m_charts);
+    m_gapNote = Look::explanation({}, m_charts);
     charts->addWidget(m_gapNote);
     charts->addSpacing(6);
     charts->addWidget(Look::heading(QStringLiteral("Spikes"), m_charts));
@@ -129,7 +129,7 @@ HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
     charts->addWidget(m_spikes);
     m_noSpikes = Look::explanation(QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or "
                                                   "downloads, heat or fast battery drain."),
-        appearance, m_charts);
+        m_charts);
     charts->addWidget(m_noSpikes);
     charts->addSpacing(6);
     charts->addWidget(Look::heading(QStringLiteral("Core time by app"), m_charts));
@@ -139,7 +139,7 @@ HistoryPage::HistoryPage(Appearance appearance, QWidget* parent)
         Look::explanation(QStringLiteral("Core time: an hour of one core fully busy. Apps that never made "
                                          "the top dozen at a moment aren't kept, so small ones may be "
                                          "missing."),
-            appearance, m_charts));
+            m_charts));
     m_body->addWidget(m_charts);
     column->addWidget(m_body);
     column->addStretch(1);
@@ -162,10 +162,10 @@ void HistoryPage::showModel(const AppModel& model)
     for (auto* button : m_ranges->buttons()) {
         const bool current = m_ranges->id(button) == static_cast<int>(model.historyRange);
         button->setChecked(current);
-        QPalette palette = Look::palette(appearance());
+        QPalette palette;
         if (current) {
-            palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
-            palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+            palette.setColor(QPalette::Button, this->palette().color(QPalette::Highlight));
+            palette.setColor(QPalette::ButtonText, this->palette().color(QPalette::HighlightedText));
         }
         button->setPalette(palette);
     }
@@ -220,7 +220,7 @@ void HistoryPage::showCharts(const AppModel& model)
         rateChart(points, frame, {{"Read", &SysPoint::diskR}, {"Write", &SysPoint::diskW}}, Fmt::RateUnit::bytes),
         rateChart(points, frame, {{"Download", &SysPoint::netIn}, {"Upload", &SysPoint::netOut}}, model.networkUnit())};
     for (size_t i = 0; i < charts.size(); ++i)
-        m_chartViews[i]->draw(charts[i], appearance());
+        m_chartViews[i]->draw(charts[i]);
     bool gaps = false;
     for (size_t i = 1; i < points.size(); ++i)
         gaps = gaps || points[i].t - points[i - 1].t > gap;

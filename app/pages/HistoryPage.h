@@ -18,7 +18,7 @@ class PaintedView;
 // every empty state says which kind of empty it is.
 class HistoryPage final : public Page {
 public:
-    HistoryPage(Appearance appearance, QWidget* parent);
+    explicit HistoryPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -16,8 +16,8 @@
 
 namespace vexel {
 
-MemoryPage::MemoryPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+MemoryPage::MemoryPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("Memory"));
     m_used = Look::figure(this);
@@ -26,16 +26,16 @@ MemoryPage::MemoryPage(Appearance appearance, QWidget* parent)
     column->addWidget(m_pressure);
     m_trace = new PaintedView(QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     column->addSpacing(6);
     column->addWidget(Look::heading(QStringLiteral("What's in memory"), this));
     m_contents = new FigureRows(this);
     column->addWidget(m_contents);
-    m_note = Look::explanation({}, appearance, this);
+    m_note = Look::explanation({}, this);
     column->addWidget(m_note);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Most memory"), appearance, this);
+    m_top = new TopApps(QStringLiteral("Most memory"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }
@@ -52,13 +52,13 @@ void MemoryPage::showModel(const AppModel& model)
     const auto& memory = model.frame->system.memory;
     m_used->setText(qs(Fmt::memory(memory.used()) + " of " + Fmt::memory(memory.total) + " in use"));
     m_pressure->setText(qs("Pressure: " + title(memory.pressure) + "  ·  Swap used: " + Fmt::memory(memory.swapUsed)));
-    QPalette palette = m_pressure->palette();
+    // Calm pressure reads in the text colour; more in the strain's.
     const Strain strain = model.strain(MenuItemKind::memory);
-    palette.setColor(QPalette::WindowText,
-        strain == Strain::calm ? Look::palette(appearance()).color(QPalette::WindowText)
-                               : Look::strainColour(appearance(), strain));
+    QPalette palette;
+    if (strain != Strain::calm)
+        palette.setColor(QPalette::WindowText, Look::strainColour(this->palette(), strain));
     m_pressure->setPalette(palette);
-    m_trace->draw(shareTrace(model.ring, &RingSample::mem, strain), appearance());
+    m_trace->draw(shareTrace(model.ring, &RingSample::mem, strain));
     m_contents->setRows({{QStringLiteral("App memory"), qs(Fmt::memory(memory.app))},
         {QStringLiteral("Wired"), qs(Fmt::memory(memory.wired))},
         {QStringLiteral("Compressed"), qs(Fmt::memory(memory.compressed))},

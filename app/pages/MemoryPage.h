@@ -14,7 +14,7 @@ class TopApps;
 // memory, and the apps with the largest footprints.
 class MemoryPage final : public Page {
 public:
-    MemoryPage(Appearance appearance, QWidget* parent);
+    explicit MemoryPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -13,22 +13,22 @@
 
 namespace vexel {
 
-NetworkPage::NetworkPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+NetworkPage::NetworkPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("Network"));
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
     column->addWidget(
-        Look::explanation(QStringLiteral("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), appearance, this));
-    column->addWidget(Look::explanation(QStringLiteral("Download"), appearance, this));
+        Look::explanation(QStringLiteral("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), this));
+    column->addWidget(Look::explanation(QStringLiteral("Download"), this));
     m_inTrace = new PaintedView(QSize(480, 60), this);
     column->addWidget(m_inTrace);
-    column->addWidget(Look::explanation(QStringLiteral("Upload"), appearance, this));
+    column->addWidget(Look::explanation(QStringLiteral("Upload"), this));
     m_outTrace = new PaintedView(QSize(480, 60), this);
     column->addWidget(m_outTrace);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Moving most"), appearance, this);
+    m_top = new TopApps(QStringLiteral("Moving most"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }
@@ -47,8 +47,8 @@ void NetworkPage::showModel(const AppModel& model)
     m_rates->setText(
         QString::fromStdString("Down " + Fmt::rate(net.inRate, unit) + "  ·  Up " + Fmt::rate(net.outRate, unit)));
     const Strain strain = model.strain(MenuItemKind::network);
-    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain), appearance());
-    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain), appearance());
+    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain));
+    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain));
     m_top->show(
         model, AppSort::network, 8, [unit](const AppGroup& app) { return Fmt::rate(app.netIn + app.netOut, unit); });
     m_top->setNote(QString::fromStdString("Per-app figures " + PageTexts::networkPerAppNote(model.platform) + "."));

@@ -13,7 +13,7 @@ class TopApps;
 // moving most, in bytes or bits as the settings ask.
 class NetworkPage final : public Page {
 public:
-    NetworkPage(Appearance appearance, QWidget* parent);
+    explicit NetworkPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

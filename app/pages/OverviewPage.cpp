@@ -3,6 +3,7 @@
 #include "format/Fmt.h"
 #include "look/BarBank.h"
 #include "look/Buttons.h"
+#include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/PaintedView.h"
 #include "look/Sparkline.h"
@@ -27,13 +28,13 @@ constexpr size_t busiestCount = 5;
 
 } // namespace
 
-OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+OverviewPage::OverviewPage(QWidget* parent)
+    : Page(parent)
 {
     // Scrolls when the away card makes the page taller than the window.
     QWidget* inner = nullptr;
     auto* layout = scrollingColumn(&inner);
-    m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), appearance, inner);
+    m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), inner);
     layout->addWidget(m_waiting, 1);
 
     m_content = new QWidget(inner);
@@ -62,15 +63,14 @@ OverviewPage::OverviewPage(Appearance appearance, QWidget* parent)
     today->addWidget(m_today);
     m_todayTrace = new PaintedView(QSize(300, 56), m_content);
     today->addWidget(m_todayTrace);
-    today->addWidget(Look::explanation(QStringLiteral("CPU since midnight"), appearance, m_content));
+    today->addWidget(Look::explanation(QStringLiteral("CPU since midnight"), m_content));
     m_week = new PaintedView(QSize(300, 40), m_content);
     today->addWidget(m_week);
-    today->addWidget(
-        Look::explanation(QStringLiteral("Data moved each day this week, today at the right"), appearance, m_content));
+    today->addWidget(Look::explanation(QStringLiteral("Data moved each day this week, today at the right"), m_content));
     today->addStretch(1);
     lower->addLayout(today, 3);
     auto* busiest = new QVBoxLayout;
-    m_busiest = new TopApps(QStringLiteral("Busiest apps"), appearance, m_content);
+    m_busiest = new TopApps(QStringLiteral("Busiest apps"), m_content);
     busiest->addWidget(m_busiest);
     busiest->addStretch(1);
     lower->addLayout(busiest, 2);
@@ -87,10 +87,9 @@ void OverviewPage::showModel(const AppModel& model)
     if (waiting)
         return;
     m_shown = overviewDials(model);
-    const Appearance appearance = this->appearance();
     for (size_t i = 0; i < m_shown.size(); ++i)
-        m_dials[i]->setDrawing([dial = m_shown[i], appearance](QPainter& painter, const QRectF& area) {
-            dial.paint(painter, area.adjusted(4, 4, -4, -4), appearance);
+        m_dials[i]->setDrawing([dial = m_shown[i]](QPainter& painter, const QRectF& area, const QPalette& palette) {
+            dial.paint(painter, area.adjusted(4, 4, -4, -4), palette);
         });
     showToday(model);
     showAway(model);
@@ -109,12 +108,8 @@ void OverviewPage::showToday(const AppModel& model)
     for (const auto& point : model.todaySeries)
         trace.values.push_back(point.cpu);
     trace.strain = model.strain(MenuItemKind::cpu);
-    const Appearance appearance = this->appearance();
-    m_todayTrace->setDrawing(
-        [trace, appearance](QPainter& painter, const QRectF& area) { trace.paint(painter, area, appearance); });
-    const BarBank week{weekShares(model.week)};
-    m_week->setDrawing(
-        [week, appearance](QPainter& painter, const QRectF& area) { week.paint(painter, area, appearance); });
+    m_todayTrace->draw(trace);
+    m_week->draw(BarBank{weekShares(model.week)});
 }
 
 QString OverviewPage::todayText() const
@@ -132,9 +127,7 @@ QWidget* OverviewPage::buildAwayCard()
     auto* card = new QFrame(m_content);
     card->setFrameShape(QFrame::StyledPanel);
     card->setAutoFillBackground(true);
-    QPalette palette = card->palette();
-    palette.setColor(QPalette::Window, Look::sidebar(appearance()));
-    card->setPalette(palette);
+    Look::keepColour(card, QPalette::Window, Look::sidebar);
     auto* layout = new QVBoxLayout(card);
     layout->setContentsMargins(14, 10, 14, 10);
     layout->setSpacing(4);

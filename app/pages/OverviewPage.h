@@ -20,7 +20,7 @@ class TopApps;
 // being taken.
 class OverviewPage final : public Page {
 public:
-    OverviewPage(Appearance appearance, QWidget* parent);
+    explicit OverviewPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -8,9 +8,8 @@
 
 namespace vexel {
 
-Page::Page(Appearance appearance, QWidget* parent)
+Page::Page(QWidget* parent)
     : QWidget(parent)
-    , m_appearance(appearance)
 {
 }
 

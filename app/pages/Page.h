@@ -14,7 +14,7 @@ class AppModel;
 // through the model; it never reads the machine itself.
 class Page : public QWidget {
 public:
-    Page(Appearance appearance, QWidget* parent);
+    explicit Page(QWidget* parent);
 
     // Shows what the model holds now.
     virtual void showModel(const AppModel& model) = 0;
@@ -24,7 +24,6 @@ public:
     void attach(AppModel& model) { m_model = &model; }
 
 protected:
-    [[nodiscard]] Appearance appearance() const { return m_appearance; }
     [[nodiscard]] AppModel* model() const { return m_model; }
     // A scrolling column under the page's title, for pages taller than the window.
     QVBoxLayout* scrollingColumn(const QString& title);
@@ -32,7 +31,6 @@ protected:
     QVBoxLayout* scrollingColumn(QWidget** holder = nullptr);
 
 private:
-    Appearance m_appearance;
     AppModel* m_model = nullptr;
 };
 

@@ -31,8 +31,8 @@ std::string stateOf(const BatteryStats& battery)
 
 } // namespace
 
-PowerPage::PowerPage(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+PowerPage::PowerPage(QWidget* parent)
+    : Page(parent)
 {
     auto* column = scrollingColumn(QStringLiteral("Power & Heat"));
     column->addWidget(Look::heading(QStringLiteral("Battery"), this));
@@ -44,7 +44,7 @@ PowerPage::PowerPage(Appearance appearance, QWidget* parent)
     column->addWidget(m_battery);
     m_capacityNote = Look::explanation(QStringLiteral("Capacity left compares the battery's full charge today with "
                                                       "when it was new. Below 80% it holds noticeably less."),
-        appearance, this);
+        this);
     column->addWidget(m_capacityNote);
     column->addSpacing(8);
     column->addWidget(Look::heading(QStringLiteral("Heat"), this));
@@ -52,14 +52,14 @@ PowerPage::PowerPage(Appearance appearance, QWidget* parent)
     column->addWidget(m_thermal);
     m_scale = new PaintedView(QSize(420, 36), this);
     column->addWidget(m_scale);
-    m_thermalNote = Look::explanation({}, appearance, this);
+    m_thermalNote = Look::explanation({}, this);
     column->addWidget(m_thermalNote);
     m_sensors = new FigureRows(this);
     column->addWidget(m_sensors);
-    m_noSensors = Look::explanation({}, appearance, this);
+    m_noSensors = Look::explanation({}, this);
     column->addWidget(m_noSensors);
     column->addSpacing(8);
-    m_energy = new TopApps(QStringLiteral("Using most energy"), appearance, this);
+    m_energy = new TopApps(QStringLiteral("Using most energy"), this);
     column->addWidget(m_energy);
     column->addStretch(1);
 }
@@ -96,7 +96,7 @@ void PowerPage::showModel(const AppModel& model)
     for (const auto step : allThermalLevels)
         scale.steps.push_back({qs(title(step)), model.settings.strain.thermal(step)});
     scale.current = static_cast<size_t>(rawValue(level));
-    m_scale->draw(scale, appearance());
+    m_scale->draw(scale);
     m_thermalNote->setText(qs(PageTexts::thermalNote(platform)));
     showSensors(model);
 }

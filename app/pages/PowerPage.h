@@ -14,7 +14,7 @@ class TopApps;
 // using most energy with how their figures were had, and the thermal scale.
 class PowerPage final : public Page {
 public:
-    PowerPage(Appearance appearance, QWidget* parent);
+    explicit PowerPage(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -2,6 +2,7 @@
 
 #include "format/Fmt.h"
 #include "look/Buttons.h"
+#include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/StrainColours.h"
 #include "model/AppModel.h"
@@ -29,7 +30,7 @@ std::string portsOf(const DevServer& server)
 
 } // namespace
 
-ServerRow::ServerRow(const DevServer& server, const AppModel& model, Appearance appearance, QWidget* parent)
+ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* parent)
     : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
@@ -42,21 +43,20 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, Appearance 
     auto* name = Look::line(this, qs(title));
     name->setFont(Look::font(12, QFont::DemiBold));
     layout->addWidget(name);
-    layout->addWidget(Look::explanation(qs(load), appearance, this));
+    layout->addWidget(Look::explanation(qs(load), this));
     m_summary = qs(title + "\n" + load);
     if (server.isIdle) {
         const double since = server.idleSince.value_or(server.started);
         const std::string idle = "Idle for " + Fmt::duration(model.frame ? model.frame->time - since : 0);
         auto* flag = Look::line(this, qs(idle));
-        QPalette palette = flag->palette();
-        palette.setColor(QPalette::WindowText, Look::strainColour(appearance, Strain::elevated));
-        flag->setPalette(palette);
+        Look::keepColour(flag, QPalette::WindowText,
+            [](Appearance appearance) { return Look::strainColour(appearance, Strain::elevated); });
         layout->addWidget(flag);
         m_summary += qs("\n" + idle);
     }
     if (std::ranges::any_of(server.sockets, reachableFromNetwork)) {
         const QString reachable = QStringLiteral("Reachable from other devices on your network");
-        layout->addWidget(Look::explanation(reachable, appearance, this));
+        layout->addWidget(Look::explanation(reachable, this));
         m_summary += "\n" + reachable;
     }
     auto* buttons = new QHBoxLayout;
@@ -82,7 +82,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, Appearance 
     if (!server.ports.empty())
         context.insert(context.begin(), "Listening on " + portsOf(server));
     auto* stop = Look::button(QStringLiteral("Stop…"), this);
-    auto* force = Look::destructiveButton(QStringLiteral("Force Stop…"), appearance, this);
+    auto* force = Look::destructiveButton(QStringLiteral("Force Stop…"), this);
     const auto ask = [this, pid = server.pid, display = server.name, context](bool forced) {
         if (m_model)
             m_model->actions().requestStop(pid, display, context, forced);

@@ -16,7 +16,7 @@ class AppModel;
 // address to copy, its working folder to show and Stop / Force Stop.
 class ServerRow final : public QWidget {
 public:
-    ServerRow(const DevServer& server, const AppModel& model, Appearance appearance, QWidget* parent);
+    ServerRow(const DevServer& server, const AppModel& model, QWidget* parent);
 
     void attach(AppModel& model) { m_model = &model; }
     [[nodiscard]] QString summary() const; // what the row says, for tests

@@ -10,7 +10,7 @@
 
 namespace vexel {
 
-TopApps::TopApps(const QString& heading, Appearance appearance, QWidget* parent)
+TopApps::TopApps(const QString& heading, QWidget* parent)
     : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
@@ -19,10 +19,10 @@ TopApps::TopApps(const QString& heading, Appearance appearance, QWidget* parent)
     layout->addWidget(Look::heading(heading, this));
     m_rows = new FigureRows(this);
     layout->addWidget(m_rows);
-    m_empty = Look::explanation(QStringLiteral("No app is using any right now."), appearance, this);
+    m_empty = Look::explanation(QStringLiteral("No app is using any right now."), this);
     m_empty->hide();
     layout->addWidget(m_empty);
-    m_note = Look::explanation({}, appearance, this);
+    m_note = Look::explanation({}, this);
     m_note->hide();
     layout->addWidget(m_note);
 }

@@ -22,7 +22,7 @@ class TopApps final : public QWidget {
 public:
     using Figure = std::function<std::string(const AppGroup&)>;
 
-    TopApps(const QString& heading, Appearance appearance, QWidget* parent);
+    TopApps(const QString& heading, QWidget* parent);
 
     // The first `count` apps of the model in `order`, each shown by `figure`.
     void show(const AppModel& model, AppSort order, size_t count, const Figure& figure);

@@ -45,11 +45,9 @@ std::string spoken(const MenuReading& reading)
 
 } // namespace
 
-MenuBarController::MenuBarController(
-    AppModel& model, Appearance panel, Appearance window, MenuDropdown::Actions actions)
+MenuBarController::MenuBarController(AppModel& model, Appearance panel, MenuDropdown::Actions actions)
     : m_model(model)
     , m_panel(panel)
-    , m_window(window)
     , m_actions(std::move(actions))
 {
 }
@@ -171,7 +169,7 @@ void MenuBarController::clicked(MenuItemKind kind)
     }
     if (kind == m_lastClosed && now - m_closedAt < sameClickMilliseconds)
         return; // the press that closed it was this item's second click
-    auto* dropdown = new MenuDropdown(m_model, kind, m_window, m_actions);
+    auto* dropdown = new MenuDropdown(m_model, kind, m_actions);
     connect(dropdown, &QObject::destroyed, this, [this, kind] {
         m_lastClosed = kind;
         m_closedAt = QDateTime::currentMSecsSinceEpoch();

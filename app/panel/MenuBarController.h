@@ -25,7 +25,7 @@ class MenuBarController final : public QObject {
 public:
     // `panel` is the panel's own look (its text colour is the pictures'),
     // `window` the look of the dropdowns, as of the window.
-    MenuBarController(AppModel& model, Appearance panel, Appearance window, MenuDropdown::Actions actions);
+    MenuBarController(AppModel& model, Appearance panel, MenuDropdown::Actions actions);
     ~MenuBarController() override;
 
     // Subscribes to the model and puts the enabled items in the panel (a
@@ -54,7 +54,6 @@ private:
 
     AppModel& m_model;
     Appearance m_panel;
-    Appearance m_window;
     MenuDropdown::Actions m_actions;
     std::map<MenuItemKind, QSystemTrayIcon*> m_items;
     std::map<MenuItemKind, QMenu*> m_menus;

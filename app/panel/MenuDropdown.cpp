@@ -101,14 +101,12 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
 
 } // namespace
 
-MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance appearance, Actions actions)
+MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions actions)
     : QFrame(nullptr, Qt::Popup)
     , m_kind(kind)
-    , m_appearance(appearance)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setFrameShape(QFrame::StyledPanel);
-    setPalette(Look::palette(appearance));
     setAutoFillBackground(true);
     setFixedWidth(340);
     auto* layout = new QVBoxLayout(this);
@@ -124,11 +122,11 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance 
     layout->addLayout(top);
     m_trace = new PaintedView(QSize(308, 44), this);
     layout->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), appearance, this);
+    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     layout->addWidget(m_traceCaption);
-    m_apps = new TopApps(QStringLiteral("Apps"), appearance, this);
+    m_apps = new TopApps(QStringLiteral("Apps"), this);
     layout->addWidget(m_apps);
-    m_note = Look::explanation({}, appearance, this);
+    m_note = Look::explanation({}, this);
     layout->addWidget(m_note);
     auto* buttons = new QHBoxLayout;
     auto* open = Look::button(QStringLiteral("Open Vexel Window"), this);
@@ -149,10 +147,10 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance 
 
 void MenuDropdown::showModel(const AppModel& model)
 {
-    m_dial->draw(dialOf(model, m_kind), m_appearance);
+    m_dial->draw(dialOf(model, m_kind));
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
-    m_trace->draw(Sparkline{reading.trace, reading.traceTop, reading.strain}, m_appearance);
+    m_trace->draw(Sparkline{reading.trace, reading.traceTop, reading.strain});
     m_trace->setVisible(canGraph(m_kind));
     m_traceCaption->setVisible(canGraph(m_kind));
 

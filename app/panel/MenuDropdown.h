@@ -27,7 +27,7 @@ public:
         std::function<void()> quit; // from an item's menu: Vexel ends, window and all
     };
 
-    MenuDropdown(const AppModel& model, MenuItemKind kind, Appearance appearance, Actions actions);
+    MenuDropdown(const AppModel& model, MenuItemKind kind, Actions actions);
 
     [[nodiscard]] MenuItemKind kind() const { return m_kind; }
     // Shows the model's figures now (it opens on fresh ones).
@@ -39,7 +39,6 @@ public:
 
 private:
     MenuItemKind m_kind;
-    Appearance m_appearance;
     PaintedView* m_dial = nullptr;
     FigureRows* m_readouts = nullptr;
     PaintedView* m_trace = nullptr;

@@ -33,8 +33,8 @@ ChoiceBox::Choices megabytes(std::initializer_list<int> values)
 
 } // namespace
 
-AlertsTab::AlertsTab(Appearance appearance, QWidget* parent)
-    : SettingsTab(appearance, parent)
+AlertsTab::AlertsTab(QWidget* parent)
+    : SettingsTab(parent)
 {
     auto* amber = section(QStringLiteral("When readings turn amber and red"));
     m_diskAmber = new ChoiceBox(percents({5, 10, 15, 20, 25}, 100), this);
@@ -46,7 +46,7 @@ AlertsTab::AlertsTab(Appearance appearance, QWidget* parent)
         falling.emplace_back(QString::number(drop) + "% within an hour", drop);
     m_batteryFalling = new ChoiceBox(falling, this);
     amber->addRow(label(QStringLiteral("Battery falling")), m_batteryFalling);
-    m_amberNote = Look::explanation({}, appearance, this);
+    m_amberNote = Look::explanation({}, this);
     column()->insertWidget(column()->count() - 1, m_amberNote);
 
     auto* spikes = section(QStringLiteral("What counts as a spike in History"),

@@ -11,7 +11,7 @@ class ChoiceBox;
 // Alerts: where readings turn amber, and what counts as a spike in History.
 class AlertsTab final : public SettingsTab {
 public:
-    AlertsTab(Appearance appearance, QWidget* parent);
+    explicit AlertsTab(QWidget* parent);
 
     void showModel(const AppModel& model) override;
 

@@ -14,8 +14,8 @@
 
 namespace vexel {
 
-DeveloperTab::DeveloperTab(Appearance appearance, Places places, QWidget* parent)
-    : SettingsTab(appearance, parent)
+DeveloperTab::DeveloperTab(Places places, QWidget* parent)
+    : SettingsTab(parent)
     , m_places(std::move(places))
 {
     auto* servers = section(QStringLiteral("Dev servers"),
@@ -32,11 +32,10 @@ DeveloperTab::DeveloperTab(Appearance appearance, Places places, QWidget* parent
     column()->addWidget(Look::heading(QStringLiteral("Command line and MCP"), this));
     auto* install = Look::button(QStringLiteral("Install Command"), this);
     column()->addWidget(install, 0, Qt::AlignLeft);
-    column()->addWidget(Look::explanation(QStringLiteral("Installs the vexel command (read-only)."), appearance, this));
+    column()->addWidget(Look::explanation(QStringLiteral("Installs the vexel command (read-only)."), this));
     auto* claude = Look::button(QStringLiteral("Add to Claude Code"), this);
     column()->addWidget(claude, 0, Qt::AlignLeft);
-    column()->addWidget(
-        Look::explanation(QStringLiteral("Adds Vexel's read-only MCP server to Claude Code."), appearance, this));
+    column()->addWidget(Look::explanation(QStringLiteral("Adds Vexel's read-only MCP server to Claude Code."), this));
     m_install = install;
     m_claude = claude;
     m_outcome = Look::line(this);

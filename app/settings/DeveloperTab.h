@@ -29,7 +29,7 @@ public:
         std::function<std::optional<std::string>()> findClaude;
     };
 
-    DeveloperTab(Appearance appearance, Places places, QWidget* parent);
+    DeveloperTab(Places places, QWidget* parent);
 
     void showModel(const AppModel& model) override;
 

@@ -1,5 +1,6 @@
 #include "settings/GeneralTab.h"
 
+#include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/StrainColours.h"
 #include "model/AppModel.h"
@@ -14,8 +15,8 @@
 
 namespace vexel {
 
-GeneralTab::GeneralTab(Appearance appearance, QWidget* parent)
-    : SettingsTab(appearance, parent)
+GeneralTab::GeneralTab(QWidget* parent)
+    : SettingsTab(parent)
 {
     auto* reading = section(QStringLiteral("Readings"));
     m_interval = new ChoiceBox(
@@ -24,7 +25,7 @@ GeneralTab::GeneralTab(Appearance appearance, QWidget* parent)
         this);
     m_intervalLabel = label({});
     reading->addRow(m_intervalLabel, m_interval);
-    m_intervalNote = Look::explanation({}, appearance, this);
+    m_intervalNote = Look::explanation({}, this);
     column()->addWidget(m_intervalNote);
     connect(m_interval, &QComboBox::currentIndexChanged, this,
         [this] { change([this](VexelSettings& settings) { settings.sampleSeconds = m_interval->value(); }); });
@@ -45,10 +46,9 @@ GeneralTab::GeneralTab(Appearance appearance, QWidget* parent)
     column()->addSpacing(8);
     m_atLogin = new QCheckBox(QStringLiteral("Open Vexel at login"), this);
     column()->addWidget(m_atLogin);
-    m_loginError = Look::explanation({}, appearance, this);
-    QPalette palette = m_loginError->palette();
-    palette.setColor(QPalette::WindowText, Look::destructive(appearance));
-    m_loginError->setPalette(palette);
+    m_loginError = Look::explanation({}, this);
+    m_loginError->setForegroundRole(QPalette::WindowText);
+    Look::keepColour(m_loginError, QPalette::WindowText, Look::destructive);
     m_loginError->hide();
     column()->addWidget(m_loginError);
     connect(m_atLogin, &QCheckBox::toggled, this, [this](bool open) {

@@ -14,7 +14,7 @@ class ChoiceBox;
 // CPU scale, network rates in bits, and opening Vexel at login.
 class GeneralTab final : public SettingsTab {
 public:
-    GeneralTab(Appearance appearance, QWidget* parent);
+    explicit GeneralTab(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -13,8 +13,8 @@
 
 namespace vexel {
 
-HistoryTab::HistoryTab(Appearance appearance, QWidget* parent)
-    : SettingsTab(appearance, parent)
+HistoryTab::HistoryTab(QWidget* parent)
+    : SettingsTab(parent)
 {
     auto* form = section(QStringLiteral("History"),
         QStringLiteral("Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes "
@@ -31,7 +31,7 @@ HistoryTab::HistoryTab(Appearance appearance, QWidget* parent)
     form->addRow(label(QStringLiteral("Never let the file grow past")), m_cap);
     m_size = Look::line(this);
     column()->addWidget(m_size);
-    auto* erase = Look::destructiveButton(QStringLiteral("Erase History…"), appearance, this);
+    auto* erase = Look::destructiveButton(QStringLiteral("Erase History…"), this);
     column()->addWidget(erase, 0, Qt::AlignLeft);
     column()->addStretch(1);
     connect(erase, &QPushButton::clicked, this, &HistoryTab::erase);

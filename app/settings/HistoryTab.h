@@ -12,7 +12,7 @@ class ChoiceBox;
 // and erasing it (asked first).
 class HistoryTab final : public SettingsTab {
 public:
-    HistoryTab(Appearance appearance, QWidget* parent);
+    explicit HistoryTab(QWidget* parent);
 
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;

@@ -14,18 +14,18 @@
 
 namespace vexel {
 
-PanelTab::PanelTab(Appearance appearance, QWidget* parent)
-    : SettingsTab(appearance, parent)
+PanelTab::PanelTab(QWidget* parent)
+    : SettingsTab(parent)
 {
     m_heading = Look::heading({}, this);
     column()->addWidget(m_heading);
-    m_note = Look::explanation({}, appearance, this);
+    m_note = Look::explanation({}, this);
     column()->addWidget(m_note);
     m_grid = new QGridLayout;
     m_grid->setHorizontalSpacing(10);
     m_grid->setColumnStretch(0, 1);
     column()->addLayout(m_grid);
-    m_keeps = Look::explanation({}, appearance, this);
+    m_keeps = Look::explanation({}, this);
     column()->addWidget(m_keeps);
     auto* restore = Look::button(QStringLiteral("Restore Defaults"), this);
     connect(restore, &QPushButton::clicked, this, &PanelTab::restoreDefaults);

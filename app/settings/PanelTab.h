@@ -14,7 +14,7 @@ namespace vexel {
 // down; "Restore Defaults" brings back the first-run set.
 class PanelTab final : public SettingsTab {
 public:
-    PanelTab(Appearance appearance, QWidget* parent);
+    explicit PanelTab(QWidget* parent);
 
     void showModel(const AppModel& model) override;
 

@@ -9,8 +9,8 @@
 
 namespace vexel {
 
-SettingsTab::SettingsTab(Appearance appearance, QWidget* parent)
-    : Page(appearance, parent)
+SettingsTab::SettingsTab(QWidget* parent)
+    : Page(parent)
 {
     m_column = new QVBoxLayout(this);
     m_column->setContentsMargins(24, 20, 24, 20);
@@ -40,7 +40,7 @@ QFormLayout* SettingsTab::section(const QString& heading, const QString& explana
     form->setHorizontalSpacing(14);
     m_column->addLayout(form);
     if (!explanation.isEmpty())
-        m_column->addWidget(Look::explanation(explanation, appearance(), this));
+        m_column->addWidget(Look::explanation(explanation, this));
     m_column->addSpacing(8);
     return form;
 }

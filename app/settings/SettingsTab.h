@@ -15,7 +15,7 @@ namespace vexel {
 // each change at once through the model, which reschedules what depends on it.
 class SettingsTab : public Page {
 public:
-    SettingsTab(Appearance appearance, QWidget* parent);
+    explicit SettingsTab(QWidget* parent);
 
     // The settings, by default: a tab that shows more says so.
     [[nodiscard]] unsigned shows() const override;

@@ -12,18 +12,17 @@
 
 namespace vexel {
 
-SettingsWindow::SettingsWindow(Appearance appearance, DeveloperTab::Places places, QWidget* parent)
+SettingsWindow::SettingsWindow(DeveloperTab::Places places, QWidget* parent)
     : QWidget(parent, Qt::Window)
 {
     setWindowTitle(QStringLiteral("Vexel Settings"));
-    setPalette(Look::palette(appearance));
     setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
     m_tabs = new QTabWidget(this);
     m_tabs->setFont(Look::font(12));
-    m_pages = {new GeneralTab(appearance, m_tabs), new PanelTab(appearance, m_tabs), new AlertsTab(appearance, m_tabs),
-        new HistoryTab(appearance, m_tabs), new DeveloperTab(appearance, std::move(places), m_tabs)};
+    m_pages = {new GeneralTab(m_tabs), new PanelTab(m_tabs), new AlertsTab(m_tabs), new HistoryTab(m_tabs),
+        new DeveloperTab(std::move(places), m_tabs)};
     const QStringList titles{QStringLiteral("General"), QStringLiteral("Panel"), QStringLiteral("Alerts"),
         QStringLiteral("History"), QStringLiteral("Developer")};
     for (size_t i = 0; i < m_pages.size(); ++i)

@@ -20,7 +20,7 @@ class SettingsWindow final : public QWidget {
 public:
     enum class Tab { general, panel, alerts, history, developer };
 
-    SettingsWindow(Appearance appearance, DeveloperTab::Places places, QWidget* parent = nullptr);
+    explicit SettingsWindow(DeveloperTab::Places places, QWidget* parent = nullptr);
 
     void bind(AppModel& model);
     void showTab(Tab tab);

@@ -122,7 +122,8 @@ void writeDropdowns(const AppModel& model, const SnapshotOptions& options, const
             const std::string name = "dropdown-" + rawValue(kind) + "-" + infix + suffix;
             if (!options.wants(name))
                 continue;
-            MenuDropdown dropdown(model, kind, appearance, {[] {}, [] {}, [] {}});
+            QApplication::setPalette(Look::palette(appearance));
+            MenuDropdown dropdown(model, kind, {[] {}, [] {}, [] {}});
             dropdown.setWindowFlags(Qt::Widget); // a picture of it, not a popup on a screen
             dropdown.show();
             save(dropdown, options, name);
@@ -131,10 +132,10 @@ void writeDropdowns(const AppModel& model, const SnapshotOptions& options, const
 }
 
 // Each settings tab, with the demo Mac's places.
-void writeSettings(AppModel& model, Appearance appearance, const SnapshotOptions& options, const std::string& suffix)
+void writeSettings(AppModel& model, const SnapshotOptions& options, const std::string& suffix)
 {
     SettingsWindow settings(
-        appearance, {"/Applications/Vexel.app/Contents/MacOS/vexel", "/Users/alex", [] { return std::nullopt; }});
+        {"/Applications/Vexel.app/Contents/MacOS/vexel", "/Users/alex", [] { return std::nullopt; }});
     settings.bind(model);
     settings.show();
     const std::array<std::pair<SettingsWindow::Tab, const char*>, 5> tabs{{{SettingsWindow::Tab::general, "general"},
@@ -166,7 +167,9 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
 {
     for (const auto appearance : {Appearance::light, Appearance::dark}) {
         const std::string suffix = appearance == Appearance::light ? "light.png" : "dark.png";
-        MainWindow window(appearance);
+        // Pictures are drawn in Vexel's own palettes, the same on every machine.
+        QApplication::setPalette(Look::palette(appearance));
+        MainWindow window;
         window.bind(model);
         const VexelCommands commands(window, model, [] {});
         window.show();
@@ -181,7 +184,7 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
         if (prefix.empty() && options.wants("overview-away-" + suffix))
             writeAway(window, model, options, suffix);
         if (prefix.empty() && options.wantsAny("settings-"))
-            writeSettings(model, appearance, options, suffix);
+            writeSettings(model, options, suffix);
         if (options.wants(prefix + "confirm-forcequit-" + suffix))
             writeForceQuit(window, model, options, prefix + "confirm-forcequit-" + suffix);
         window.showRoute(Route::overview);
@@ -256,6 +259,9 @@ bool SnapshotOptions::wants(const std::string& name) const
 
 int runSnapshotMode(const SnapshotOptions& options)
 {
+    // The house style, font and palettes: pictures look the same on every machine.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    Look::installFont();
     std::error_code error;
     std::filesystem::create_directories(options.folder, error);
     QTemporaryDir data;
@@ -285,7 +291,8 @@ int runSnapshotMode(const SnapshotOptions& options)
     }
     if (!options.stay)
         return 0;
-    MainWindow window(Appearance::light);
+    QApplication::setPalette(Look::palette(Appearance::light));
+    MainWindow window;
     window.bind(*model);
     window.show();
     return QApplication::exec();

@@ -185,7 +185,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
 {
     DemoModel demo;
     demo.ticks(1, true);
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(*demo.model);
     window.show();
     EXPECT_FALSE(window.overview()->waitingForFirstReading());
@@ -222,7 +222,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
 TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
 {
     DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 10; });
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(*demo.model);
     WindowKeeper keeper(window, *demo.model);
     keeper.setPanel({.host = false, .carriesReadings = false});
@@ -243,7 +243,7 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     EXPECT_EQ(demo.model->tickSeconds(), 10);
 
     DemoModel inPanel;
-    MainWindow other(Appearance::light);
+    MainWindow other;
     WindowKeeper panel(other, *inPanel.model);
     panel.showAtStart(true); // at login, before the panel has answered: the taskbar
     EXPECT_TRUE(other.isMinimized());
@@ -286,7 +286,7 @@ TEST(AppModel, StrainedPicturesSeeTheWorldUnderLoad)
 TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
 {
     DemoModel demo;
-    OverviewPage page(Appearance::light, nullptr);
+    OverviewPage page(nullptr);
     page.showModel(*demo.model);
     EXPECT_TRUE(page.waitingForFirstReading());
     demo.ticks(2, true); // the second frame has rates
@@ -328,7 +328,7 @@ TEST(AppModel, AFailingHistoryIsShownNeverACrash)
     auto& model = *demo.model;
     demo.now = 1'795'000'000.0;
     demo.ticks(3, true);
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(model);
     {
         const vexel::testing::FailingSteps failing("SELECT t,dur", 0);

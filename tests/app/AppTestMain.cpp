@@ -1,4 +1,4 @@
-// Widget tests render offscreen with the app's own font, so that pictures do
+// Widget tests render offscreen with the app's own font and light palette, so that pictures do
 // not depend on the machine. CTest's discovery runs this binary without the
 // test environment, so the platform is chosen here.
 
@@ -18,6 +18,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "the Inter font is missing: install fonts-inter\n");
         return 1;
     }
+    QApplication::setPalette(vexel::Look::palette(vexel::Appearance::light));
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -29,7 +29,7 @@ QImage draw(const Dial& dial, Appearance appearance = Appearance::light)
     QImage image(side, side, QImage::Format_ARGB32);
     image.fill(Look::palette(appearance).color(QPalette::Window));
     QPainter painter(&image);
-    dial.paint(painter, QRectF(0, 0, side, side), appearance);
+    dial.paint(painter, QRectF(0, 0, side, side), Look::palette(appearance));
     return image;
 }
 
@@ -79,7 +79,7 @@ TEST(Sparkline, ScaledToItsTopWithGapsWhereReadingsAreMissing)
     QImage image(120, 40, QImage::Format_ARGB32);
     image.fill(page);
     QPainter painter(&image);
-    trace.paint(painter, QRectF(0, 0, 120, 40), light);
+    trace.paint(painter, QRectF(0, 0, 120, 40), Look::palette(light));
     painter.end();
     const QColor amber = Look::strainColour(light, Strain::elevated);
     EXPECT_EQ(image.pixelColor(10, 30), amber); // a quarter of the top: 10 of 40 pixels up
@@ -102,7 +102,7 @@ TEST(BarBank, EachBarToItsValueInItsOwnStrain)
     image.fill(Look::palette(dark).color(QPalette::Window));
     QPainter painter(&image);
     const QRectF area(0, 0, 200, 100);
-    bank.paint(painter, area, dark);
+    bank.paint(painter, area, Look::palette(dark));
     painter.end();
     const auto at = [&](size_t bar, int height) {
         const QRectF rect = bank.barRect(bar, area);
@@ -138,7 +138,7 @@ TEST(Chart, LinesWhereThePointsAreAndBreaksWhereTheyStop)
     image.fill(page);
     QPainter painter(&image);
     const QRectF area(0, 0, 400, 200);
-    chart.paint(painter, area, appearance);
+    chart.paint(painter, area, Look::palette(appearance));
     painter.end();
     const QRectF plot = Chart::plotOf(area);
     const auto at = [&](double t, double value) {
@@ -169,7 +169,7 @@ TEST(LevelScale, FilledUpToTheCurrentStep)
     image.fill(Look::palette(appearance).color(QPalette::Window));
     QPainter painter(&image);
     const QRectF area(0, 0, 400, 40);
-    scale.paint(painter, area, appearance);
+    scale.paint(painter, area, Look::palette(appearance));
     painter.end();
     const auto centre = [&](size_t step) {
         const QPointF point = scale.stepRect(step, area).center();

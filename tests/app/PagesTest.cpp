@@ -29,7 +29,7 @@ auto readModel(Platform platform = Platform::macOS)
 // A page that acts on the model and follows its every change, as in the window.
 template <typename Page> std::unique_ptr<Page> follow(AppModel& model)
 {
-    auto page = std::make_unique<Page>(Appearance::light, nullptr);
+    auto page = std::make_unique<Page>(nullptr);
     page->attach(model);
     QObject::connect(
         &model, &AppModel::changed, page.get(), [&model, raw = page.get()](unsigned) { raw->showModel(model); });
@@ -109,7 +109,7 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
     model.serversLoaded = true;
     model.servers.clear();
 
-    PowerPage power(Appearance::light, nullptr);
+    PowerPage power(nullptr);
     power.showModel(model);
     EXPECT_EQ(power.batteryText(), QStringLiteral("This computer runs on mains power — no battery to report."));
     EXPECT_TRUE(power.batteryRows().isEmpty());
@@ -120,13 +120,13 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
     power.showModel(model);
     EXPECT_EQ(power.sensorRows(), (QStringList{"CPU · Tctl  62 °C", "Laptop · fan1  2960 rpm"}));
 
-    GpuPage gpu(Appearance::light, nullptr);
+    GpuPage gpu(nullptr);
     gpu.showModel(model);
     EXPECT_FALSE(gpu.showsChart());
     EXPECT_EQ(gpu.unavailableText(),
         QStringLiteral("This computer's graphics driver doesn't report utilisation, so there's nothing to show here."));
 
-    DevelopersPage developers(Appearance::light, nullptr);
+    DevelopersPage developers(nullptr);
     developers.showModel(model);
     EXPECT_EQ(developers.dockerState(),
         (QStringList{"Docker isn't installed",
@@ -150,7 +150,7 @@ TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
     auto& model = *demo->model;
     ASSERT_TRUE(model.serversLoaded); // the first, full, tick scans ports
     ASSERT_FALSE(model.servers.empty());
-    DevelopersPage page(Appearance::light, nullptr);
+    DevelopersPage page(nullptr);
     model.serversLoaded = false;
     page.showModel(model);
     EXPECT_EQ(page.serverState(), QStringList{"Looking for servers…"});
@@ -177,7 +177,7 @@ TEST(Pages, DevelopersInViewReadsContainersAndLeavingStopsThem)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(model);
     model.setWindowVisible(true);
     demo->settle();
@@ -203,7 +203,7 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
 {
     auto demo = readModel(Platform::linux);
     auto& model = *demo->model;
-    HistoryPage page(Appearance::light, nullptr);
+    HistoryPage page(nullptr);
     const double now = demo->now;
     model.history = Sampler::HistoryResult{{}, {}, {}, std::nullopt, now - 3600, now, std::nullopt};
     page.showModel(model);
@@ -235,7 +235,7 @@ TEST(HistoryPage, PickingARangeReadsThatRange)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    HistoryPage page(Appearance::light, nullptr);
+    HistoryPage page(nullptr);
     page.attach(model);
     QSignalSpy changes(&model, &AppModel::changed);
     page.pick(static_cast<int>(HistoryRange::month));

@@ -110,7 +110,7 @@ TEST(MenuBarController, ItemsFollowTheSettingsInOrder)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, {[] {}, [] {}, [] {}});
     panel.start();
     using Kinds = std::vector<MenuItemKind>;
     EXPECT_EQ(panel.order(), (Kinds{MenuItemKind::cpu, MenuItemKind::memory, MenuItemKind::network}));
@@ -141,7 +141,7 @@ TEST(MenuBarController, ADropdownOpensOnFreshFiguresAndOnlyOneAtATime)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, {[] {}, [] {}, [] {}});
     panel.start();
     panel.clicked(MenuItemKind::memory);
     ASSERT_NE(panel.dropdown(), nullptr);
@@ -162,15 +162,15 @@ TEST(MenuDropdown, ReadingsWithoutPerAppFiguresSaySoInTheirPlatformsWords)
         = {{{"k10temp", "Tctl", 71, std::nullopt, std::nullopt}, {"nvme", "Composite", 39, 81.85, 84.85}},
             {{"thinkpad", "fan1", 3100}}};
     const MenuDropdown::Actions none{[] {}, [] {}, [] {}};
-    EXPECT_EQ(MenuDropdown(model, MenuItemKind::gpu, Appearance::light, none).note(),
+    EXPECT_EQ(MenuDropdown(model, MenuItemKind::gpu, none).note(),
         QStringLiteral("Vexel doesn't read GPU use per app on Linux."));
-    EXPECT_EQ(MenuDropdown(model, MenuItemKind::battery, Appearance::light, none).note(),
+    EXPECT_EQ(MenuDropdown(model, MenuItemKind::battery, none).note(),
         QStringLiteral("No battery — this computer runs on mains power."));
-    const MenuDropdown heat(model, MenuItemKind::thermal, Appearance::dark, none);
+    const MenuDropdown heat(model, MenuItemKind::thermal, none);
     EXPECT_EQ(heat.readouts().mid(1),
         (QStringList{"CPU · Tctl  71 °C", "SSD · Composite  39 °C", "Laptop · fan1  3100 rpm"}));
     EXPECT_TRUE(heat.appRows().isEmpty());
-    const MenuDropdown memory(model, MenuItemKind::memory, Appearance::dark, none);
+    const MenuDropdown memory(model, MenuItemKind::memory, none);
     EXPECT_TRUE(memory.note().isEmpty());
     EXPECT_FALSE(memory.appRows().isEmpty());
 }

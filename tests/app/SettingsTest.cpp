@@ -50,7 +50,7 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
     DemoModel demo;
     auto& model = *demo.model;
     demo.ticks(1, true);
-    SettingsWindow settings(Appearance::light, nowhere());
+    SettingsWindow settings(nowhere());
     settings.bind(model);
     EXPECT_EQ(settings.tabTitles(), (QStringList{"General", "Menu Bar", "Alerts", "History", "Developer"}));
 
@@ -62,7 +62,7 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
     EXPECT_EQ(model.tickSeconds(), 10); // hidden: the new interval
 
     // The CPU scale reaches the pages.
-    CpuPage cpu(Appearance::light, nullptr);
+    CpuPage cpu(nullptr);
     QObject::connect(&model, &AppModel::changed, &cpu, [&](unsigned) { cpu.showModel(model); });
     general.perCore()->setChecked(true);
     EXPECT_EQ(model.settings.cpuScale, CPUScale::core);
@@ -88,7 +88,7 @@ TEST(Settings, PanelItemsReorderSwitchAndRestore)
 {
     DemoModel demo;
     auto& model = *demo.model;
-    SettingsWindow settings(Appearance::dark, nowhere());
+    SettingsWindow settings(nowhere());
     settings.bind(model);
     auto& panel = tabOf<PanelTab>(settings, SettingsWindow::Tab::panel);
     EXPECT_EQ(panel.rows().mid(0, 3), (QStringList{"CPU on, Both", "Memory on, Value", "Network on, Value"}));
@@ -160,7 +160,7 @@ TEST(VexelCommands, EveryRouteWithItsShortcutThenTheTwoCommands)
     DemoModel demo;
     auto& model = *demo.model;
     demo.ticks(1, true);
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(model);
     int opened = 0;
     const VexelCommands commands(window, model, [&opened] { ++opened; });
@@ -210,7 +210,7 @@ TEST(Settings, ABrokenFileIsShownAndLeftAloneThroughARun)
     auto demo = std::make_unique<DemoModel>(std::function<void(VexelSettings&)>{}, Platform::linux, broken);
     auto& model = *demo->model;
     const auto file = VexelPaths(demo->folder.path()).settings();
-    MainWindow window(Appearance::light);
+    MainWindow window;
     window.bind(model);
     ASSERT_EQ(model.notices.size(), 1u);
     EXPECT_EQ(window.banner()->texts(),
@@ -246,8 +246,7 @@ TEST(Settings, AddingToClaudeNeverHoldsTheWindow)
     const auto go = home.path() / "go";
     std::ofstream(claude) << "#!/bin/sh\nwhile [ ! -e " << go.string() << " ]; do sleep 0.05; done\necho Added\n";
     std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
-    DeveloperTab tab(
-        Appearance::light, {"/nonexistent/vexel", home.path(), [claude] { return claude.string(); }}, nullptr);
+    DeveloperTab tab({"/nonexistent/vexel", home.path(), [claude] { return claude.string(); }}, nullptr);
     QSignalSpy done(&tab, &DeveloperTab::stepDone);
     tab.addToClaude();
     EXPECT_FALSE(tab.claudeButton()->isEnabled());

@@ -88,7 +88,7 @@ TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
-    MenuBarController panel(model, Appearance::dark, Appearance::light, {[] {}, [] {}, [] {}});
+    MenuBarController panel(model, Appearance::dark, {[] {}, [] {}, [] {}});
     panel.start();
 
     // All seven, in the configured order.
