@@ -32,8 +32,9 @@ void SystemLook::start()
     apply(Scheme::noPreference);
     if (!m_bus.isConnected())
         return;
-    m_bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    if (!m_bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
+            SLOT(settingChanged(QDBusMessage))))
+        qCWarning(lookLog) << "can't follow the portal's colour scheme:" << m_bus.lastError().message();
     auto call = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, QStringLiteral("Read"));
     call << appearanceGroup << schemeKey;
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
@@ -59,11 +60,13 @@ void SystemLook::read(QDBusPendingCallWatcher* call)
         apply(*scheme);
 }
 
-void SystemLook::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+void SystemLook::settingChanged(const QDBusMessage& message)
 {
-    if (group != appearanceGroup || key != schemeKey)
+    const auto arguments = message.arguments();
+    if (arguments.size() != 3 || arguments.at(0).toString() != appearanceGroup
+        || arguments.at(1).toString() != schemeKey)
         return;
-    if (const auto scheme = schemeOf(value.variant())) {
+    if (const auto scheme = schemeOf(arguments.at(2))) {
         m_heardChange = true;
         apply(*scheme);
     }

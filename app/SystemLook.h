@@ -8,8 +8,8 @@
 
 #include <optional>
 
+class QDBusMessage;
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 namespace vexel {
 
@@ -44,8 +44,11 @@ public:
 signals:
     void changed(vexel::Appearance appearance);
 
-private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+public slots:
+    // The portal's SettingChanged(group, key, value). The bus delivers
+    // signals to public slots only, and Qt 6.4 connects none that takes a
+    // QDBusVariant, so the slot takes the whole message.
+    void settingChanged(const QDBusMessage& message);
 
 private:
     void read(QDBusPendingCallWatcher* call);

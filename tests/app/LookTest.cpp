@@ -3,6 +3,7 @@
 // reading is missing, the bank of bars each in its own strain; nonsense
 // readings drawn empty.
 
+#include "SystemLook.h"
 #include "look/BarBank.h"
 #include "look/Chart.h"
 #include "look/Dial.h"
@@ -10,6 +11,7 @@
 #include "look/Sparkline.h"
 #include "look/StrainColours.h"
 
+#include <QDBusVariant>
 #include <QImage>
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -179,4 +181,27 @@ TEST(LevelScale, FilledUpToTheCurrentStep)
     EXPECT_EQ(centre(1), Look::strainColour(appearance, Strain::elevated));
     EXPECT_EQ(centre(2), Look::track(appearance));
     EXPECT_EQ(centre(3), Look::track(appearance));
+}
+
+// The desktop's scheme keeps a platform palette of its appearance (a KDE
+// colour scheme stays the user's) and stands Vexel's own in for one of the
+// other appearance (GNOME's dark mode under Qt 6.4's light palette); the
+// portal's values arrive wrapped in variants, and junk is no scheme.
+TEST(SystemLook, TheSchemeChoosesAPaletteOnlyWhenThePlatformsDiffers)
+{
+    QPalette kdeDark = Look::palette(Appearance::dark);
+    kdeDark.setColor(QPalette::Highlight, QColor(0x3d, 0xae, 0xe9));
+    const QPalette fusionLight = Look::palette(Appearance::light);
+    EXPECT_EQ(SystemLook::paletteFor(SystemLook::Scheme::dark, kdeDark), kdeDark);
+    EXPECT_EQ(SystemLook::paletteFor(SystemLook::Scheme::noPreference, kdeDark), kdeDark);
+    EXPECT_EQ(SystemLook::paletteFor(SystemLook::Scheme::light, kdeDark), Look::palette(Appearance::light));
+    EXPECT_EQ(SystemLook::paletteFor(SystemLook::Scheme::dark, fusionLight), Look::palette(Appearance::dark));
+    EXPECT_EQ(Look::strainColour(kdeDark, Strain::calm), QColor(0x3d, 0xae, 0xe9)); // the system's accent
+
+    const auto wrapped = [](const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); };
+    EXPECT_EQ(SystemLook::schemeOf(wrapped(wrapped(1U))), SystemLook::Scheme::dark);
+    EXPECT_EQ(SystemLook::schemeOf(2U), SystemLook::Scheme::light);
+    EXPECT_FALSE(SystemLook::schemeOf(wrapped(7U)));
+    EXPECT_FALSE(SystemLook::schemeOf(wrapped(QStringLiteral("dark"))));
+    EXPECT_FALSE(SystemLook::schemeOf({}));
 }

@@ -2,14 +2,18 @@
 // its window while its readings are in the panel hides it and Vexel goes on;
 // a second launch raises the first and ends; an item's "Quit Vexel" ends it;
 // a panel that starts after Vexel gets its items, and a panel that goes away
-// sends the window back to the taskbar.
+// sends the window back to the taskbar; the window is dark or light as the
+// desktop's portal says, and follows it when it changes.
 
 #include "io/Files.h"
 #include "support/ChildProcess.h"
+#include "support/FakePortal.h"
+#include "support/RunTool.h"
 #include "support/StatusArea.h"
 #include "support/TempFolder.h"
 #include "support/XWindows.h"
 
+#include <QImage>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -67,6 +71,13 @@ private:
         return {vexelApp};
     }
 };
+
+// The window as a user sees it, photographed from the screen into `file`.
+QImage photograph(uint32_t window, const std::filesystem::path& file)
+{
+    const auto run = runTool({"import", "-window", std::to_string(window), file.string()});
+    return run.status == 0 ? QImage(QString::fromStdString(file.string())) : QImage();
+}
 
 bool exitedWell(std::optional<int> status)
 {
@@ -129,4 +140,33 @@ TEST(DesktopSession, APanelThatComesLateGetsTheItemsAndOneThatGoesSendsTheWindow
     ChildProcess quit({vexelApp, "--quit"});
     EXPECT_TRUE(exitedWell(quit.waitUpTo(15000)));
     EXPECT_TRUE(exitedWell(app.process.waitUpTo(15000)));
+}
+
+TEST(DesktopSession, TheWindowIsDarkOrLightAsTheDesktopSaysWhileItRuns)
+{
+    FakePortal portal(1); // the desktop prefers dark
+    ASSERT_TRUE(portal.serving());
+    TempFolder data("vexel-desktop");
+    Vexel app(data.path());
+    XDisplay display;
+    ASSERT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
+    const auto window = display.windowsOf(app.pid(), "Vexel").front();
+    // The pictures stay in the build for a reviewer to look at.
+    const auto pictures = std::filesystem::path(VEXEL_BINARY_DIR) / "pictures";
+    std::filesystem::create_directories(pictures);
+    const auto pageLightness = [&](const std::string& name) {
+        const QImage photo = photograph(window, pictures / name);
+        return photo.isNull() ? -1 : photo.pixelColor(photo.width() - 30, photo.height() - 30).lightness();
+    };
+    const auto dark = [&] {
+        const int lightness = pageLightness("live-dark.png");
+        return lightness >= 0 && lightness < 80;
+    };
+    EXPECT_TRUE(waitFor(dark));
+    // The user turns dark mode off while Vexel runs, and on again.
+    portal.setScheme(2);
+    EXPECT_TRUE(waitFor([&] { return pageLightness("live-light.png") > 200; }));
+    portal.setScheme(1);
+    EXPECT_TRUE(waitFor(dark));
+    EXPECT_TRUE(exitedWell(app.process.stop(SIGTERM)));
 }
