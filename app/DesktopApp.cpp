@@ -1,6 +1,7 @@
 #include "DesktopApp.h"
 
 #include "Appearance.h"
+#include "BackgroundWork.h"
 #include "MainWindow.h"
 #include "QuitVexel.h"
 #include "SingleInstance.h"
@@ -11,6 +12,7 @@
 #include "actions/LiveActions.h"
 #include "model/AppModel.h"
 #include "panel/MenuBarController.h"
+#include "panel/MenuGlyph.h"
 #include "panel/PanelHost.h"
 #include "platform/Environment.h"
 #include "processes/Shell.h"
@@ -36,14 +38,26 @@ namespace vexel {
 
 namespace {
 
-// The panel's look: GNOME's top bar is dark in both of its styles; other
-// desktops' panels follow the system's appearance.
+// The panel's look as far as the desktop's name tells it (GNOME's top bar
+// is dark in both of its styles), else the system's appearance.
 Appearance panelAppearance(const SystemLook& look)
 {
-    const auto desktop = environmentVariable("XDG_CURRENT_DESKTOP").value_or("");
-    if (desktop.find("GNOME") != std::string::npos)
-        return Appearance::dark;
-    return look.appearance();
+    const PanelSettings named{environmentVariable("XDG_CURRENT_DESKTOP").value_or(""), {}, {}, {}};
+    return MenuGlyph::panelAppearance(PanelShades::of(named), look.appearance());
+}
+
+// The panel's shade from the desktop's settings files, read off the window's
+// thread at start and again whenever the system turns light or dark.
+void followPanelShade(MenuBarController& panel, const SystemLook& look)
+{
+    const auto read = [&panel, &look] {
+        inBackground<PanelShade>(
+            &panel, [] { return PanelShades::of(PanelSettings::live()); },
+            [&panel, &look](
+                PanelShade shade) { panel.setPanel(MenuGlyph::panelAppearance(shade, look.appearance())); });
+    };
+    read();
+    QObject::connect(&look, &SystemLook::changed, &panel, read);
 }
 
 // SIGTERM (the session ending, systemd stopping it) and Ctrl-C quit the app
@@ -134,6 +148,7 @@ int runWindow(SingleInstance& instance, bool hidden)
     };
     MenuBarController panel(model, panelAppearance(look),
         {showWindow, [showSettings] { showSettings(SettingsWindow::Tab::panel); }, quitVexel});
+    followPanelShade(panel, look);
     // The panel's status area is followed as it comes and goes; without
     // items in it, the window stays the way back.
     PanelHost host;

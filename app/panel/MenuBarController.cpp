@@ -59,6 +59,14 @@ MenuBarController::~MenuBarController()
     removeAll();
 }
 
+void MenuBarController::setPanel(Appearance panel)
+{
+    if (panel == m_panel)
+        return;
+    m_panel = panel;
+    update();
+}
+
 void MenuBarController::start()
 {
     stop();

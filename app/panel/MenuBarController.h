@@ -23,8 +23,8 @@ class AppModel;
 // the item list rebuilds the items.
 class MenuBarController final : public QObject {
 public:
-    // `panel` is the panel's own look (its text colour is the pictures'),
-    // `window` the look of the dropdowns, as of the window.
+    // `panel` is the panel's own look (its text colour is the pictures');
+    // the dropdowns take the window's palette.
     MenuBarController(AppModel& model, Appearance panel, MenuDropdown::Actions actions);
     ~MenuBarController() override;
 
@@ -40,6 +40,8 @@ public:
     void update();
     // An item was clicked: opens its dropdown, or closes the one open.
     void clicked(MenuItemKind kind);
+    // The panel turned light or dark: the pictures are drawn anew for it.
+    void setPanel(Appearance panel);
 
     // The kinds in the order their items were created.
     [[nodiscard]] const std::vector<MenuItemKind>& order() const { return m_order; }

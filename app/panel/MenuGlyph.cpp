@@ -33,6 +33,44 @@ void drawText(QPainter& painter, const QRectF& box, const QString& text, double 
     painter.drawText(box, Qt::AlignCenter, text);
 }
 
+enum class Direction { in, out };
+
+constexpr double markWidth = 5;
+
+// The mark of a row: a triangle down (received) or up (sent) for the network,
+// R or W for the disk.
+void drawMark(QPainter& painter, const QRectF& box, MenuItemKind kind, Direction direction)
+{
+    if (kind == MenuItemKind::disk) {
+        painter.setFont(fitted(QStringLiteral("W"), box.width(), 7, QFont::Medium));
+        painter.drawText(box, Qt::AlignCenter, direction == Direction::in ? QStringLiteral("R") : QStringLiteral("W"));
+        return;
+    }
+    const double middle = box.center().y();
+    const double half = box.width() / 2;
+    const double x = box.left();
+    QPainterPath triangle;
+    if (direction == Direction::in) {
+        triangle.moveTo(x, middle - half * 0.6);
+        triangle.lineTo(x + box.width(), middle - half * 0.6);
+        triangle.lineTo(x + half, middle + half * 0.7);
+    } else {
+        triangle.moveTo(x, middle + half * 0.6);
+        triangle.lineTo(x + box.width(), middle + half * 0.6);
+        triangle.lineTo(x + half, middle - half * 0.7);
+    }
+    triangle.closeSubpath();
+    painter.fillPath(triangle, painter.pen().color());
+}
+
+// A rate's row: its mark, then its figure.
+void drawRow(QPainter& painter, const QRectF& row, const QString& text, MenuItemKind kind, Direction direction)
+{
+    drawMark(painter, QRectF(row.left(), row.top(), markWidth, row.height()), kind, direction);
+    const QRectF figure(row.left() + markWidth + 1, row.top(), row.width() - markWidth - 1, row.height());
+    drawText(painter, figure, text, 10, QFont::DemiBold);
+}
+
 void drawTrace(QPainter& painter, const QRectF& box, const MenuReading& reading, const QColor& ink, bool faint)
 {
     const auto& trace = reading.trace;
@@ -83,6 +121,16 @@ QColor MenuGlyph::ink(Strain strain, Appearance panel)
     return Look::strainColour(panel, strain);
 }
 
+Appearance MenuGlyph::panelAppearance(PanelShade shade, Appearance palette)
+{
+    switch (shade) {
+    case PanelShade::dark: return Appearance::dark;
+    case PanelShade::light: return Appearance::light;
+    case PanelShade::unknown: break;
+    }
+    return palette;
+}
+
 QString MenuGlyph::shortName(MenuItemKind kind)
 {
     switch (kind) {
@@ -120,12 +168,12 @@ QImage MenuGlyph::image(const MenuReading& reading, Appearance panel, qreal scal
     if (reading.style == MenuItemStyle::both)
         drawTrace(painter, square, reading, ink, true);
     if (reading.text2) {
-        // In above out (down above up, reads above writes), as the tooltip
-        // says: arrows would leave the figures too small to read in the slot.
+        // In above out: down above up, reads above writes, each row marked so
+        // that two bare figures are never a riddle.
         const QRectF top(square.left(), square.top(), square.width(), square.height() / 2);
         const QRectF bottom(square.left(), top.bottom(), square.width(), square.height() / 2);
-        drawText(painter, top, text, 10, QFont::DemiBold);
-        drawText(painter, bottom, QString::fromStdString(*reading.text2), 10, QFont::DemiBold);
+        drawRow(painter, top, text, reading.kind, Direction::in);
+        drawRow(painter, bottom, QString::fromStdString(*reading.text2), reading.kind, Direction::out);
         return image;
     }
     drawText(painter, upper, shortName(reading.kind), 7, QFont::Medium);

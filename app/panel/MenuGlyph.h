@@ -2,6 +2,7 @@
 
 #include "Appearance.h"
 #include "panel/MenuReading.h"
+#include "platform/linux/PanelShade.h"
 
 #include <QIcon>
 #include <QImage>
@@ -10,7 +11,8 @@ namespace vexel {
 
 // The picture of one panel item. Panels give status icons a square slot, so
 // the picture is a square: the kind's short name over its value, two stacked
-// values for rates in and out, the recent trace for a graph, or the value
+// values for rates in and out (marked with a triangle down and up for the
+// network, R and W for the disk), the recent trace for a graph, or the value
 // over a faint graph for both. A calm reading is drawn in the panel's own
 // text colour (light on a dark panel), an elevated one amber, a strained one
 // red.
@@ -25,6 +27,9 @@ struct MenuGlyph {
     [[nodiscard]] static QColor ink(Strain strain, Appearance panel);
     // The kind's name as the picture shows it: "CPU", "MEM", "NET"…
     [[nodiscard]] static QString shortName(MenuItemKind kind);
+    // The panel's appearance: its shade where the desktop's settings tell it,
+    // else the system palette's appearance.
+    [[nodiscard]] static Appearance panelAppearance(PanelShade shade, Appearance palette);
 };
 
 } // namespace vexel
