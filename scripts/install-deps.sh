@@ -28,8 +28,9 @@ test_packages=(
   # its panel items in a real status area: a message bus of their own, the
   # watcher and a panel host, and a photograph of the screen
   dbus-daemon haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils imagemagick
-  # the desktop session test closes and finds the app's window through the X server
-  libxcb1-dev
+  # the desktop session test closes and finds the app's window through the X server,
+  # and runs it under Weston, headless, for Wayland
+  libxcb1-dev weston
   # the install check validates the desktop entry and the AppStream metadata;
   # scripts/icons.sh renders the icon's sizes
   desktop-file-utils appstream librsvg2-bin

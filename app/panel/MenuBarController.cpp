@@ -183,14 +183,19 @@ void MenuBarController::clicked(MenuItemKind kind)
         m_closedAt = QDateTime::currentMSecsSinceEpoch();
     });
     m_dropdown = dropdown;
-    // Status items carry no position: the dropdown opens at the pointer, kept on its screen.
-    QPoint at = QCursor::pos();
-    if (const auto* screen = QGuiApplication::screenAt(at)) {
-        const QRect room = screen->availableGeometry();
-        at.setX(std::clamp(at.x() - dropdown->width() / 2, room.left(), room.right() - dropdown->width()));
-        at.setY(std::clamp(at.y(), room.top(), room.bottom() - dropdown->height()));
+    if (MenuDropdown::placedByCompositor()) {
+        qCInfo(panelLog) << "dropdown" << rawValue(kind).c_str() << "opens as a window the compositor places";
+    } else {
+        // Status items carry no position: the dropdown opens at the pointer, kept on its screen.
+        QPoint at = QCursor::pos();
+        if (const auto* screen = QGuiApplication::screenAt(at)) {
+            const QRect room = screen->availableGeometry();
+            at.setX(std::clamp(at.x() - dropdown->width() / 2, room.left(), room.right() - dropdown->width()));
+            at.setY(std::clamp(at.y(), room.top(), room.bottom() - dropdown->height()));
+        }
+        dropdown->move(at);
+        qCInfo(panelLog) << "dropdown" << rawValue(kind).c_str() << "opens at" << at;
     }
-    dropdown->move(at);
     dropdown->show();
     m_model.refresh(false); // it opens on fresh figures
 }

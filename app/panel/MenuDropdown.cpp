@@ -15,7 +15,9 @@
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -102,10 +104,11 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
 } // namespace
 
 MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions actions)
-    : QFrame(nullptr, Qt::Popup)
+    : QFrame(nullptr, placedByCompositor() ? Qt::Window : Qt::Popup)
     , m_kind(kind)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(qs(title(kind)) + QStringLiteral(" — Vexel"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setFixedWidth(340);
@@ -189,6 +192,28 @@ void MenuDropdown::showModel(const AppModel& model)
     m_note->setText(note);
     m_note->setVisible(!perApp);
     adjustSize();
+}
+
+bool MenuDropdown::placedByCompositor()
+{
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+void MenuDropdown::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QFrame::keyPressEvent(event);
+}
+
+void MenuDropdown::changeEvent(QEvent* event)
+{
+    // The window form closes once the user leaves it, as the popup does.
+    if (event->type() == QEvent::ActivationChange && windowType() == Qt::Window && !isActiveWindow())
+        close();
+    QFrame::changeEvent(event);
 }
 
 QStringList MenuDropdown::readouts() const

@@ -3,7 +3,8 @@
 // a second launch raises the first and ends; an item's "Quit Vexel" ends it;
 // a panel that starts after Vexel gets its items, and a panel that goes away
 // sends the window back to the taskbar; the window is dark or light as the
-// desktop's portal says, and follows it when it changes.
+// desktop's portal says, and follows it when it changes; under a Wayland
+// compositor (Weston, headless) the window shows and an item's dropdown opens.
 
 #include "io/Files.h"
 #include "support/ChildProcess.h"
@@ -77,6 +78,71 @@ QImage photograph(uint32_t window, const std::filesystem::path& file)
 {
     const auto run = runTool({"import", "-window", std::to_string(window), file.string()});
     return run.status == 0 ? QImage(QString::fromStdString(file.string())) : QImage();
+}
+
+std::optional<std::string> variable(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
+// Weston in headless mode, drawing with pixman so that the screen can be
+// photographed, on a socket of its own; Wayland clients started while it
+// lives find it through the environment.
+struct Weston {
+    TempFolder runtime{"vexel-wayland"};
+    std::optional<std::string> runtimeBefore = variable("XDG_RUNTIME_DIR");
+    std::optional<ChildProcess> compositor;
+
+    Weston()
+    {
+        std::filesystem::permissions(runtime.path(), std::filesystem::perms::owner_all);
+        ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
+        compositor.emplace(std::vector<std::string>{"weston", "--backend=headless-backend.so", "--use-pixman",
+            "--socket=vexel-test", "--width=1024", "--height=768", "--debug", "--idle-time=0"});
+        EXPECT_TRUE(waitFor([this] { return std::filesystem::exists(runtime.path() / "vexel-test"); }));
+        ::setenv("WAYLAND_DISPLAY", "vexel-test", 1);
+    }
+    ~Weston()
+    {
+        compositor.reset();
+        ::unsetenv("WAYLAND_DISPLAY");
+        if (runtimeBefore)
+            ::setenv("XDG_RUNTIME_DIR", runtimeBefore->c_str(), 1);
+        else
+            ::unsetenv("XDG_RUNTIME_DIR");
+    }
+    Weston(const Weston&) = delete;
+    Weston& operator=(const Weston&) = delete;
+
+    // The screen as the compositor shows it, kept as `name` in build/pictures.
+    [[nodiscard]] QImage photograph(const std::string& name) const
+    {
+        ChildProcess shooter({"weston-screenshooter"}, {runtime.path()});
+        (void)shooter.waitUpTo(10000);
+        const auto pictures = std::filesystem::path(VEXEL_BINARY_DIR) / "pictures";
+        std::filesystem::create_directories(pictures);
+        QImage photo;
+        for (const auto& entry : std::filesystem::directory_iterator(runtime.path())) {
+            if (entry.path().extension() != ".png")
+                continue;
+            std::filesystem::rename(entry.path(), pictures / name);
+            photo.load(QString::fromStdString((pictures / name).string()));
+        }
+        return photo.convertToFormat(QImage::Format_RGB32);
+    }
+};
+
+// How many pixels differ between two photographs of the same screen.
+int difference(const QImage& one, const QImage& other)
+{
+    if (one.size() != other.size())
+        return -1;
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            count += one.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+    return count;
 }
 
 bool exitedWell(std::optional<int> status)
@@ -169,4 +235,48 @@ TEST(DesktopSession, TheWindowIsDarkOrLightAsTheDesktopSaysWhileItRuns)
     portal.setScheme(1);
     EXPECT_TRUE(waitFor(dark));
     EXPECT_TRUE(exitedWell(app.process.stop(SIGTERM)));
+}
+
+TEST(DesktopSession, UnderWaylandTheWindowShowsAndAnItemsDropdownOpens)
+{
+    const StatusArea area; // on the X display: the items travel over D-Bus either way
+    const Weston weston;
+    const QImage desktop = weston.photograph("wayland-desktop.png");
+    ASSERT_FALSE(desktop.isNull());
+    TempFolder data("vexel-desktop");
+    std::ofstream(data.path() / "settings.json") << R"({"sampleSeconds": 60})";
+    ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
+    ::setenv("QT_QPA_PLATFORM", "wayland", 1);
+    ::setenv("QT_LOGGING_RULES", "vexel.panel.info=true", 1);
+    ChildProcess app({vexelApp}, {{}, true, true});
+    ::unsetenv("QT_LOGGING_RULES");
+    ::unsetenv("QT_QPA_PLATFORM");
+    ::unsetenv("VEXEL_DATA_DIR");
+    ASSERT_TRUE(waitFor([] { return registeredItems().size() == 3; }));
+    // The window: a large part of the screen changed, and settled once the
+    // first reading is in (two photographs a moment apart hardly differ).
+    QImage window = weston.photograph("wayland-window.png");
+    EXPECT_TRUE(waitFor([&] {
+        const QImage next = weston.photograph("wayland-window.png");
+        const bool settled = difference(desktop, next) > 200000 && difference(window, next) < 10000;
+        window = next;
+        return settled;
+    })) << difference(desktop, window);
+    // A click on an item (the panel's Activate) opens its dropdown as a
+    // window of its own that the compositor places, and it shows.
+    auto activate = QDBusMessage::createMethodCall(registeredItems().front(), QStringLiteral("/StatusNotifierItem"),
+        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("Activate"));
+    activate << 10 << 10;
+    ask(activate);
+    std::string line;
+    do
+        line = app.readLine();
+    while (!line.empty() && line.find("dropdown") == std::string::npos);
+    EXPECT_NE(line.find("opens as a window the compositor places"), std::string::npos) << line;
+    QImage dropdown;
+    EXPECT_TRUE(waitFor([&] {
+        dropdown = weston.photograph("wayland-dropdown.png");
+        return difference(window, dropdown) > 25000;
+    })) << difference(window, dropdown);
+    EXPECT_TRUE(exitedWell(app.stop(SIGTERM)));
 }
