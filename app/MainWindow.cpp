@@ -19,6 +19,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QStackedWidget>
@@ -73,6 +74,14 @@ void MainWindow::setMenuBar(QMenuBar* bar)
 Page* MainWindow::page(Route route) const
 {
     return m_routePages.at(static_cast<size_t>(route));
+}
+
+void MainWindow::focusSearch()
+{
+    showRoute(Route::apps);
+    auto* search = static_cast<AppsPage*>(page(Route::apps))->searchField();
+    search->setFocus(Qt::ShortcutFocusReason);
+    search->selectAll();
 }
 
 OverviewPage* MainWindow::overview() const

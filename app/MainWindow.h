@@ -35,6 +35,8 @@ public:
 
     // The sidebar's titles, top to bottom.
     [[nodiscard]] QStringList sidebarTitles() const;
+    // Ctrl+F: the Apps page, its search field focused and its text selected.
+    void focusSearch();
     // The page of a route.
     [[nodiscard]] Page* page(Route route) const;
 

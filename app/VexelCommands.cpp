@@ -7,6 +7,8 @@
 #include <QAction>
 #include <QMenuBar>
 
+#include <array>
+
 namespace vexel {
 
 namespace {
@@ -23,6 +25,20 @@ QList<QKeySequence> keys(const QKeySequence& own, QKeySequence::StandardKey stan
     return all;
 }
 
+// An entry's text with its mnemonic on the first `key` (Alt and the letter
+// opens or picks it), and any ampersand of the text itself shown as one.
+QString withMnemonic(QString text, QChar key)
+{
+    text.replace(QStringLiteral("&"), QStringLiteral("&&"));
+    const auto at = text.indexOf(key, 0, Qt::CaseInsensitive);
+    if (at >= 0)
+        text.insert(at, QChar('&'));
+    return text;
+}
+
+// Each route's mnemonic in the Go menu, in the sidebar's order: distinct letters.
+constexpr std::array<char, 10> routeKeys{'O', 'A', 'C', 'M', 'D', 'N', 'G', 'P', 'H', 'V'};
+
 } // namespace
 
 VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<void()> openSettings)
@@ -30,27 +46,31 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
 {
     m_bar = new QMenuBar(&window);
     m_bar->setFont(Look::font(12));
-    auto* vexel = m_bar->addMenu(QStringLiteral("Vexel"));
-    auto* settings = vexel->addAction(QStringLiteral("Settings…"));
+    auto* vexel = m_bar->addMenu(QStringLiteral("&Vexel"));
+    auto* settings = vexel->addAction(QStringLiteral("&Settings…"));
     settings->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Comma), QKeySequence::Preferences));
     settings->setShortcutContext(Qt::ApplicationShortcut);
     connect(settings, &QAction::triggered, this, [openSettings = std::move(openSettings)] { openSettings(); });
     vexel->addSeparator();
-    auto* quitAction = vexel->addAction(QStringLiteral("Quit Vexel"));
+    auto* quitAction = vexel->addAction(QStringLiteral("&Quit Vexel"));
     quitAction->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence::Quit));
     quitAction->setShortcutContext(Qt::ApplicationShortcut);
     connect(quitAction, &QAction::triggered, this, &quitVexel);
 
-    auto* go = m_bar->addMenu(QStringLiteral("Go"));
+    auto* go = m_bar->addMenu(QStringLiteral("&Go"));
     for (const auto route : allRoutes) {
-        auto* action = go->addAction(QString::fromStdString(title(route)));
+        auto* action = go->addAction(
+            withMnemonic(QString::fromStdString(title(route)), QChar(routeKeys.at(static_cast<size_t>(route)))));
         action->setShortcut(QKeySequence(QString::fromStdString(shortcut(route))));
         connect(action, &QAction::triggered, &window, [&window, route] { window.showRoute(route); });
     }
     go->addSeparator();
-    auto* quit = go->addAction(QStringLiteral("Quit Selected App…"));
+    auto* find = go->addAction(QStringLiteral("&Find App…"));
+    find->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_F), QKeySequence::Find));
+    connect(find, &QAction::triggered, &window, &MainWindow::focusSearch);
+    auto* quit = go->addAction(QStringLiteral("&Quit Selected App…"));
     connect(quit, &QAction::triggered, &model, &AppModel::quitSelected);
-    auto* open = go->addAction(QStringLiteral("Open Vexel Window"));
+    auto* open = go->addAction(QStringLiteral("Open Vexel &Window"));
     connect(open, &QAction::triggered, &window, [&window] {
         window.showNormal();
         window.raise();

@@ -14,14 +14,15 @@ class MainWindow;
 
 // The app's commands in the window's menu bar: under "Vexel", the settings
 // (Ctrl+,) and "Quit Vexel" (Ctrl+Q); under "Go", every route with its
-// shortcut, a divider, "Quit Selected App…" and "Open Vexel Window".
+// shortcut, a divider, "Find App…" (Ctrl+F), "Quit Selected App…" and "Open
+// Vexel Window". Every menu and entry has its mnemonic.
 class VexelCommands final : public QObject {
 public:
     VexelCommands(MainWindow& window, AppModel& model, std::function<void()> openSettings);
 
     // The "Vexel" menu's entries: the settings, then quitting.
     [[nodiscard]] QList<QAction*> vexelActions() const;
-    // The "Go" menu's entries, dividers left out: the routes, then the two commands.
+    // The "Go" menu's entries, dividers left out: the routes, then the three commands.
     [[nodiscard]] QList<QAction*> goActions() const;
 
 private:

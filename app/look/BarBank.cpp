@@ -3,6 +3,7 @@
 #include "look/StrainColours.h"
 
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -36,6 +37,17 @@ void BarBank::paint(QPainter& painter, const QRectF& area, const QPalette& palet
         painter.drawRoundedRect(filled, radius, radius);
     }
     painter.restore();
+}
+
+QString BarBank::describe() const
+{
+    QStringList parts;
+    for (size_t i = 0; i < fractions.size(); ++i) {
+        const QString name = i < names.size() ? names[i] : QString::number(i + 1);
+        const double fraction = std::isfinite(fractions[i]) ? std::clamp(fractions[i], 0.0, 1.0) : 0;
+        parts << QStringLiteral("%1: %2%").arg(name).arg(std::lround(fraction * 100));
+    }
+    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace vexel

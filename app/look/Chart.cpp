@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -113,6 +114,27 @@ void Chart::paint(QPainter& painter, const QRectF& area, const QPalette& palette
         painter.drawPath(line);
     }
     painter.restore();
+}
+
+QString Chart::describe() const
+{
+    QStringList parts;
+    for (const auto& one : series) {
+        double sum = 0;
+        double peak = 0;
+        int count = 0;
+        for (const auto& point : one.points) {
+            if (!std::isfinite(point.y()))
+                continue;
+            sum += point.y();
+            peak = count == 0 ? point.y() : std::max(peak, point.y());
+            ++count;
+        }
+        parts << (count == 0
+                ? QStringLiteral("%1: no readings").arg(one.name)
+                : QStringLiteral("%1: average %2, highest %3").arg(one.name, valueText(sum / count), valueText(peak)));
+    }
+    return parts.join(QStringLiteral("; "));
 }
 
 } // namespace vexel

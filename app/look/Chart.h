@@ -32,6 +32,8 @@ struct Chart {
     std::vector<std::pair<double, QString>> times; // marked under the plot
 
     void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+    // What it shows, in words: each series' average and peak.
+    [[nodiscard]] QString describe() const;
 
     // The plot inside `area`, under the legend and above the times.
     [[nodiscard]] static QRectF plotOf(const QRectF& area);

@@ -24,6 +24,8 @@ struct Dial {
 
     // Draws the dial in the largest square centred in `area`.
     void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+    // What it shows, in words: its value.
+    [[nodiscard]] QString describe() const { return value; }
 
     // Where on the arc a fraction lies, in Qt's degrees (0 at three
     // o'clock, counter-clockwise): 225 for 0, -45 for 1.

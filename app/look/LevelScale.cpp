@@ -44,4 +44,9 @@ void LevelScale::paint(QPainter& painter, const QRectF& area, const QPalette& pa
     painter.restore();
 }
 
+QString LevelScale::describe() const
+{
+    return steps.empty() ? QString() : steps[std::min(current, steps.size() - 1)].name;
+}
+
 } // namespace vexel

@@ -24,6 +24,8 @@ struct LevelScale {
     size_t current = 0;
 
     void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+    // What it shows, in words: the current step's name.
+    [[nodiscard]] QString describe() const;
 
     // The rectangle of step `index`'s bar in `area` (its name goes under it).
     [[nodiscard]] QRectF stepRect(size_t index, const QRectF& area) const;

@@ -1,19 +1,64 @@
 #include "look/PaintedView.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
+
+#include <mutex>
 
 namespace vexel {
 
-PaintedView::PaintedView(QSize preferred, QWidget* parent)
+namespace {
+
+// A painted view as assistive technologies read it: a chart, its name the
+// widget's accessible name, its value the drawing's words.
+class PaintedViewAccessible final : public QAccessibleWidget {
+public:
+    explicit PaintedViewAccessible(PaintedView* view)
+        : QAccessibleWidget(view, QAccessible::Chart)
+    {
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        const auto* view = static_cast<const PaintedView*>(widget());
+        switch (kind) {
+        case QAccessible::Value:
+        case QAccessible::Description: return view->value();
+        default: return QAccessibleWidget::text(kind);
+        }
+    }
+};
+
+QAccessibleInterface* paintedViews(const QString&, QObject* object)
+{
+    if (auto* view = dynamic_cast<PaintedView*>(object))
+        return new PaintedViewAccessible(view);
+    return nullptr;
+}
+
+} // namespace
+
+PaintedView::PaintedView(const QString& name, QSize preferred, QWidget* parent)
     : QWidget(parent)
     , m_preferred(preferred)
 {
+    static std::once_flag factory;
+    std::call_once(factory, [] { QAccessible::installFactory(paintedViews); });
+    setAccessibleName(name);
     setMinimumHeight(preferred.height());
 }
 
-void PaintedView::setDrawing(Drawing drawing)
+void PaintedView::setDrawing(Drawing drawing, const QString& value)
 {
     m_drawing = std::move(drawing);
+    if (QString words = spoken(value); words != m_value) {
+        m_value = std::move(words);
+        if (QAccessible::isActive()) {
+            QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+            QAccessible::updateAccessibility(&changed);
+        }
+    }
     update();
 }
 
@@ -23,6 +68,11 @@ void PaintedView::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     m_drawing(painter, QRectF(rect()), palette());
+}
+
+QString spoken(QString text)
+{
+    return text.replace(QStringLiteral("%"), QStringLiteral(" percent"));
 }
 
 } // namespace vexel

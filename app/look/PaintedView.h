@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 #include <functional>
@@ -7,22 +8,29 @@
 namespace vexel {
 
 // A widget that shows one of the house look's drawings (a trace, a bank of
-// bars), so that pages lay drawings out without painting themselves.
+// bars), so that pages lay drawings out without painting themselves. To
+// assistive technologies it is a chart with a name (what it shows) and a
+// value (what it shows now, in words).
 class PaintedView final : public QWidget {
 public:
     // Draws in the area with the colours of the palette the view is shown in.
     using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
 
-    PaintedView(QSize preferred, QWidget* parent);
+    PaintedView(const QString& name, QSize preferred, QWidget* parent);
 
-    void setDrawing(Drawing drawing);
-    // Shows one of the house look's drawings (anything with paint(painter, area, palette)).
+    // Shows a drawing, and what it shows now in words.
+    void setDrawing(Drawing drawing, const QString& value);
+    // Shows one of the house look's drawings (anything with
+    // paint(painter, area, palette) and describe()).
     template <typename Drawable> void draw(Drawable drawable)
     {
-        setDrawing([drawable = std::move(drawable)](QPainter& painter, const QRectF& area, const QPalette& palette) {
-            drawable.paint(painter, area, palette);
-        });
+        const QString value = drawable.describe();
+        setDrawing([drawable = std::move(drawable)](QPainter& painter, const QRectF& area,
+                       const QPalette& palette) { drawable.paint(painter, area, palette); },
+            value);
     }
+    // What the drawing shows now, in words: "15 percent".
+    [[nodiscard]] const QString& value() const { return m_value; }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
 
 protected:
@@ -31,6 +39,10 @@ protected:
 private:
     QSize m_preferred;
     Drawing m_drawing;
+    QString m_value;
 };
+
+// A figure as it is read out: "%" says "percent".
+[[nodiscard]] QString spoken(QString text);
 
 } // namespace vexel

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace vexel {
 
@@ -52,6 +53,21 @@ void Sparkline::paint(QPainter& painter, const QRectF& area, const QPalette& pal
         painter.drawPolyline(run);
     }
     painter.restore();
+}
+
+QString Sparkline::describe() const
+{
+    std::optional<double> last;
+    std::optional<double> peak;
+    for (const double value : values) {
+        if (!std::isfinite(value))
+            continue;
+        last = value;
+        peak = std::max(peak.value_or(value), value);
+    }
+    if (!last)
+        return QStringLiteral("no readings yet");
+    return QStringLiteral("now %1, highest %2").arg(valueText(*last), valueText(*peak));
 }
 
 } // namespace vexel

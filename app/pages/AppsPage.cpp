@@ -39,6 +39,7 @@ AppsPage::AppsPage(QWidget* parent)
         this));
     m_search = new QLineEdit(this);
     m_search->setPlaceholderText(QStringLiteral("Find an app, process or PID"));
+    m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_search->setFont(Look::font(12));
     layout->addWidget(m_search);

@@ -37,7 +37,7 @@ CpuPage::CpuPage(QWidget* parent)
     column->addWidget(m_total);
     m_split = Look::line(this);
     column->addWidget(m_split);
-    m_trace = new PaintedView(QSize(480, 90), this);
+    m_trace = new PaintedView(QStringLiteral("CPU, last few minutes"), QSize(480, 90), this);
     column->addWidget(m_trace);
     m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     column->addWidget(m_traceCaption);
@@ -45,7 +45,7 @@ CpuPage::CpuPage(QWidget* parent)
     column->addWidget(Look::heading(QStringLiteral("Cores"), this));
     m_coresCaption = Look::explanation({}, this);
     column->addWidget(m_coresCaption);
-    m_cores = new PaintedView(QSize(480, 70), this);
+    m_cores = new PaintedView(QStringLiteral("CPU per core"), QSize(480, 70), this);
     column->addWidget(m_cores);
     column->addSpacing(6);
     column->addWidget(Look::heading(QStringLiteral("Load"), this));
@@ -79,7 +79,8 @@ void CpuPage::showModel(const AppModel& model)
         + Fmt::cpu(cpu.system * model.cores, cores)));
     m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)));
     m_coresCaption->setText(qs(coresCaption(cpu)));
-    BarBank bank{cpu.cores};
+    BarBank bank;
+    bank.fractions = cpu.cores;
     bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };
     m_cores->draw(bank);
     m_load->setText(

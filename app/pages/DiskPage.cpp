@@ -31,10 +31,10 @@ DiskPage::DiskPage(QWidget* parent)
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
     column->addWidget(Look::explanation(QStringLiteral("Read"), this));
-    m_readTrace = new PaintedView(QSize(480, 60), this);
+    m_readTrace = new PaintedView(QStringLiteral("Disk reads, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_readTrace);
     column->addWidget(Look::explanation(QStringLiteral("Write"), this));
-    m_writeTrace = new PaintedView(QSize(480, 60), this);
+    m_writeTrace = new PaintedView(QStringLiteral("Disk writes, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_writeTrace);
     column->addSpacing(6);
     column->addWidget(Look::heading(QStringLiteral("Volumes"), this));

@@ -44,7 +44,7 @@ Chart shareChart(
     const std::vector<SysPoint>& points, Chart chart, std::vector<std::pair<QString, double SysPoint::*>> fields)
 {
     chart.top = 100;
-    chart.valueText = [](double value) { return QString::number(value) + "%"; };
+    chart.valueText = [](double value) { return QString::number(std::lround(value)) + "%"; };
     for (const auto& [name, field] : fields) {
         Chart::Series series{name, {}};
         for (const auto& point : points)
@@ -118,7 +118,7 @@ HistoryPage::HistoryPage(QWidget* parent)
     charts->setSpacing(8);
     for (const auto* name : {"CPU", "Memory", "Disk", "Network"}) {
         charts->addWidget(Look::heading(QString::fromLatin1(name), m_charts));
-        m_chartViews.push_back(new PaintedView(QSize(560, 120), m_charts));
+        m_chartViews.push_back(new PaintedView(QString::fromLatin1(name), QSize(560, 120), m_charts));
         charts->addWidget(m_chartViews.back());
     }
     m_gapNote = Look::explanation({}, m_charts);

@@ -22,10 +22,10 @@ NetworkPage::NetworkPage(QWidget* parent)
     column->addWidget(
         Look::explanation(QStringLiteral("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), this));
     column->addWidget(Look::explanation(QStringLiteral("Download"), this));
-    m_inTrace = new PaintedView(QSize(480, 60), this);
+    m_inTrace = new PaintedView(QStringLiteral("Download, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_inTrace);
     column->addWidget(Look::explanation(QStringLiteral("Upload"), this));
-    m_outTrace = new PaintedView(QSize(480, 60), this);
+    m_outTrace = new PaintedView(QStringLiteral("Upload, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_outTrace);
     column->addSpacing(6);
     m_top = new TopApps(QStringLiteral("Moving most"), this);

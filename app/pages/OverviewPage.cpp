@@ -47,7 +47,7 @@ OverviewPage::OverviewPage(QWidget* parent)
     auto* grid = new QGridLayout;
     grid->setSpacing(8);
     for (size_t i = 0; i < m_dials.size(); ++i) {
-        m_dials[i] = new PaintedView(QSize(132, 132), m_content);
+        m_dials[i] = new PaintedView(QString(), QSize(132, 132), m_content);
         grid->addWidget(m_dials[i], static_cast<int>(i / 3), static_cast<int>(i % 3));
     }
     content->addLayout(grid);
@@ -61,10 +61,11 @@ OverviewPage::OverviewPage(QWidget* parent)
     m_today->setFont(Look::font(11));
     m_today->setWordWrap(true);
     today->addWidget(m_today);
-    m_todayTrace = new PaintedView(QSize(300, 56), m_content);
+    m_todayTrace = new PaintedView(QStringLiteral("CPU since midnight"), QSize(300, 56), m_content);
     today->addWidget(m_todayTrace);
     today->addWidget(Look::explanation(QStringLiteral("CPU since midnight"), m_content));
-    m_week = new PaintedView(QSize(300, 40), m_content);
+    m_week = new PaintedView(
+        QStringLiteral("Data moved each day this week, as a share of the busiest day"), QSize(300, 40), m_content);
     today->addWidget(m_week);
     today->addWidget(Look::explanation(QStringLiteral("Data moved each day this week, today at the right"), m_content));
     today->addStretch(1);
@@ -87,10 +88,14 @@ void OverviewPage::showModel(const AppModel& model)
     if (waiting)
         return;
     m_shown = overviewDials(model);
-    for (size_t i = 0; i < m_shown.size(); ++i)
-        m_dials[i]->setDrawing([dial = m_shown[i]](QPainter& painter, const QRectF& area, const QPalette& palette) {
-            dial.paint(painter, area.adjusted(4, 4, -4, -4), palette);
-        });
+    for (size_t i = 0; i < m_shown.size(); ++i) {
+        m_dials[i]->setAccessibleName(m_shown[i].title);
+        m_dials[i]->setDrawing(
+            [dial = m_shown[i]](QPainter& painter, const QRectF& area, const QPalette& palette) {
+                dial.paint(painter, area.adjusted(4, 4, -4, -4), palette);
+            },
+            m_shown[i].describe());
+    }
     showToday(model);
     showAway(model);
     // The scale the settings ask for: a share of the whole machine, or of one core.
@@ -108,8 +113,11 @@ void OverviewPage::showToday(const AppModel& model)
     for (const auto& point : model.todaySeries)
         trace.values.push_back(point.cpu);
     trace.strain = model.strain(MenuItemKind::cpu);
+    trace.valueText = [](double share) { return QString::number(std::lround(share * 100)) + QStringLiteral("%"); };
     m_todayTrace->draw(trace);
-    m_week->draw(BarBank{weekShares(model.week)});
+    BarBank week;
+    week.fractions = weekShares(model.week);
+    m_week->draw(week);
 }
 
 QString OverviewPage::todayText() const

@@ -50,7 +50,7 @@ PowerPage::PowerPage(QWidget* parent)
     column->addWidget(Look::heading(QStringLiteral("Heat"), this));
     m_thermal = Look::line(this);
     column->addWidget(m_thermal);
-    m_scale = new PaintedView(QSize(420, 36), this);
+    m_scale = new PaintedView(QStringLiteral("Thermal state"), QSize(420, 36), this);
     column->addWidget(m_scale);
     m_thermalNote = Look::explanation({}, this);
     column->addWidget(m_thermalNote);

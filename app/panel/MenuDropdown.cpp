@@ -117,13 +117,13 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     layout->setSpacing(8);
     layout->addWidget(Look::heading(qs(title(kind)), this));
     auto* top = new QHBoxLayout;
-    m_dial = new PaintedView(QSize(96, 96), this);
+    m_dial = new PaintedView(qs(title(kind)), QSize(96, 96), this);
     m_dial->setFixedSize(96, 96);
     top->addWidget(m_dial);
     m_readouts = new FigureRows(this);
     top->addWidget(m_readouts, 1);
     layout->addLayout(top);
-    m_trace = new PaintedView(QSize(308, 44), this);
+    m_trace = new PaintedView(qs(title(kind)) + QStringLiteral(", last few minutes"), QSize(308, 44), this);
     layout->addWidget(m_trace);
     m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
     layout->addWidget(m_traceCaption);
@@ -153,7 +153,12 @@ void MenuDropdown::showModel(const AppModel& model)
     m_dial->draw(dialOf(model, m_kind));
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
-    m_trace->draw(Sparkline{reading.trace, reading.traceTop, reading.strain});
+    Sparkline trace{reading.trace, reading.traceTop, reading.strain, {}};
+    if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk)
+        trace.valueText = [](double value) { return qs(Fmt::rate(value, Fmt::RateUnit::bytes)); };
+    else
+        trace.valueText = [](double value) { return QString::number(std::lround(value)) + QStringLiteral("%"); };
+    m_trace->draw(trace);
     m_trace->setVisible(canGraph(m_kind));
     m_traceCaption->setVisible(canGraph(m_kind));
 

@@ -6,6 +6,7 @@
 #include "settings/HistoryTab.h"
 #include "settings/PanelTab.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -65,6 +66,15 @@ QStringList SettingsWindow::tabTitles() const
     for (int i = 0; i < m_tabs->count(); ++i)
         titles << m_tabs->tabText(i);
     return titles;
+}
+
+void SettingsWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 } // namespace vexel

@@ -27,6 +27,10 @@ public:
     [[nodiscard]] SettingsTab* tab(Tab tab) const;
     [[nodiscard]] QStringList tabTitles() const;
 
+protected:
+    // Escape closes the settings, as it does any dialog.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QTabWidget* m_tabs = nullptr;
     std::vector<SettingsTab*> m_pages;

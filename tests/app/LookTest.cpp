@@ -99,7 +99,7 @@ TEST(BarBank, EachBarToItsValueInItsOwnStrain)
 {
     const auto dark = Appearance::dark;
     const BarBank bank{
-        {0.25, 0.95, std::nan(""), 3.0}, [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; }};
+        {0.25, 0.95, std::nan(""), 3.0}, [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; }, {}};
     QImage image(200, 100, QImage::Format_ARGB32);
     image.fill(Look::palette(dark).color(QPalette::Window));
     QPainter painter(&image);
