@@ -2,6 +2,7 @@
 
 #include "actions/ActionFlow.h"
 #include "look/FollowAppearance.h"
+#include "texts/Vexel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -56,7 +57,7 @@ ConfirmSheet::ConfirmSheet(QWidget* parent)
     layout->addWidget(m_message);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
-    m_cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    m_cancel = new QPushButton(Vexel::tr("Cancel"), this);
     m_cancel->setDefault(true);
     m_confirm = new QPushButton(this);
     Look::followAppearance(m_confirm, [this](QWidget*, Appearance appearance) { styleConfirm(appearance); });
@@ -133,7 +134,7 @@ ToastBar::ToastBar(QWidget* parent)
     m_text->setWordWrap(true);
     m_close = new QPushButton(QStringLiteral("×"), this);
     m_close->setFlat(true);
-    m_close->setToolTip(QStringLiteral("Close"));
+    m_close->setToolTip(Vexel::tr("Close"));
     m_close->setFixedWidth(28);
     layout->addWidget(m_text, 1);
     layout->addWidget(m_close);

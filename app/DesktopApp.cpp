@@ -20,6 +20,7 @@
 #include "recorder/RecorderLock.h"
 #include "settings/SettingsWindow.h"
 #include "snapshot/SnapshotMode.h"
+#include "texts/Translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -202,6 +203,8 @@ int runDesktopApp(int& argc, char** argv)
     QApplication::setWindowIcon(vexelIcon());
     if (snapshot)
         return runSnapshotMode(*snapshot);
+    // In the user's language where Vexel has been translated into it.
+    Translations::install(Translations::folder(), QLocale::system());
     // The desktop entry's Quit action: the running Vexel quits, and nothing starts.
     if (hasArgument(argc, argv, "--quit"))
         return SingleInstance::quitRunning() ? 0 : 1;

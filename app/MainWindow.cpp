@@ -16,6 +16,7 @@
 #include "pages/NetworkPage.h"
 #include "pages/OverviewPage.h"
 #include "pages/PowerPage.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,7 +37,7 @@ constexpr int sidebarWidth = 210;
 MainWindow::MainWindow(QWidget* parent)
     : QWidget(parent)
 {
-    setWindowTitle(QStringLiteral("Vexel"));
+    setWindowTitle(Vexel::tr("Vexel"));
     setAutoFillBackground(true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -129,7 +130,7 @@ QWidget* MainWindow::buildSidebar()
     layout->setContentsMargins(0, 18, 0, 12);
     layout->setSpacing(10);
 
-    auto* name = new QLabel(QStringLiteral("Vexel"), panel);
+    auto* name = new QLabel(Vexel::tr("Vexel"), panel);
     name->setFont(Look::font(15, QFont::DemiBold));
     name->setContentsMargins(22, 0, 0, 4);
     layout->addWidget(name);

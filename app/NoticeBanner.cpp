@@ -3,6 +3,7 @@
 #include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/StrainColours.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -50,8 +51,8 @@ void NoticeBanner::addRow(const QString& text, Strain strain, std::optional<int>
     if (closes) {
         auto* close = new QPushButton(QStringLiteral("×"), row);
         close->setFlat(true);
-        close->setToolTip(QStringLiteral("Close"));
-        close->setAccessibleName(QStringLiteral("Close notice"));
+        close->setToolTip(Vexel::tr("Close"));
+        close->setAccessibleName(Vexel::tr("Close notice"));
         close->setFixedWidth(28);
         connect(close, &QPushButton::clicked, this, [this, index = *closes] { emit noticeClosed(index); });
         layout->addWidget(close, 0, Qt::AlignTop);

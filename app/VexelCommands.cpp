@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 #include "QuitVexel.h"
 #include "model/AppModel.h"
+#include "texts/Vexel.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -46,18 +47,18 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
 {
     m_bar = new QMenuBar(&window);
     m_bar->setFont(Look::font(12));
-    auto* vexel = m_bar->addMenu(QStringLiteral("&Vexel"));
-    auto* settings = vexel->addAction(QStringLiteral("&Settings…"));
+    auto* vexel = m_bar->addMenu(Vexel::tr("&Vexel"));
+    auto* settings = vexel->addAction(Vexel::tr("&Settings…"));
     settings->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Comma), QKeySequence::Preferences));
     settings->setShortcutContext(Qt::ApplicationShortcut);
     connect(settings, &QAction::triggered, this, [openSettings = std::move(openSettings)] { openSettings(); });
     vexel->addSeparator();
-    auto* quitAction = vexel->addAction(QStringLiteral("&Quit Vexel"));
+    auto* quitAction = vexel->addAction(Vexel::tr("&Quit Vexel"));
     quitAction->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence::Quit));
     quitAction->setShortcutContext(Qt::ApplicationShortcut);
     connect(quitAction, &QAction::triggered, this, &quitVexel);
 
-    auto* go = m_bar->addMenu(QStringLiteral("&Go"));
+    auto* go = m_bar->addMenu(Vexel::tr("&Go"));
     for (const auto route : allRoutes) {
         auto* action = go->addAction(
             withMnemonic(QString::fromStdString(title(route)), QChar(routeKeys.at(static_cast<size_t>(route)))));
@@ -65,12 +66,12 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
         connect(action, &QAction::triggered, &window, [&window, route] { window.showRoute(route); });
     }
     go->addSeparator();
-    auto* find = go->addAction(QStringLiteral("&Find App…"));
+    auto* find = go->addAction(Vexel::tr("&Find App…"));
     find->setShortcuts(keys(QKeySequence(Qt::CTRL | Qt::Key_F), QKeySequence::Find));
     connect(find, &QAction::triggered, &window, &MainWindow::focusSearch);
-    auto* quit = go->addAction(QStringLiteral("&Quit Selected App…"));
+    auto* quit = go->addAction(Vexel::tr("&Quit Selected App…"));
     connect(quit, &QAction::triggered, &model, &AppModel::quitSelected);
-    auto* open = go->addAction(QStringLiteral("Open Vexel &Window"));
+    auto* open = go->addAction(Vexel::tr("Open Vexel &Window"));
     connect(open, &QAction::triggered, &window, [&window] {
         window.showNormal();
         window.raise();

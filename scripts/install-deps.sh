@@ -34,6 +34,9 @@ test_packages=(
   # the install check validates the desktop entry and the AppStream metadata;
   # scripts/icons.sh renders the icon's sizes
   desktop-file-utils appstream librsvg2-bin
+  # lupdate checks that the translation source holds every sentence; lrelease
+  # builds the translation a test loads
+  qt6-l10n-tools
 )
 
 case "${1:-test}" in

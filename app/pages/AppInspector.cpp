@@ -8,6 +8,7 @@
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -25,9 +26,9 @@ namespace {
 QString kindWord(const AppGroup& app)
 {
     switch (app.kind) {
-    case AppKind::app: return QStringLiteral("App");
-    case AppKind::system: return QStringLiteral("System service");
-    case AppKind::tool: return QStringLiteral("Tool");
+    case AppKind::app: return Vexel::tr("App");
+    case AppKind::system: return Vexel::tr("System service");
+    case AppKind::tool: return Vexel::tr("Tool");
     }
     return {};
 }
@@ -50,8 +51,8 @@ AppInspector::AppInspector(QWidget* parent)
 
     auto* buttons = new QHBoxLayout;
     m_reveal = Look::button({}, this);
-    m_quit = Look::button(QStringLiteral("Quit…"), this);
-    m_forceQuit = Look::destructiveButton(QStringLiteral("Force Quit…"), this);
+    m_quit = Look::button(Vexel::tr("Quit…"), this);
+    m_forceQuit = Look::destructiveButton(Vexel::tr("Force Quit…"), this);
     buttons->addWidget(m_quit);
     buttons->addWidget(m_forceQuit);
     buttons->addStretch(1);
@@ -77,8 +78,7 @@ AppInspector::AppInspector(QWidget* parent)
         layout->addWidget(note);
 
     m_processes = new QTreeWidget(this);
-    m_processes->setHeaderLabels(
-        {QStringLiteral("Process"), QStringLiteral("PID"), QStringLiteral("CPU"), QStringLiteral("Memory")});
+    m_processes->setHeaderLabels({Vexel::tr("Process"), Vexel::tr("PID"), Vexel::tr("CPU"), Vexel::tr("Memory")});
     m_processes->setRootIsDecorated(false);
     m_processes->setFont(Look::font(11));
     m_processes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -92,14 +92,14 @@ AppInspector::AppInspector(QWidget* parent)
 
 void AppInspector::buildHangingSection(QVBoxLayout* layout)
 {
-    layout->addWidget(Look::heading(QStringLiteral("If it's hanging or busy"), this));
+    layout->addWidget(Look::heading(Vexel::tr("If it's hanging or busy"), this));
     const auto copy = [this](const std::string& command) {
         if (m_model)
             m_model->copyCommand(command);
     };
     m_sampleCommand = new CommandLine(this, copy);
     layout->addWidget(m_sampleCommand);
-    layout->addWidget(Look::explanation(QStringLiteral("Samples its call stacks for 5 seconds."), this));
+    layout->addWidget(Look::explanation(Vexel::tr("Samples its call stacks for 5 seconds."), this));
     m_reportCommand = new CommandLine(this, copy);
     layout->addWidget(m_reportCommand);
     m_reportNote = Look::explanation({}, this);
@@ -136,7 +136,7 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
     m_processes->clear();
     for (const auto& row : app.processes) {
         auto* item = new QTreeWidgetItem(m_processes);
-        item->setText(0, qs(row.name) + (row.zombie ? QStringLiteral(" (zombie)") : QString()));
+        item->setText(0, row.zombie ? Vexel::tr("%1 (zombie)").arg(qs(row.name)) : qs(row.name));
         item->setText(1, QString::number(row.pid));
         item->setText(2, qs(Fmt::cpu(row.cpu, cores)));
         item->setText(3, qs(Fmt::memory(row.memory)));

@@ -4,6 +4,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "pages/AppInspector.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -32,13 +33,13 @@ AppsPage::AppsPage(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 24);
     layout->setSpacing(10);
-    layout->addWidget(Look::pageTitle(QStringLiteral("Apps"), this));
+    layout->addWidget(Look::pageTitle(Vexel::tr("Apps"), this));
     layout->addWidget(Look::explanation(QStringLiteral("Apps, not processes: every helper process counted with its "
                                                        "app, processes grouped under the apps and services that "
                                                        "started them."),
         this));
     m_search = new QLineEdit(this);
-    m_search->setPlaceholderText(QStringLiteral("Find an app, process or PID"));
+    m_search->setPlaceholderText(Vexel::tr("Find an app, process or PID"));
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_search->setFont(Look::font(12));
@@ -52,7 +53,7 @@ AppsPage::AppsPage(QWidget* parent)
     body->setSpacing(18);
     auto* listColumn = new QVBoxLayout;
     m_list = new QTreeWidget(this);
-    m_list->setHeaderLabels({QStringLiteral("App"), QStringLiteral("CPU"), QStringLiteral("Memory")});
+    m_list->setHeaderLabels({Vexel::tr("App"), Vexel::tr("CPU"), Vexel::tr("Memory")});
     m_list->setRootIsDecorated(false);
     m_list->setFont(Look::font(12));
     m_list->setUniformRowHeights(true);
@@ -60,7 +61,7 @@ AppsPage::AppsPage(QWidget* parent)
     for (const int column : {Column::cpu, Column::memory})
         m_list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     listColumn->addWidget(m_list, 1);
-    m_noMatch = Look::centredNote(QStringLiteral("No app, process or PID matches."), this);
+    m_noMatch = Look::centredNote(Vexel::tr("No app, process or PID matches."), this);
     m_noMatch->hide();
     listColumn->addWidget(m_noMatch);
     body->addLayout(listColumn, 1);
@@ -71,7 +72,7 @@ AppsPage::AppsPage(QWidget* parent)
 
     m_side = new QStackedWidget(this);
     m_side->setFixedWidth(inspectorWidth);
-    m_side->addWidget(Look::centredNote(QStringLiteral("Select an app to see its processes."), m_side));
+    m_side->addWidget(Look::centredNote(Vexel::tr("Select an app to see its processes."), m_side));
     // The inspector scrolls: an app with many processes and notes is taller than the window.
     auto* scroll = new QScrollArea(m_side);
     scroll->setFrameShape(QFrame::NoFrame);

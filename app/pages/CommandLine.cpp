@@ -2,6 +2,7 @@
 
 #include "look/Buttons.h"
 #include "look/Labels.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,7 +25,7 @@ CommandLine::CommandLine(QWidget* parent, std::function<void(const std::string&)
     line->addWidget(m_command, 1);
     if (!copy)
         return;
-    auto* button = Look::button(QStringLiteral("Copy"), this);
+    auto* button = Look::button(Vexel::tr("Copy"), this);
     connect(
         button, &QPushButton::clicked, this, [this, copy = std::move(copy)] { copy(m_command->text().toStdString()); });
     line->addWidget(button, 0, Qt::AlignTop);

@@ -10,6 +10,7 @@
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -32,23 +33,23 @@ std::string coresCaption(const CPUStats& cpu)
 CpuPage::CpuPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("CPU"));
+    auto* column = scrollingColumn(Vexel::tr("CPU"));
     m_total = Look::figure(this);
     column->addWidget(m_total);
     m_split = Look::line(this);
     column->addWidget(m_split);
-    m_trace = new PaintedView(QStringLiteral("CPU, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("CPU, last few minutes"), QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
+    m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     column->addSpacing(6);
-    column->addWidget(Look::heading(QStringLiteral("Cores"), this));
+    column->addWidget(Look::heading(Vexel::tr("Cores"), this));
     m_coresCaption = Look::explanation({}, this);
     column->addWidget(m_coresCaption);
-    m_cores = new PaintedView(QStringLiteral("CPU per core"), QSize(480, 70), this);
+    m_cores = new PaintedView(Vexel::tr("CPU per core"), QSize(480, 70), this);
     column->addWidget(m_cores);
     column->addSpacing(6);
-    column->addWidget(Look::heading(QStringLiteral("Load"), this));
+    column->addWidget(Look::heading(Vexel::tr("Load"), this));
     m_load = Look::line(this);
     column->addWidget(m_load);
     m_loadNote = Look::explanation({}, this);
@@ -56,7 +57,7 @@ CpuPage::CpuPage(QWidget* parent)
     m_scale = Look::explanation({}, this);
     column->addWidget(m_scale);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Busiest apps"), this);
+    m_top = new TopApps(Vexel::tr("Busiest apps"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }

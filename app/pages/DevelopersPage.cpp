@@ -11,6 +11,7 @@
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -38,8 +39,8 @@ std::string vexelPath(Platform platform)
 DevelopersPage::DevelopersPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("Developers"));
-    column->addWidget(Look::explanation(QStringLiteral("Dev servers grouped by project folder."), this));
+    auto* column = scrollingColumn(Vexel::tr("Developers"));
+    column->addWidget(Look::explanation(Vexel::tr("Dev servers grouped by project folder."), this));
     m_serversHeading = Look::heading({}, this);
     column->addWidget(m_serversHeading);
     m_serversNote = Look::explanation({}, this);
@@ -49,15 +50,15 @@ DevelopersPage::DevelopersPage(QWidget* parent)
     column->addLayout(m_projects);
     column->addSpacing(8);
 
-    column->addWidget(Look::heading(QStringLiteral("Other listening ports"), this));
-    column->addWidget(Look::explanation(QStringLiteral("apps and services, not dev servers"), this));
+    column->addWidget(Look::heading(Vexel::tr("Other listening ports"), this));
+    column->addWidget(Look::explanation(Vexel::tr("apps and services, not dev servers"), this));
     m_ports = new FigureRows(this);
     column->addWidget(m_ports);
-    m_noPorts = Look::explanation(QStringLiteral("None."), this);
+    m_noPorts = Look::explanation(Vexel::tr("None."), this);
     column->addWidget(m_noPorts);
     column->addSpacing(8);
 
-    column->addWidget(Look::heading(QStringLiteral("Containers"), this));
+    column->addWidget(Look::heading(Vexel::tr("Containers"), this));
     m_dockerHeading = Look::line(this);
     column->addWidget(m_dockerHeading);
     m_dockerNote = Look::explanation({}, this);
@@ -71,7 +72,7 @@ DevelopersPage::DevelopersPage(QWidget* parent)
 
 void DevelopersPage::buildToolsSection(QVBoxLayout* column)
 {
-    column->addWidget(Look::heading(QStringLiteral("Command line and AI tools"), this));
+    column->addWidget(Look::heading(Vexel::tr("Command line and AI tools"), this));
     m_installNote = Look::explanation({}, this);
     column->addWidget(m_installNote);
     const auto copy = [this](const std::string& command) {
@@ -83,7 +84,7 @@ void DevelopersPage::buildToolsSection(QVBoxLayout* column)
     auto* status = new CommandLine(this);
     status->setText(QStringLiteral("vexel status"));
     column->addWidget(status);
-    column->addWidget(Look::explanation(QStringLiteral("Add the read-only MCP server to Claude Code:"), this));
+    column->addWidget(Look::explanation(Vexel::tr("Add the read-only MCP server to Claude Code:"), this));
     m_mcpCommand = new CommandLine(this, copy);
     column->addWidget(m_mcpCommand);
     column->addWidget(Look::explanation(QStringLiteral("Your assistant can ask what's busy, what happened overnight, "
@@ -121,15 +122,15 @@ void DevelopersPage::showServers(const AppModel& model)
     m_projectWidgets.clear();
     m_rows.clear();
     if (!model.serversLoaded) {
-        m_serversHeading->setText(QStringLiteral("Looking for servers…"));
+        m_serversHeading->setText(Vexel::tr("Looking for servers…"));
         m_serversNote->hide();
     } else if (model.servers.empty()) {
-        m_serversHeading->setText(QStringLiteral("No dev servers running."));
+        m_serversHeading->setText(Vexel::tr("No dev servers running."));
         m_serversNote->setText(QStringLiteral("When node, python, rails, a database or your own build listens on a "
                                               "port, it shows up here under its project."));
         m_serversNote->show();
     } else {
-        m_serversHeading->setText(QStringLiteral("Servers"));
+        m_serversHeading->setText(Vexel::tr("Servers"));
         m_serversNote->hide();
     }
     const std::string home = homeFolder();
@@ -170,21 +171,21 @@ void DevelopersPage::showDocker(const AppModel& model)
     const auto& docker = model.docker;
     m_dockerNote->hide();
     if (!docker) {
-        m_dockerHeading->setText(QStringLiteral("Looking for containers…"));
+        m_dockerHeading->setText(Vexel::tr("Looking for containers…"));
     } else if (docker->kind == DockerState::Kind::notInstalled) {
-        m_dockerHeading->setText(QStringLiteral("Docker isn't installed"));
+        m_dockerHeading->setText(Vexel::tr("Docker isn't installed"));
         m_dockerNote->setText(
             qs("Vexel looks for the docker command from " + PageTexts::dockerEngines(model.platform) + "."));
         m_dockerNote->show();
     } else if (docker->kind == DockerState::Kind::notRunning) {
-        m_dockerHeading->setText(QStringLiteral("Docker isn't running"));
+        m_dockerHeading->setText(Vexel::tr("Docker isn't running"));
         // The engine may run but refuse this user: then its own sentence says what to do.
         const bool refused = docker->message == DockerState::notAllowed().message;
         m_dockerNote->setText(
-            refused ? qs(docker->message) : QStringLiteral("Start Docker Desktop (or your engine) and this fills in."));
+            refused ? qs(docker->message) : Vexel::tr("Start Docker Desktop (or your engine) and this fills in."));
         m_dockerNote->show();
     } else if (docker->containers.empty()) {
-        m_dockerHeading->setText(QStringLiteral("Docker is running with no containers."));
+        m_dockerHeading->setText(Vexel::tr("Docker is running with no containers."));
     } else {
         m_dockerHeading->setText(qs(std::to_string(docker->containers.size())
             + (docker->containers.size() == 1 ? " container" : " containers")));

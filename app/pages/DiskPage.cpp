@@ -9,6 +9,7 @@
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -27,23 +28,23 @@ std::string rate(double bytesPerSecond)
 DiskPage::DiskPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("Disk"));
+    auto* column = scrollingColumn(Vexel::tr("Disk"));
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
-    column->addWidget(Look::explanation(QStringLiteral("Read"), this));
-    m_readTrace = new PaintedView(QStringLiteral("Disk reads, last few minutes"), QSize(480, 60), this);
+    column->addWidget(Look::explanation(Vexel::tr("Read"), this));
+    m_readTrace = new PaintedView(Vexel::tr("Disk reads, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_readTrace);
-    column->addWidget(Look::explanation(QStringLiteral("Write"), this));
-    m_writeTrace = new PaintedView(QStringLiteral("Disk writes, last few minutes"), QSize(480, 60), this);
+    column->addWidget(Look::explanation(Vexel::tr("Write"), this));
+    m_writeTrace = new PaintedView(Vexel::tr("Disk writes, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_writeTrace);
     column->addSpacing(6);
-    column->addWidget(Look::heading(QStringLiteral("Volumes"), this));
+    column->addWidget(Look::heading(Vexel::tr("Volumes"), this));
     m_volumes = new FigureRows(this);
     column->addWidget(m_volumes);
-    m_noVolumes = Look::explanation(QStringLiteral("No volumes could be read."), this);
+    m_noVolumes = Look::explanation(Vexel::tr("No volumes could be read."), this);
     column->addWidget(m_noVolumes);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Reading and writing most"), this);
+    m_top = new TopApps(Vexel::tr("Reading and writing most"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }

@@ -6,6 +6,7 @@
 #include "model/AppModel.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -15,14 +16,14 @@ namespace vexel {
 GpuPage::GpuPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("GPU"));
+    auto* column = scrollingColumn(Vexel::tr("GPU"));
     m_use = Look::figure(this);
     column->addWidget(m_use);
     m_name = Look::explanation({}, this);
     column->addWidget(m_name);
-    m_trace = new PaintedView(QStringLiteral("GPU, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("GPU, last few minutes"), QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
+    m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     m_unavailable = Look::line(this);
     column->addWidget(m_unavailable);

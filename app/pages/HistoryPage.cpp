@@ -10,6 +10,7 @@
 #include "model/AppModel.h"
 #include "pages/TimeTicks.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 #include "time/TimeZone.h"
 
 #include <QButtonGroup>
@@ -85,7 +86,7 @@ std::string spikeTime(const Spike& spike)
 HistoryPage::HistoryPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("History"));
+    auto* column = scrollingColumn(Vexel::tr("History"));
     auto* picker = new QHBoxLayout;
     picker->setSpacing(4);
     m_ranges = new QButtonGroup(this);
@@ -124,7 +125,7 @@ HistoryPage::HistoryPage(QWidget* parent)
     m_gapNote = Look::explanation({}, m_charts);
     charts->addWidget(m_gapNote);
     charts->addSpacing(6);
-    charts->addWidget(Look::heading(QStringLiteral("Spikes"), m_charts));
+    charts->addWidget(Look::heading(Vexel::tr("Spikes"), m_charts));
     m_spikes = new FigureRows(m_charts);
     charts->addWidget(m_spikes);
     m_noSpikes = Look::explanation(QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or "
@@ -132,7 +133,7 @@ HistoryPage::HistoryPage(QWidget* parent)
         m_charts);
     charts->addWidget(m_noSpikes);
     charts->addSpacing(6);
-    charts->addWidget(Look::heading(QStringLiteral("Core time by app"), m_charts));
+    charts->addWidget(Look::heading(Vexel::tr("Core time by app"), m_charts));
     m_coreTime = new FigureRows(m_charts);
     charts->addWidget(m_coreTime);
     charts->addWidget(
@@ -173,21 +174,21 @@ void HistoryPage::showModel(const AppModel& model)
     // A history that couldn't be read is said so, never shown as an empty one.
     if (!history || (history->error && history->points.empty())) {
         if (model.storeError)
-            showEmpty(QStringLiteral("History can't be read."), qs(*model.storeError));
+            showEmpty(Vexel::tr("History can't be read."), qs(*model.storeError));
         else
-            showEmpty(QStringLiteral("Reading the history…"), {});
+            showEmpty(Vexel::tr("Reading the history…"), {});
         return;
     }
     if (!history->first) {
-        showEmpty(QStringLiteral("History starts now."),
+        showEmpty(Vexel::tr("History starts now."),
             QStringLiteral("Vexel takes a reading every few seconds and keeps up to a year, thinning old readings to "
                            "hourly so the file stays small. Come back in a few minutes."));
         return;
     }
     if (history->points.empty()) {
         // History began inside this range but hasn't reached its tier yet; or the machine was away all of it.
-        showEmpty(*history->first >= history->from ? QStringLiteral("No samples yet for this range.")
-                                                   : QStringLiteral("Nothing recorded in this range."),
+        showEmpty(*history->first >= history->from ? Vexel::tr("No samples yet for this range.")
+                                                   : Vexel::tr("Nothing recorded in this range."),
             {});
         return;
     }

@@ -10,6 +10,7 @@
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -19,23 +20,23 @@ namespace vexel {
 MemoryPage::MemoryPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("Memory"));
+    auto* column = scrollingColumn(Vexel::tr("Memory"));
     m_used = Look::figure(this);
     column->addWidget(m_used);
     m_pressure = Look::line(this);
     column->addWidget(m_pressure);
-    m_trace = new PaintedView(QStringLiteral("Memory in use, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("Memory in use, last few minutes"), QSize(480, 90), this);
     column->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
+    m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);
     column->addSpacing(6);
-    column->addWidget(Look::heading(QStringLiteral("What's in memory"), this));
+    column->addWidget(Look::heading(Vexel::tr("What's in memory"), this));
     m_contents = new FigureRows(this);
     column->addWidget(m_contents);
     m_note = Look::explanation({}, this);
     column->addWidget(m_note);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Most memory"), this);
+    m_top = new TopApps(Vexel::tr("Most memory"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }
@@ -59,11 +60,11 @@ void MemoryPage::showModel(const AppModel& model)
         palette.setColor(QPalette::WindowText, Look::strainColour(this->palette(), strain));
     m_pressure->setPalette(palette);
     m_trace->draw(shareTrace(model.ring, &RingSample::mem, strain));
-    m_contents->setRows({{QStringLiteral("App memory"), qs(Fmt::memory(memory.app))},
-        {QStringLiteral("Wired"), qs(Fmt::memory(memory.wired))},
-        {QStringLiteral("Compressed"), qs(Fmt::memory(memory.compressed))},
-        {QStringLiteral("Cached files"), qs(Fmt::memory(memory.cached))},
-        {QStringLiteral("Free"), qs(Fmt::memory(memory.free))}});
+    m_contents->setRows(
+        {{Vexel::tr("App memory"), qs(Fmt::memory(memory.app))}, {Vexel::tr("Wired"), qs(Fmt::memory(memory.wired))},
+            {Vexel::tr("Compressed"), qs(Fmt::memory(memory.compressed))},
+            {Vexel::tr("Cached files"), qs(Fmt::memory(memory.cached))},
+            {Vexel::tr("Free"), qs(Fmt::memory(memory.free))}});
     m_note->setText(qs(PageTexts::memoryPressureNote(model.platform)));
     m_top->show(model, AppSort::memory, 8, [](const AppGroup& app) { return Fmt::memory(app.memory); });
     m_top->setNote(qs("Per-app memory is the footprint, " + PageTexts::likeTheSystemMonitor(model.platform) + "."));

@@ -7,6 +7,7 @@
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -16,19 +17,18 @@ namespace vexel {
 NetworkPage::NetworkPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("Network"));
+    auto* column = scrollingColumn(Vexel::tr("Network"));
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
-    column->addWidget(
-        Look::explanation(QStringLiteral("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), this));
-    column->addWidget(Look::explanation(QStringLiteral("Download"), this));
-    m_inTrace = new PaintedView(QStringLiteral("Download, last few minutes"), QSize(480, 60), this);
+    column->addWidget(Look::explanation(Vexel::tr("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), this));
+    column->addWidget(Look::explanation(Vexel::tr("Download"), this));
+    m_inTrace = new PaintedView(Vexel::tr("Download, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_inTrace);
-    column->addWidget(Look::explanation(QStringLiteral("Upload"), this));
-    m_outTrace = new PaintedView(QStringLiteral("Upload, last few minutes"), QSize(480, 60), this);
+    column->addWidget(Look::explanation(Vexel::tr("Upload"), this));
+    m_outTrace = new PaintedView(Vexel::tr("Upload, last few minutes"), QSize(480, 60), this);
     column->addWidget(m_outTrace);
     column->addSpacing(6);
-    m_top = new TopApps(QStringLiteral("Moving most"), this);
+    m_top = new TopApps(Vexel::tr("Moving most"), this);
     column->addWidget(m_top);
     column->addStretch(1);
 }

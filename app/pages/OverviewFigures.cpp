@@ -1,6 +1,7 @@
 #include "pages/OverviewFigures.h"
 
 #include "format/Fmt.h"
+#include "texts/Vexel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,25 +57,25 @@ std::array<Dial, 6> overviewDials(const AppModel& model)
     const auto unit = model.networkUnit();
     const double busy = system.cpu.user + system.cpu.system;
     dials[0] = {busy, share(model.peak(&RingSample::cpu)), model.strain(MenuItemKind::cpu), text(Fmt::percent(busy)),
-        QStringLiteral("CPU")};
+        Vexel::tr("CPU")};
     dials[1] = {system.memory.usedFraction(), share(model.peak(&RingSample::mem)), model.strain(MenuItemKind::memory),
-        text(Fmt::memory(system.memory.used())), QStringLiteral("Memory")};
+        text(Fmt::memory(system.memory.used())), Vexel::tr("Memory")};
     const double disk = system.disk.readRate + system.disk.writeRate;
     dials[2] = {rateFraction(disk), std::nullopt, model.strain(MenuItemKind::disk),
-        text(Fmt::rate(disk, Fmt::RateUnit::bytes)), QStringLiteral("Disk")};
+        text(Fmt::rate(disk, Fmt::RateUnit::bytes)), Vexel::tr("Disk")};
     const double net = system.net.inRate + system.net.outRate;
     dials[3] = {rateFraction(net), std::nullopt, model.strain(MenuItemKind::network), text(Fmt::rate(net, unit)),
-        QStringLiteral("Network")};
+        Vexel::tr("Network")};
     if (system.gpu)
         dials[4] = {system.gpu->utilisation, std::nullopt, model.strain(MenuItemKind::gpu),
-            text(Fmt::percent(system.gpu->utilisation)), QStringLiteral("GPU")};
+            text(Fmt::percent(system.gpu->utilisation)), Vexel::tr("GPU")};
     else
-        dials[4] = {0, std::nullopt, Strain::calm, QStringLiteral("—"), QStringLiteral("GPU")};
+        dials[4] = {0, std::nullopt, Strain::calm, QStringLiteral("—"), Vexel::tr("GPU")};
     if (system.battery)
         dials[5] = {system.battery->percent / 100.0, std::nullopt, model.strain(MenuItemKind::battery),
-            text(std::to_string(system.battery->percent) + "%"), QStringLiteral("Battery")};
+            text(std::to_string(system.battery->percent) + "%"), Vexel::tr("Battery")};
     else
-        dials[5] = {0, std::nullopt, Strain::calm, QStringLiteral("Mains"), QStringLiteral("Power")};
+        dials[5] = {0, std::nullopt, Strain::calm, Vexel::tr("Mains"), Vexel::tr("Power")};
     return dials;
 }
 

@@ -11,6 +11,7 @@
 #include "pages/OverviewFigures.h"
 #include "pages/TopApps.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -34,14 +35,14 @@ OverviewPage::OverviewPage(QWidget* parent)
     // Scrolls when the away card makes the page taller than the window.
     QWidget* inner = nullptr;
     auto* layout = scrollingColumn(&inner);
-    m_waiting = Look::centredNote(QStringLiteral("Taking the first reading…"), inner);
+    m_waiting = Look::centredNote(Vexel::tr("Taking the first reading…"), inner);
     layout->addWidget(m_waiting, 1);
 
     m_content = new QWidget(inner);
     auto* content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
     content->setSpacing(10);
-    content->addWidget(Look::pageTitle(QStringLiteral("Overview"), m_content));
+    content->addWidget(Look::pageTitle(Vexel::tr("Overview"), m_content));
     m_away = buildAwayCard();
     content->addWidget(m_away);
     auto* grid = new QGridLayout;
@@ -56,22 +57,22 @@ OverviewPage::OverviewPage(QWidget* parent)
     lower->setSpacing(28);
     auto* today = new QVBoxLayout;
     today->setSpacing(6);
-    today->addWidget(Look::heading(QStringLiteral("Today"), m_content));
+    today->addWidget(Look::heading(Vexel::tr("Today"), m_content));
     m_today = new QLabel(m_content);
     m_today->setFont(Look::font(11));
     m_today->setWordWrap(true);
     today->addWidget(m_today);
-    m_todayTrace = new PaintedView(QStringLiteral("CPU since midnight"), QSize(300, 56), m_content);
+    m_todayTrace = new PaintedView(Vexel::tr("CPU since midnight"), QSize(300, 56), m_content);
     today->addWidget(m_todayTrace);
-    today->addWidget(Look::explanation(QStringLiteral("CPU since midnight"), m_content));
+    today->addWidget(Look::explanation(Vexel::tr("CPU since midnight"), m_content));
     m_week = new PaintedView(
-        QStringLiteral("Data moved each day this week, as a share of the busiest day"), QSize(300, 40), m_content);
+        Vexel::tr("Data moved each day this week, as a share of the busiest day"), QSize(300, 40), m_content);
     today->addWidget(m_week);
-    today->addWidget(Look::explanation(QStringLiteral("Data moved each day this week, today at the right"), m_content));
+    today->addWidget(Look::explanation(Vexel::tr("Data moved each day this week, today at the right"), m_content));
     today->addStretch(1);
     lower->addLayout(today, 3);
     auto* busiest = new QVBoxLayout;
-    m_busiest = new TopApps(QStringLiteral("Busiest apps"), m_content);
+    m_busiest = new TopApps(Vexel::tr("Busiest apps"), m_content);
     busiest->addWidget(m_busiest);
     busiest->addStretch(1);
     lower->addLayout(busiest, 2);
@@ -142,7 +143,7 @@ QWidget* OverviewPage::buildAwayCard()
     auto* top = new QHBoxLayout;
     m_awayTitle = Look::heading({}, card);
     top->addWidget(m_awayTitle, 1);
-    auto* dismiss = Look::button(QStringLiteral("Dismiss"), card);
+    auto* dismiss = Look::button(Vexel::tr("Dismiss"), card);
     connect(dismiss, &QPushButton::clicked, this, &OverviewPage::dismissAway);
     top->addWidget(dismiss);
     layout->addLayout(top);
@@ -157,7 +158,7 @@ void OverviewPage::showAway(const AppModel& model)
     m_away->setVisible(model.awaySince.has_value());
     if (!model.awaySince)
         return;
-    m_awayTitle->setText(QStringLiteral("While you were away"));
+    m_awayTitle->setText(Vexel::tr("While you were away"));
     QStringList lines;
     for (const auto& spike : model.awaySpikes) {
         // Most summaries name the app already.

@@ -10,6 +10,7 @@
 #include "pages/TopApps.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -34,8 +35,8 @@ std::string stateOf(const BatteryStats& battery)
 PowerPage::PowerPage(QWidget* parent)
     : Page(parent)
 {
-    auto* column = scrollingColumn(QStringLiteral("Power & Heat"));
-    column->addWidget(Look::heading(QStringLiteral("Battery"), this));
+    auto* column = scrollingColumn(Vexel::tr("Power & Heat"));
+    column->addWidget(Look::heading(Vexel::tr("Battery"), this));
     m_charge = Look::figure(this);
     column->addWidget(m_charge);
     m_state = Look::line(this);
@@ -47,10 +48,10 @@ PowerPage::PowerPage(QWidget* parent)
         this);
     column->addWidget(m_capacityNote);
     column->addSpacing(8);
-    column->addWidget(Look::heading(QStringLiteral("Heat"), this));
+    column->addWidget(Look::heading(Vexel::tr("Heat"), this));
     m_thermal = Look::line(this);
     column->addWidget(m_thermal);
-    m_scale = new PaintedView(QStringLiteral("Thermal state"), QSize(420, 36), this);
+    m_scale = new PaintedView(Vexel::tr("Thermal state"), QSize(420, 36), this);
     column->addWidget(m_scale);
     m_thermalNote = Look::explanation({}, this);
     column->addWidget(m_thermalNote);
@@ -59,7 +60,7 @@ PowerPage::PowerPage(QWidget* parent)
     m_noSensors = Look::explanation({}, this);
     column->addWidget(m_noSensors);
     column->addSpacing(8);
-    m_energy = new TopApps(QStringLiteral("Using most energy"), this);
+    m_energy = new TopApps(Vexel::tr("Using most energy"), this);
     column->addWidget(m_energy);
     column->addStretch(1);
 }
@@ -133,14 +134,14 @@ void PowerPage::showBattery(const AppModel& model)
     m_state->setText(qs(stateOf(*battery)));
     FigureRows::Rows rows;
     if (battery->powerW)
-        rows.emplace_back(*battery->powerW < 0 ? QStringLiteral("Drawing") : QStringLiteral("Charging at"),
+        rows.emplace_back(*battery->powerW < 0 ? Vexel::tr("Drawing") : Vexel::tr("Charging at"),
             qs(Fmt::watts(std::abs(*battery->powerW))));
     if (const auto health = battery->health())
-        rows.emplace_back(QStringLiteral("Capacity left"), qs(Fmt::percent(*health)));
+        rows.emplace_back(Vexel::tr("Capacity left"), qs(Fmt::percent(*health)));
     if (battery->cycles)
-        rows.emplace_back(QStringLiteral("Charge cycles"), QString::number(*battery->cycles));
+        rows.emplace_back(Vexel::tr("Charge cycles"), QString::number(*battery->cycles));
     if (battery->condition)
-        rows.emplace_back(QStringLiteral("Condition"), qs(*battery->condition));
+        rows.emplace_back(Vexel::tr("Condition"), qs(*battery->condition));
     m_battery->setRows(rows);
 }
 

@@ -8,6 +8,7 @@
 #include "model/AppModel.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -55,7 +56,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
         m_summary += qs("\n" + idle);
     }
     if (std::ranges::any_of(server.sockets, reachableFromNetwork)) {
-        const QString reachable = QStringLiteral("Reachable from other devices on your network");
+        const QString reachable = Vexel::tr("Reachable from other devices on your network");
         layout->addWidget(Look::explanation(reachable, this));
         m_summary += "\n" + reachable;
     }
@@ -71,7 +72,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
         buttons->addWidget(copy);
     }
     if (server.cwd) {
-        auto* reveal = Look::button(QStringLiteral("Reveal Working Folder"), this);
+        auto* reveal = Look::button(Vexel::tr("Reveal Working Folder"), this);
         connect(reveal, &QPushButton::clicked, this, [this, folder = *server.cwd] {
             if (m_model)
                 m_model->reveal(folder);
@@ -81,8 +82,8 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
     std::vector<std::string> context{"Project: " + server.project.name};
     if (!server.ports.empty())
         context.insert(context.begin(), "Listening on " + portsOf(server));
-    auto* stop = Look::button(QStringLiteral("Stop…"), this);
-    auto* force = Look::destructiveButton(QStringLiteral("Force Stop…"), this);
+    auto* stop = Look::button(Vexel::tr("Stop…"), this);
+    auto* force = Look::destructiveButton(Vexel::tr("Force Stop…"), this);
     const auto ask = [this, pid = server.pid, display = server.name, context](bool forced) {
         if (m_model)
             m_model->actions().requestStop(pid, display, context, forced);

@@ -4,6 +4,7 @@
 #include "look/FigureRows.h"
 #include "look/Labels.h"
 #include "model/AppModel.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -19,7 +20,7 @@ TopApps::TopApps(const QString& heading, QWidget* parent)
     layout->addWidget(Look::heading(heading, this));
     m_rows = new FigureRows(this);
     layout->addWidget(m_rows);
-    m_empty = Look::explanation(QStringLiteral("No app is using any right now."), this);
+    m_empty = Look::explanation(Vexel::tr("No app is using any right now."), this);
     m_empty->hide();
     layout->addWidget(m_empty);
     m_note = Look::explanation({}, this);

@@ -6,6 +6,7 @@
 #include "panel/MenuReading.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QCursor>
 #include <QDateTime>
@@ -122,12 +123,12 @@ void MenuBarController::add(MenuItemKind kind)
     auto* menu = new QMenu;
     menu->addAction(QString())->setEnabled(false); // the reading, kept up to date
     menu->addSeparator();
-    connect(menu->addAction(QStringLiteral("Open Vexel Window")), &QAction::triggered, this,
-        [this] { m_actions.openWindow(); });
+    connect(
+        menu->addAction(Vexel::tr("Open Vexel Window")), &QAction::triggered, this, [this] { m_actions.openWindow(); });
     connect(menu->addAction(qs(PageTexts::panelSettings(m_model.platform))), &QAction::triggered, this,
         [this] { m_actions.openPanelSettings(); });
     menu->addSeparator();
-    connect(menu->addAction(QStringLiteral("Quit Vexel")), &QAction::triggered, this, [this] { m_actions.quit(); });
+    connect(menu->addAction(Vexel::tr("Quit Vexel")), &QAction::triggered, this, [this] { m_actions.quit(); });
     item->setContextMenu(menu);
     connect(item, &QSystemTrayIcon::activated, this, [this, kind](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

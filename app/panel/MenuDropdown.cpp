@@ -14,6 +14,7 @@
 #include "panel/MenuReading.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -45,7 +46,7 @@ Dial dialOf(const AppModel& model, MenuItemKind kind)
     case MenuItemKind::thermal: break;
     }
     const ThermalLevel level = model.frame ? model.frame->system.thermal : ThermalLevel::nominal;
-    return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), qs(title(level)), QStringLiteral("Heat")};
+    return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), qs(title(level)), Vexel::tr("Heat")};
 }
 
 FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
@@ -82,9 +83,9 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
             return {};
         return {{"Charge", qs(std::to_string(system.battery->percent) + "%")},
             {"State",
-                system.battery->charging   ? QStringLiteral("Charging")
-                    : system.battery->onAC ? QStringLiteral("On power adapter")
-                                           : QStringLiteral("On battery")}};
+                system.battery->charging   ? Vexel::tr("Charging")
+                    : system.battery->onAC ? Vexel::tr("On power adapter")
+                                           : Vexel::tr("On battery")}};
     case MenuItemKind::thermal: {
         FigureRows::Rows rows{{"Level", qs(title(system.thermal))}};
         // The hottest sensors, where the system reports them.
@@ -108,7 +109,7 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     , m_kind(kind)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(qs(title(kind)) + QStringLiteral(" — Vexel"));
+    setWindowTitle(Vexel::tr("%1 — Vexel").arg(qs(title(kind))));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setFixedWidth(340);
@@ -123,16 +124,16 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     m_readouts = new FigureRows(this);
     top->addWidget(m_readouts, 1);
     layout->addLayout(top);
-    m_trace = new PaintedView(qs(title(kind)) + QStringLiteral(", last few minutes"), QSize(308, 44), this);
+    m_trace = new PaintedView(Vexel::tr("%1, last few minutes").arg(qs(title(kind))), QSize(308, 44), this);
     layout->addWidget(m_trace);
-    m_traceCaption = Look::explanation(QStringLiteral("Last few minutes"), this);
+    m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     layout->addWidget(m_traceCaption);
-    m_apps = new TopApps(QStringLiteral("Apps"), this);
+    m_apps = new TopApps(Vexel::tr("Apps"), this);
     layout->addWidget(m_apps);
     m_note = Look::explanation({}, this);
     layout->addWidget(m_note);
     auto* buttons = new QHBoxLayout;
-    auto* open = Look::button(QStringLiteral("Open Vexel Window"), this);
+    auto* open = Look::button(Vexel::tr("Open Vexel Window"), this);
     auto* settings = Look::button(qs(PageTexts::panelSettings(model.platform)), this);
     buttons->addWidget(open);
     buttons->addWidget(settings);

@@ -3,6 +3,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "settings/ChoiceBox.h"
+#include "texts/Vexel.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -36,32 +37,31 @@ ChoiceBox::Choices megabytes(std::initializer_list<int> values)
 AlertsTab::AlertsTab(QWidget* parent)
     : SettingsTab(parent)
 {
-    auto* amber = section(QStringLiteral("When readings turn amber and red"));
+    auto* amber = section(Vexel::tr("When readings turn amber and red"));
     m_diskAmber = new ChoiceBox(percents({5, 10, 15, 20, 25}, 100), this);
-    amber->addRow(label(QStringLiteral("Disk amber below")), m_diskAmber);
+    amber->addRow(label(Vexel::tr("Disk amber below")), m_diskAmber);
     m_batteryAmber = new ChoiceBox(percents({10, 15, 20, 25, 30, 40}, 1), this);
-    amber->addRow(label(QStringLiteral("Battery amber at")), m_batteryAmber);
+    amber->addRow(label(Vexel::tr("Battery amber at")), m_batteryAmber);
     ChoiceBox::Choices falling;
     for (const int drop : {5, 8, 10, 12, 15, 20, 25})
         falling.emplace_back(QString::number(drop) + "% within an hour", drop);
     m_batteryFalling = new ChoiceBox(falling, this);
-    amber->addRow(label(QStringLiteral("Battery falling")), m_batteryFalling);
+    amber->addRow(label(Vexel::tr("Battery falling")), m_batteryFalling);
     m_amberNote = Look::explanation({}, this);
     column()->insertWidget(column()->count() - 1, m_amberNote);
 
-    auto* spikes = section(QStringLiteral("What counts as a spike in History"),
-        QStringLiteral("Spikes are what History and “While you were away” list, each with the app most responsible."));
+    auto* spikes = section(Vexel::tr("What counts as a spike in History"),
+        Vexel::tr("Spikes are what History and “While you were away” list, each with the app most responsible."));
     m_cpuSpike = new ChoiceBox(percents({50, 60, 70, 80, 90}, 100), this);
-    spikes->addRow(label(QStringLiteral("CPU above")), m_cpuSpike);
-    m_cpuMinutes = new ChoiceBox(
-        {{QStringLiteral("1 minute"), 1}, {QStringLiteral("2 minutes"), 2}, {QStringLiteral("3 minutes"), 3},
-            {QStringLiteral("5 minutes"), 5}, {QStringLiteral("10 minutes"), 10}},
+    spikes->addRow(label(Vexel::tr("CPU above")), m_cpuSpike);
+    m_cpuMinutes = new ChoiceBox({{Vexel::tr("1 minute"), 1}, {Vexel::tr("2 minutes"), 2}, {Vexel::tr("3 minutes"), 3},
+                                     {Vexel::tr("5 minutes"), 5}, {Vexel::tr("10 minutes"), 10}},
         this);
-    spikes->addRow(label(QStringLiteral("for at least")), m_cpuMinutes);
+    spikes->addRow(label(Vexel::tr("for at least")), m_cpuMinutes);
     m_diskSpike = new ChoiceBox(megabytes({50, 100, 150, 300, 500, 1000}), this);
-    spikes->addRow(label(QStringLiteral("Disk writes per minute above")), m_diskSpike);
+    spikes->addRow(label(Vexel::tr("Disk writes per minute above")), m_diskSpike);
     m_netSpike = new ChoiceBox(megabytes({20, 60, 120, 300, 600}), this);
-    spikes->addRow(label(QStringLiteral("Network per minute above")), m_netSpike);
+    spikes->addRow(label(Vexel::tr("Network per minute above")), m_netSpike);
     column()->addStretch(1);
 
     const auto on = [this](ChoiceBox* box, std::function<void(VexelSettings&, double)> edit) {

@@ -6,6 +6,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "settings/ChoiceBox.h"
+#include "texts/Vexel.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -18,24 +19,23 @@ DeveloperTab::DeveloperTab(Places places, QWidget* parent)
     : SettingsTab(parent)
     , m_places(std::move(places))
 {
-    auto* servers = section(QStringLiteral("Dev servers"),
+    auto* servers = section(Vexel::tr("Dev servers"),
         QStringLiteral("A server counts as idle when it hasn't used any CPU (served a request, rebuilt) for this long. "
                        "Vexel only flags it — stopping is always up to you, and it asks first."));
-    m_idle
-        = new ChoiceBox({{QStringLiteral("12 hours"), 0.5}, {QStringLiteral("1 day"), 1}, {QStringLiteral("2 days"), 2},
-                            {QStringLiteral("3 days"), 3}, {QStringLiteral("1 week"), 7}},
-            this);
-    servers->addRow(label(QStringLiteral("Flag servers idle for")), m_idle);
+    m_idle = new ChoiceBox({{Vexel::tr("12 hours"), 0.5}, {Vexel::tr("1 day"), 1}, {Vexel::tr("2 days"), 2},
+                               {Vexel::tr("3 days"), 3}, {Vexel::tr("1 week"), 7}},
+        this);
+    servers->addRow(label(Vexel::tr("Flag servers idle for")), m_idle);
     connect(m_idle, &QComboBox::currentIndexChanged, this,
         [this] { change([this](VexelSettings& settings) { settings.idleDays = m_idle->value(); }); });
 
-    column()->addWidget(Look::heading(QStringLiteral("Command line and MCP"), this));
-    auto* install = Look::button(QStringLiteral("Install Command"), this);
+    column()->addWidget(Look::heading(Vexel::tr("Command line and MCP"), this));
+    auto* install = Look::button(Vexel::tr("Install Command"), this);
     column()->addWidget(install, 0, Qt::AlignLeft);
-    column()->addWidget(Look::explanation(QStringLiteral("Installs the vexel command (read-only)."), this));
-    auto* claude = Look::button(QStringLiteral("Add to Claude Code"), this);
+    column()->addWidget(Look::explanation(Vexel::tr("Installs the vexel command (read-only)."), this));
+    auto* claude = Look::button(Vexel::tr("Add to Claude Code"), this);
     column()->addWidget(claude, 0, Qt::AlignLeft);
-    column()->addWidget(Look::explanation(QStringLiteral("Adds Vexel's read-only MCP server to Claude Code."), this));
+    column()->addWidget(Look::explanation(Vexel::tr("Adds Vexel's read-only MCP server to Claude Code."), this));
     m_install = install;
     m_claude = claude;
     m_outcome = Look::line(this);
@@ -56,14 +56,14 @@ void DeveloperTab::showModel(const AppModel& model)
 
 void DeveloperTab::installCommand()
 {
-    runStep(m_install, QStringLiteral("Installing…"),
+    runStep(m_install, Vexel::tr("Installing…"),
         [places = m_places] { return CommandLineSetup::installCommand(places.vexel, places.home); });
 }
 
 void DeveloperTab::addToClaude()
 {
     // claude may take seconds to answer (it is given twenty).
-    runStep(m_claude, QStringLiteral("Adding…"),
+    runStep(m_claude, Vexel::tr("Adding…"),
         [places = m_places] { return CommandLineSetup::addToClaude(places.findClaude(), places.home); });
 }
 

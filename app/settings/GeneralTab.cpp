@@ -6,6 +6,7 @@
 #include "model/AppModel.h"
 #include "settings/ChoiceBox.h"
 #include "texts/PageTexts.h"
+#include "texts/Vexel.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -18,11 +19,11 @@ namespace vexel {
 GeneralTab::GeneralTab(QWidget* parent)
     : SettingsTab(parent)
 {
-    auto* reading = section(QStringLiteral("Readings"));
-    m_interval = new ChoiceBox(
-        {{QStringLiteral("2 seconds"), 2}, {QStringLiteral("3 seconds"), 3}, {QStringLiteral("5 seconds"), 5},
-            {QStringLiteral("10 seconds"), 10}, {QStringLiteral("30 seconds"), 30}, {QStringLiteral("1 minute"), 60}},
-        this);
+    auto* reading = section(Vexel::tr("Readings"));
+    m_interval
+        = new ChoiceBox({{Vexel::tr("2 seconds"), 2}, {Vexel::tr("3 seconds"), 3}, {Vexel::tr("5 seconds"), 5},
+                            {Vexel::tr("10 seconds"), 10}, {Vexel::tr("30 seconds"), 30}, {Vexel::tr("1 minute"), 60}},
+            this);
     m_intervalLabel = label({});
     reading->addRow(m_intervalLabel, m_interval);
     m_intervalNote = Look::explanation({}, this);
@@ -30,7 +31,7 @@ GeneralTab::GeneralTab(QWidget* parent)
     connect(m_interval, &QComboBox::currentIndexChanged, this,
         [this] { change([this](VexelSettings& settings) { settings.sampleSeconds = m_interval->value(); }); });
 
-    section(QStringLiteral("CPU figures"));
+    section(Vexel::tr("CPU figures"));
     m_wholeMachine = new QRadioButton(this);
     m_perCore = new QRadioButton(this);
     column()->addWidget(m_wholeMachine);
@@ -38,13 +39,13 @@ GeneralTab::GeneralTab(QWidget* parent)
     connect(m_perCore, &QRadioButton::toggled, this, [this](bool perCore) {
         change([perCore](VexelSettings& settings) { settings.cpuScale = perCore ? CPUScale::core : CPUScale::mac; });
     });
-    m_bits = new QCheckBox(QStringLiteral("Show network rates in bits (Mb/s)"), this);
+    m_bits = new QCheckBox(Vexel::tr("Show network rates in bits (Mb/s)"), this);
     column()->addWidget(m_bits);
     connect(m_bits, &QCheckBox::toggled, this,
         [this](bool bits) { change([bits](VexelSettings& settings) { settings.networkBits = bits; }); });
 
     column()->addSpacing(8);
-    m_atLogin = new QCheckBox(QStringLiteral("Open Vexel at login"), this);
+    m_atLogin = new QCheckBox(Vexel::tr("Open Vexel at login"), this);
     column()->addWidget(m_atLogin);
     m_loginError = Look::explanation({}, this);
     m_loginError->setForegroundRole(QPalette::WindowText);

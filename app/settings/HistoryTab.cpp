@@ -5,6 +5,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "settings/ChoiceBox.h"
+#include "texts/Vexel.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -16,22 +17,20 @@ namespace vexel {
 HistoryTab::HistoryTab(QWidget* parent)
     : SettingsTab(parent)
 {
-    auto* form = section(QStringLiteral("History"),
+    auto* form = section(Vexel::tr("History"),
         QStringLiteral("Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes "
                        "for 5 weeks and hourly after that — so a year stays small."));
-    m_keep = new ChoiceBox(
-        {{QStringLiteral("1 week"), 7}, {QStringLiteral("1 month"), 30}, {QStringLiteral("3 months"), 91},
-            {QStringLiteral("6 months"), 182}, {QStringLiteral("1 year"), 365}},
+    m_keep = new ChoiceBox({{Vexel::tr("1 week"), 7}, {Vexel::tr("1 month"), 30}, {Vexel::tr("3 months"), 91},
+                               {Vexel::tr("6 months"), 182}, {Vexel::tr("1 year"), 365}},
         this);
-    form->addRow(label(QStringLiteral("Keep history for")), m_keep);
-    m_cap = new ChoiceBox(
-        {{QStringLiteral("16 MB"), 16}, {QStringLiteral("32 MB"), 32}, {QStringLiteral("64 MB"), 64},
-            {QStringLiteral("128 MB"), 128}, {QStringLiteral("256 MB"), 256}, {QStringLiteral("512 MB"), 512}},
+    form->addRow(label(Vexel::tr("Keep history for")), m_keep);
+    m_cap = new ChoiceBox({{Vexel::tr("16 MB"), 16}, {Vexel::tr("32 MB"), 32}, {Vexel::tr("64 MB"), 64},
+                              {Vexel::tr("128 MB"), 128}, {Vexel::tr("256 MB"), 256}, {Vexel::tr("512 MB"), 512}},
         this);
-    form->addRow(label(QStringLiteral("Never let the file grow past")), m_cap);
+    form->addRow(label(Vexel::tr("Never let the file grow past")), m_cap);
     m_size = Look::line(this);
     column()->addWidget(m_size);
-    auto* erase = Look::destructiveButton(QStringLiteral("Erase History…"), this);
+    auto* erase = Look::destructiveButton(Vexel::tr("Erase History…"), this);
     column()->addWidget(erase, 0, Qt::AlignLeft);
     column()->addStretch(1);
     connect(erase, &QPushButton::clicked, this, &HistoryTab::erase);

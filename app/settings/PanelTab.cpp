@@ -4,6 +4,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "texts/QtText.h"
+#include "texts/Vexel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -27,7 +28,7 @@ PanelTab::PanelTab(QWidget* parent)
     column()->addLayout(m_grid);
     m_keeps = Look::explanation({}, this);
     column()->addWidget(m_keeps);
-    auto* restore = Look::button(QStringLiteral("Restore Defaults"), this);
+    auto* restore = Look::button(Vexel::tr("Restore Defaults"), this);
     connect(restore, &QPushButton::clicked, this, &PanelTab::restoreDefaults);
     column()->addWidget(restore, 0, Qt::AlignLeft);
     column()->addStretch(1);
@@ -52,7 +53,7 @@ void PanelTab::showModel(const AppModel& model)
 {
     m_filling = true;
     const bool mac = model.platform == Platform::macOS;
-    m_heading->setText(mac ? QStringLiteral("Readings in the menu bar") : QStringLiteral("Readings in the panel"));
+    m_heading->setText(mac ? Vexel::tr("Readings in the menu bar") : Vexel::tr("Readings in the panel"));
     m_note->setText(mac ? QStringLiteral("Each reading is its own item, shown left to right in this order. Use the "
                                          "arrows to reorder. A reading turns amber or red in the menu bar when it's "
                                          "under strain; thresholds are in Alerts.")

@@ -5,6 +5,7 @@
 #include "settings/GeneralTab.h"
 #include "settings/HistoryTab.h"
 #include "settings/PanelTab.h"
+#include "texts/Vexel.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -16,7 +17,7 @@ namespace vexel {
 SettingsWindow::SettingsWindow(DeveloperTab::Places places, QWidget* parent)
     : QWidget(parent, Qt::Window)
 {
-    setWindowTitle(QStringLiteral("Vexel Settings"));
+    setWindowTitle(Vexel::tr("Vexel Settings"));
     setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
@@ -24,8 +25,8 @@ SettingsWindow::SettingsWindow(DeveloperTab::Places places, QWidget* parent)
     m_tabs->setFont(Look::font(12));
     m_pages = {new GeneralTab(m_tabs), new PanelTab(m_tabs), new AlertsTab(m_tabs), new HistoryTab(m_tabs),
         new DeveloperTab(std::move(places), m_tabs)};
-    const QStringList titles{QStringLiteral("General"), QStringLiteral("Panel"), QStringLiteral("Alerts"),
-        QStringLiteral("History"), QStringLiteral("Developer")};
+    const QStringList titles{
+        Vexel::tr("General"), Vexel::tr("Panel"), Vexel::tr("Alerts"), Vexel::tr("History"), Vexel::tr("Developer")};
     for (size_t i = 0; i < m_pages.size(); ++i)
         m_tabs->addTab(m_pages[i], titles[static_cast<int>(i)]);
     layout->addWidget(m_tabs);
@@ -35,8 +36,8 @@ SettingsWindow::SettingsWindow(DeveloperTab::Places places, QWidget* parent)
 void SettingsWindow::bind(AppModel& model)
 {
     // The menu bar of a Mac is the panel of a Linux desktop.
-    m_tabs->setTabText(static_cast<int>(Tab::panel),
-        model.platform == Platform::macOS ? QStringLiteral("Menu Bar") : QStringLiteral("Panel"));
+    m_tabs->setTabText(
+        static_cast<int>(Tab::panel), model.platform == Platform::macOS ? Vexel::tr("Menu Bar") : Vexel::tr("Panel"));
     for (auto* page : m_pages) {
         page->attach(model);
         page->showModel(model);

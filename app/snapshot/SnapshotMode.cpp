@@ -11,6 +11,7 @@
 #include "settings/SettingsWindow.h"
 #include "snapshot/DemoHistoryFill.h"
 #include "synth/DemoWorld.h"
+#include "texts/PseudoLocale.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -234,6 +235,7 @@ std::optional<SnapshotOptions> SnapshotOptions::from(
     }
     const auto stay = getenv("VEXEL_SNAPSHOT_STAY");
     options.stay = stay && !stay->empty() && *stay != "0";
+    options.pseudoLocale = getenv("VEXEL_SNAPSHOT_LOCALE") == std::optional<std::string>("pseudo");
     return options;
 }
 
@@ -262,6 +264,9 @@ int runSnapshotMode(const SnapshotOptions& options)
     // The house style, font and palettes: pictures look the same on every machine.
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
+    PseudoLocale pseudo;
+    if (options.pseudoLocale)
+        QCoreApplication::installTranslator(&pseudo);
     std::error_code error;
     std::filesystem::create_directories(options.folder, error);
     QTemporaryDir data;

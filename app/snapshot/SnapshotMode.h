@@ -14,11 +14,14 @@ namespace vexel {
 // Pictures of the app on the demo world, for the README and for looking at
 // what a change did: VEXEL_SNAPSHOT_DIR names the folder, VEXEL_SNAPSHOT_ONLY
 // the pictures wanted (names or name prefixes, separated by commas or
-// blanks), VEXEL_SNAPSHOT_STAY keeps the app open afterwards.
+// blanks), VEXEL_SNAPSHOT_STAY keeps the app open afterwards, and
+// VEXEL_SNAPSHOT_LOCALE=pseudo draws them in the pseudo-language, every
+// translatable sentence wrapped and a third longer.
 struct SnapshotOptions {
     std::filesystem::path folder;
     std::set<std::string> only; // empty: every picture
     bool stay = false;
+    bool pseudoLocale = false;
 
     // The options of this environment; nothing without VEXEL_SNAPSHOT_DIR.
     [[nodiscard]] static std::optional<SnapshotOptions> from(
