@@ -201,6 +201,7 @@ int runDesktopApp(int& argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Vexel"));
     QApplication::setDesktopFileName(QStringLiteral("dev.vexel.Vexel"));
     QApplication::setWindowIcon(vexelIcon());
+    Translations::installEnglish();
     if (snapshot)
         return runSnapshotMode(*snapshot);
     // In the user's language where Vexel has been translated into it.

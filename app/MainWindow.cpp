@@ -143,7 +143,7 @@ QWidget* MainWindow::buildSidebar()
     m_sidebar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const auto route : allRoutes) {
-        auto* item = new QListWidgetItem(QString::fromStdString(title(route)), m_sidebar);
+        auto* item = new QListWidgetItem(title(route), m_sidebar);
         item->setToolTip(QString::fromStdString(shortcut(route)));
         item->setData(Qt::UserRole, QString::fromStdString(identifier(route)));
     }

@@ -1,5 +1,7 @@
 #include "Route.h"
 
+#include "texts/Vexel.h"
+
 namespace vexel {
 
 namespace {
@@ -11,16 +13,16 @@ struct RouteInfo {
 };
 
 constexpr std::array<RouteInfo, 10> routes{{
-    {"overview", "Overview", "view-grid"},
-    {"apps", "Apps", "applications-other"},
-    {"cpu", "CPU", "cpu"},
-    {"memory", "Memory", "memory"},
-    {"disk", "Disk", "drive-harddisk"},
-    {"network", "Network", "network-transmit-receive"},
-    {"gpu", "GPU", "video-display"},
-    {"power", "Power & Heat", "battery"},
-    {"history", "History", "document-open-recent"},
-    {"developers", "Developers", "utilities-terminal"},
+    {"overview", QT_TRANSLATE_NOOP("vexel::Vexel", "Overview"), "view-grid"},
+    {"apps", QT_TRANSLATE_NOOP("vexel::Vexel", "Apps"), "applications-other"},
+    {"cpu", QT_TRANSLATE_NOOP("vexel::Vexel", "CPU"), "cpu"},
+    {"memory", QT_TRANSLATE_NOOP("vexel::Vexel", "Memory"), "memory"},
+    {"disk", QT_TRANSLATE_NOOP("vexel::Vexel", "Disk"), "drive-harddisk"},
+    {"network", QT_TRANSLATE_NOOP("vexel::Vexel", "Network"), "network-transmit-receive"},
+    {"gpu", QT_TRANSLATE_NOOP("vexel::Vexel", "GPU"), "video-display"},
+    {"power", QT_TRANSLATE_NOOP("vexel::Vexel", "Power & Heat"), "battery"},
+    {"history", QT_TRANSLATE_NOOP("vexel::Vexel", "History"), "document-open-recent"},
+    {"developers", QT_TRANSLATE_NOOP("vexel::Vexel", "Developers"), "utilities-terminal"},
 }};
 
 const RouteInfo& info(Route route)
@@ -44,9 +46,9 @@ std::optional<Route> routeFromIdentifier(std::string_view id)
     return std::nullopt;
 }
 
-std::string title(Route route)
+QString title(Route route)
 {
-    return info(route).title;
+    return Vexel::tr(info(route).title);
 }
 
 std::string symbolName(Route route)

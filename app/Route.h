@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+class QString;
+
 namespace vexel {
 
 // The pages of the main window, in sidebar order.
@@ -17,7 +19,7 @@ inline constexpr std::array<Route, 10> allRoutes{Route::overview, Route::apps, R
 [[nodiscard]] std::string identifier(Route route);
 [[nodiscard]] std::optional<Route> routeFromIdentifier(std::string_view identifier);
 // The sidebar title ("Overview", "Power & Heat"…).
-[[nodiscard]] std::string title(Route route);
+[[nodiscard]] QString title(Route route);
 // The freedesktop icon name shown beside the title.
 [[nodiscard]] std::string symbolName(Route route);
 // The keyboard shortcut that opens the page ("Ctrl+1" … "Ctrl+0").

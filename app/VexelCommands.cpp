@@ -60,8 +60,7 @@ VexelCommands::VexelCommands(MainWindow& window, AppModel& model, std::function<
 
     auto* go = m_bar->addMenu(Vexel::tr("&Go"));
     for (const auto route : allRoutes) {
-        auto* action = go->addAction(
-            withMnemonic(QString::fromStdString(title(route)), QChar(routeKeys.at(static_cast<size_t>(route)))));
+        auto* action = go->addAction(withMnemonic(title(route), QChar(routeKeys.at(static_cast<size_t>(route)))));
         action->setShortcut(QKeySequence(QString::fromStdString(shortcut(route))));
         connect(action, &QAction::triggered, &window, [&window, route] { window.showRoute(route); });
     }

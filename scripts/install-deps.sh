@@ -11,6 +11,9 @@ run_packages=(
   cmake ninja-build g++ pkg-config
   # libraries
   nlohmann-json3-dev libsqlite3-dev qt6-base-dev
+  # lrelease compiles the app's English (its plural forms) into it; lupdate
+  # checks that the translation source holds every sentence
+  qt6-l10n-tools
   # the desktop app under Wayland compositors
   qt6-wayland
   # the app's font and the GPU name database
@@ -34,9 +37,6 @@ test_packages=(
   # the install check validates the desktop entry and the AppStream metadata;
   # scripts/icons.sh renders the icon's sizes
   desktop-file-utils appstream librsvg2-bin
-  # lupdate checks that the translation source holds every sentence; lrelease
-  # builds the translation a test loads
-  qt6-l10n-tools
 )
 
 case "${1:-test}" in

@@ -1,23 +1,25 @@
 #!/usr/bin/env bash
 # The translation source of the window, the panel and the settings: lupdate
 # collects every Vexel::tr sentence of app/ into translations/vexel_en.ts,
-# which translators start from.
-#   translations.sh check BUILD   writes BUILD/translations/vexel_en.ts and fails
-#                                 when the committed one is stale
-#   translations.sh update        rewrites translations/vexel_en.ts
+# which translators start from. Its English plural forms ("%n process has",
+# "%n processes have") are written in by hand and kept by lupdate; the build
+# compiles it into the app.
+#   translations.sh check BUILD   updates a copy in BUILD/translations and fails
+#                                 when the committed file is stale
+#   translations.sh update        updates translations/vexel_en.ts
 set -euo pipefail
 cd "$(dirname "$0")/.."
 lupdate=/usr/lib/qt6/bin/lupdate
 
 collect() {
-  rm -f "$1"
-  mkdir -p "$(dirname "$1")"
   "$lupdate" -silent -locations none -no-obsolete -source-language en -target-language en app -ts "$1"
 }
 
 case "${1:-}" in
   check)
     fresh="${2:-build}/translations/vexel_en.ts"
+    mkdir -p "$(dirname "$fresh")"
+    cp translations/vexel_en.ts "$fresh"
     collect "$fresh"
     if ! cmp -s "$fresh" translations/vexel_en.ts; then
       diff -u translations/vexel_en.ts "$fresh" | head -40 >&2 || true

@@ -112,6 +112,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1  ·  %2  ·  %3   (the last 1, 5 and 15 minutes)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load is the number of threads waiting for or using a core. Below %1 (your core count), nothing is waiting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Developers</source>
         <translation type="unfinished"></translation>
     </message>
@@ -164,6 +172,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Vexel looks for the docker command from %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Docker isn&apos;t running</source>
         <translation type="unfinished"></translation>
     </message>
@@ -213,6 +225,10 @@
     </message>
     <message>
         <source>GPU, last few minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 busy</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -588,6 +604,26 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Read the Mac every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the computer every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the window closed Vexel reads the Mac at this interval; while you&apos;re looking it reads every 2 seconds. Other users&apos; processes, per-app network and ports are read less often to keep Vexel light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the window closed Vexel reads the computer at this interval; while you&apos;re looking it reads every 2 seconds. Other users&apos; processes, per-app network and ports are read less often to keep Vexel light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (0–100)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>1 month</source>
         <translation type="unfinished"></translation>
     </message>
@@ -673,6 +709,231 @@
     </message>
     <message>
         <source>Menu Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reveal in Finder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command copied. Paste it into Terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command copied. Paste it into a terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% of the whole Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% of the whole computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% of one core (like Activity Monitor)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% of one core (like top)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CPU figures are shown as % of the whole Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CPU figures are shown as % of the whole computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CPU figures are shown as % of one core (like Activity Monitor).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CPU figures are shown as % of one core (like top).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app memory is the footprint, like Activity Monitor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app memory is the footprint, like top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fuller report; asks for your password in Terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fuller report; asks for your password in a terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n process(es) belong(s) to another user (usually macOS). Vexel sees their CPU and resident memory but not their disk or energy.</source>
+        <translation>
+            <numerusform>%n process belongs to another user (usually macOS). Vexel sees their CPU and resident memory but not their disk or energy.</numerusform>
+            <numerusform>%n processes belong to another user (usually macOS). Vexel sees their CPU and resident memory but not their disk or energy.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n process(es) belong(s) to another user (usually root or a system service). Vexel sees their CPU and resident memory but not their disk or energy.</source>
+        <translation>
+            <numerusform>%n process belongs to another user (usually root or a system service). Vexel sees their CPU and resident memory but not their disk or energy.</numerusform>
+            <numerusform>%n processes belong to another user (usually root or a system service). Vexel sees their CPU and resident memory but not their disk or energy.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n process(es) ended and wait(s) for its parent to collect it (zombie). They use no CPU or memory.</source>
+        <translation>
+            <numerusform>%n process has ended and waits for its parent to collect it (zombie). They use no CPU or memory.</numerusform>
+            <numerusform>%n processes have ended and wait for its parent to collect it (zombie). They use no CPU or memory.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>macOS manages these processes itself; Vexel doesn&apos;t offer to quit them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linux manages these processes itself; Vexel doesn&apos;t offer to quit them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory pressure is how hard macOS is working to find room: compressing, then swapping to disk. High use with normal pressure is fine — cached files are let go the moment an app needs the space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory pressure is how hard Linux is working to find room: compressing, then swapping to disk. High use with normal pressure is fine — cached files are let go the moment an app needs the space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app figures cover your own apps; macOS doesn&apos;t share other users&apos; disk counters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app figures cover your own apps; Linux doesn&apos;t share other users&apos; disk counters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app figures from nettop, refreshed every few seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per-app figures from ss (TCP only), refreshed every few seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Mac&apos;s graphics driver doesn&apos;t report utilisation, so there&apos;s nothing to show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer&apos;s graphics driver doesn&apos;t report utilisation, so there&apos;s nothing to show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>macOS reports how busy the whole GPU is, but not which app is using it — that needs private interfaces, so Vexel doesn&apos;t show GPU per app. The busiest apps by energy are usually the ones drawing on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linux&apos;s drivers report how busy the whole GPU is; Vexel doesn&apos;t read which app is using it, so it doesn&apos;t show GPU per app. The busiest apps by energy are usually the ones drawing on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Neural Engine has no public usage counter on macOS, so Vexel leaves it out rather than guess.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Mac runs on mains power — no battery to report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer runs on mains power — no battery to report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy per app is measured by macOS.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy per app is measured by Linux.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy per app is estimated from CPU use on this Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy per app is estimated from CPU use on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measured: measured by macOS. Estimated: estimated from CPU use on this Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measured: measured by Linux. Estimated: estimated from CPU use on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>macOS tells apps how hot it&apos;s running and when it&apos;s slowing down to cool off — that&apos;s the scale above. Exact temperatures and fan speeds aren&apos;t available through public macOS interfaces, so Vexel doesn&apos;t show them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linux reports its thermal zones, its sensors and when the processor is slowed down to cool off; the scale above sums them up. The temperatures and fan speeds the sensors report are listed below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Docker Desktop, OrbStack, Colima or Rancher Desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Docker Engine, Docker Desktop or Podman</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Once, in Terminal (it may ask for your password). Then:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Once, in a terminal (no password needed). Then:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>macOS doesn&apos;t report GPU use per app.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel doesn&apos;t read GPU use per app on Linux.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No battery — this Mac runs on mains power.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No battery — this computer runs on mains power.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exact temperatures and fan speeds aren&apos;t available to apps through public macOS interfaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every temperature and fan the sensors report is on Power &amp; Heat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu Bar Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panel Settings…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

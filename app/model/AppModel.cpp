@@ -446,7 +446,7 @@ void AppModel::quitSelected()
 void AppModel::copyCommand(const std::string& command)
 {
     m_actions->copy(command);
-    tell(PageTexts::commandCopied(platform));
+    tell(PageTexts::commandCopied(platform).toStdString());
 }
 
 void AppModel::copyAddress(uint16_t port)

@@ -118,19 +118,19 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
         + std::to_string(count) + (count == 1 ? " process" : " processes")));
     m_where->setText(
         kindWord(app) + (app.path ? qs("  ·  " + PageTexts::shownPath(*app.path, homeFolder())) : QString()));
-    m_reveal->setText(qs(PageTexts::revealInFiles(platform)));
+    m_reveal->setText(PageTexts::revealInFiles(platform));
     m_reveal->setVisible(app.path.has_value());
     const bool quittable = model.canQuit(app);
     m_quit->setVisible(quittable);
     m_forceQuit->setVisible(quittable);
 
-    m_system->setText(qs(PageTexts::systemGroupNote(platform)));
+    m_system->setText(PageTexts::systemGroupNote(platform));
     m_system->setVisible(app.kind == AppKind::system);
     const int others = static_cast<int>(
         std::ranges::count_if(app.processes, [&model](const ProcRow& row) { return row.uid != model.myUID(); }));
-    m_otherUsers->setText(qs(PageTexts::otherUsersNote(platform, others)));
+    m_otherUsers->setText(PageTexts::otherUsersNote(platform, others));
     m_otherUsers->setVisible(others > 0);
-    m_zombies->setText(qs(PageTexts::zombiesNote(app.zombies)));
+    m_zombies->setText(PageTexts::zombiesNote(app.zombies));
     m_zombies->setVisible(app.zombies > 0);
 
     m_processes->clear();
@@ -146,7 +146,7 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
     m_mainPid = app.mainPID.value_or(app.processes.empty() ? 0 : app.processes.front().pid);
     m_sampleCommand->setText(qs(PageTexts::sampleCommand(platform, m_mainPid)));
     m_reportCommand->setText(qs(PageTexts::fullerReportCommand(platform, m_mainPid)));
-    m_reportNote->setText(qs(PageTexts::fullerReportNote(platform)));
+    m_reportNote->setText(PageTexts::fullerReportNote(platform));
 }
 
 bool AppInspector::offersQuit() const

@@ -85,11 +85,13 @@ void CpuPage::showModel(const AppModel& model)
     bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };
     m_cores->draw(bank);
     m_load->setText(
-        qs(cformat("%.2f  ·  %.2f  ·  %.2f", cpu.load1, cpu.load5, cpu.load15) + "   (the last 1, 5 and 15 minutes)"));
-    m_loadNote->setText(qs("Load is the number of threads waiting for or using a core. Below "
-        + std::to_string(model.cores) + " (your core count), nothing is waiting."));
-    m_scale->setText(qs("CPU figures are shown as "
-        + (wholeMachine ? PageTexts::cpuScaleMachine(model.platform) : PageTexts::cpuScaleCore(model.platform)) + "."));
+        Vexel::tr("%1  ·  %2  ·  %3   (the last 1, 5 and 15 minutes)")
+            .arg(qs(cformat("%.2f", cpu.load1)), qs(cformat("%.2f", cpu.load5)), qs(cformat("%.2f", cpu.load15))));
+    m_loadNote->setText(
+        Vexel::tr("Load is the number of threads waiting for or using a core. Below %1 (your core count), nothing "
+                  "is waiting.")
+            .arg(model.cores));
+    m_scale->setText(PageTexts::cpuScaleSentence(model.platform, wholeMachine));
     m_top->show(model, AppSort::cpu, 8, [cores](const AppGroup& app) { return Fmt::cpu(app.cpu, cores); });
 }
 

@@ -102,7 +102,7 @@ void DevelopersPage::showModel(const AppModel& model)
 {
     showServers(model);
     showDocker(model);
-    m_installNote->setText(qs(PageTexts::installInTerminal(model.platform)));
+    m_installNote->setText(PageTexts::installInTerminal(model.platform));
     m_installCommand->setText(qs(PageTexts::installCommand(model.platform, vexelPath(model.platform))));
     m_mcpCommand->setText(qs(PageTexts::mcpAddCommand(model.platform)));
 }
@@ -175,7 +175,7 @@ void DevelopersPage::showDocker(const AppModel& model)
     } else if (docker->kind == DockerState::Kind::notInstalled) {
         m_dockerHeading->setText(Vexel::tr("Docker isn't installed"));
         m_dockerNote->setText(
-            qs("Vexel looks for the docker command from " + PageTexts::dockerEngines(model.platform) + "."));
+            Vexel::tr("Vexel looks for the docker command from %1.").arg(PageTexts::dockerEngines(model.platform)));
         m_dockerNote->show();
     } else if (docker->kind == DockerState::Kind::notRunning) {
         m_dockerHeading->setText(Vexel::tr("Docker isn't running"));

@@ -69,7 +69,7 @@ void DiskPage::showModel(const AppModel& model)
     m_volumes->setRows(rows);
     m_noVolumes->setVisible(rows.empty());
     m_top->show(model, AppSort::disk, 8, [](const AppGroup& app) { return rate(app.diskRead + app.diskWrite); });
-    m_top->setNote(qs("Per-app figures cover " + PageTexts::diskPerAppNote(model.platform) + "."));
+    m_top->setNote(PageTexts::diskPerAppNote(model.platform));
 }
 
 QString DiskPage::ratesText() const

@@ -6,6 +6,7 @@
 #include "model/AppModel.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 #include "texts/Vexel.h"
 
 #include <QLabel>
@@ -51,16 +52,16 @@ void GpuPage::showModel(const AppModel& model)
     m_traceCaption->setVisible(gpu.has_value());
     m_unavailable->setVisible(!gpu);
     if (gpu) {
-        m_use->setText(QString::fromStdString(Fmt::percent(gpu->utilisation) + " busy"));
+        m_use->setText(Vexel::tr("%1 busy").arg(qs(Fmt::percent(gpu->utilisation))));
         m_name->setText(QString::fromStdString(gpu->name));
         m_trace->draw(shareTrace(model.ring, &RingSample::gpu, model.strain(MenuItemKind::gpu)));
     } else {
-        m_unavailable->setText(QString::fromStdString(PageTexts::noGpuUtilisation(model.platform)));
+        m_unavailable->setText(PageTexts::noGpuUtilisation(model.platform));
     }
-    m_perApp->setText(QString::fromStdString(PageTexts::noGpuPerApp(model.platform)));
-    const auto neural = PageTexts::neuralEngineNote(model.platform);
-    m_neuralEngine->setText(QString::fromStdString(neural));
-    m_neuralEngine->setVisible(!neural.empty());
+    m_perApp->setText(PageTexts::noGpuPerApp(model.platform));
+    const QString neural = PageTexts::neuralEngineNote(model.platform);
+    m_neuralEngine->setText(neural);
+    m_neuralEngine->setVisible(!neural.isEmpty());
 }
 
 bool GpuPage::showsChart() const

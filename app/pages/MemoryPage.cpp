@@ -65,9 +65,9 @@ void MemoryPage::showModel(const AppModel& model)
             {Vexel::tr("Compressed"), qs(Fmt::memory(memory.compressed))},
             {Vexel::tr("Cached files"), qs(Fmt::memory(memory.cached))},
             {Vexel::tr("Free"), qs(Fmt::memory(memory.free))}});
-    m_note->setText(qs(PageTexts::memoryPressureNote(model.platform)));
+    m_note->setText(PageTexts::memoryPressureNote(model.platform));
     m_top->show(model, AppSort::memory, 8, [](const AppGroup& app) { return Fmt::memory(app.memory); });
-    m_top->setNote(qs("Per-app memory is the footprint, " + PageTexts::likeTheSystemMonitor(model.platform) + "."));
+    m_top->setNote(PageTexts::perAppMemoryNote(model.platform));
 }
 
 QString MemoryPage::usedText() const

@@ -51,7 +51,7 @@ void NetworkPage::showModel(const AppModel& model)
     m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain));
     m_top->show(
         model, AppSort::network, 8, [unit](const AppGroup& app) { return Fmt::rate(app.netIn + app.netOut, unit); });
-    m_top->setNote(QString::fromStdString("Per-app figures " + PageTexts::networkPerAppNote(model.platform) + "."));
+    m_top->setNote(PageTexts::networkPerAppNote(model.platform));
 }
 
 QString NetworkPage::ratesText() const

@@ -86,10 +86,10 @@ void PowerPage::showModel(const AppModel& model)
     });
     const bool allEstimated = std::ranges::all_of(apps, [](const AppGroup& app) { return app.energyEstimated; });
     const Platform platform = model.platform;
-    m_energy->setNote(qs(mixed ? "Measured: " + PageTexts::energyMeasured(platform)
-                + ". Estimated: " + PageTexts::energyEstimated(platform) + "."
-                               : "Energy per app is "
-                + (allEstimated ? PageTexts::energyEstimated(platform) : PageTexts::energyMeasured(platform)) + "."));
+    m_energy->setNote(PageTexts::energyNote(platform,
+        mixed              ? PageTexts::EnergySource::mixed
+            : allEstimated ? PageTexts::EnergySource::estimated
+                           : PageTexts::EnergySource::measured));
 
     const ThermalLevel level = model.frame->system.thermal;
     m_thermal->setText(qs(detail(level, platform))); // "Hot. macOS is slowing the processor…"
@@ -98,7 +98,7 @@ void PowerPage::showModel(const AppModel& model)
         scale.steps.push_back({qs(title(step)), model.settings.strain.thermal(step)});
     scale.current = static_cast<size_t>(rawValue(level));
     m_scale->draw(scale);
-    m_thermalNote->setText(qs(PageTexts::thermalNote(platform)));
+    m_thermalNote->setText(PageTexts::thermalNote(platform));
     showSensors(model);
 }
 
@@ -126,7 +126,7 @@ void PowerPage::showBattery(const AppModel& model)
     if (!battery) {
         m_charge->setFont(Look::font(13));
         m_charge->setWordWrap(true);
-        m_charge->setText(qs(PageTexts::mainsPower(model.platform)));
+        m_charge->setText(PageTexts::mainsPower(model.platform));
         return;
     }
     m_charge->setFont(Look::font(22, QFont::DemiBold));

@@ -125,7 +125,7 @@ void MenuBarController::add(MenuItemKind kind)
     menu->addSeparator();
     connect(
         menu->addAction(Vexel::tr("Open Vexel Window")), &QAction::triggered, this, [this] { m_actions.openWindow(); });
-    connect(menu->addAction(qs(PageTexts::panelSettings(m_model.platform))), &QAction::triggered, this,
+    connect(menu->addAction(PageTexts::panelSettings(m_model.platform)), &QAction::triggered, this,
         [this] { m_actions.openPanelSettings(); });
     menu->addSeparator();
     connect(menu->addAction(Vexel::tr("Quit Vexel")), &QAction::triggered, this, [this] { m_actions.quit(); });

@@ -76,7 +76,7 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
     }
     case MenuItemKind::gpu:
         if (!system.gpu)
-            return {{"GPU", qs(PageTexts::noGpuUtilisation(model.platform))}};
+            return {{"GPU", PageTexts::noGpuUtilisation(model.platform)}};
         return {{qs(system.gpu->name), qs(Fmt::percent(system.gpu->utilisation) + " busy")}};
     case MenuItemKind::battery:
         if (!system.battery)
@@ -134,7 +134,7 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     layout->addWidget(m_note);
     auto* buttons = new QHBoxLayout;
     auto* open = Look::button(Vexel::tr("Open Vexel Window"), this);
-    auto* settings = Look::button(qs(PageTexts::panelSettings(model.platform)), this);
+    auto* settings = Look::button(PageTexts::panelSettings(model.platform), this);
     buttons->addWidget(open);
     buttons->addWidget(settings);
     layout->addLayout(buttons);
@@ -188,10 +188,10 @@ void MenuDropdown::showModel(const AppModel& model)
             m_apps->show(
                 model, AppSort::energy, appsShown, [](const AppGroup& a) { return Fmt::watts(a.energyW.value_or(0)); });
         else
-            note = qs(PageTexts::dropdownNoBattery(model.platform));
+            note = PageTexts::dropdownNoBattery(model.platform);
         break;
-    case MenuItemKind::gpu: note = qs(PageTexts::dropdownGpuNote(model.platform)); break;
-    case MenuItemKind::thermal: note = qs(PageTexts::dropdownThermalNote(model.platform)); break;
+    case MenuItemKind::gpu: note = PageTexts::dropdownGpuNote(model.platform); break;
+    case MenuItemKind::thermal: note = PageTexts::dropdownThermalNote(model.platform); break;
     }
     const bool perApp = note.isEmpty();
     m_apps->setVisible(perApp);

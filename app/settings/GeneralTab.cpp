@@ -67,14 +67,17 @@ unsigned GeneralTab::shows() const
 void GeneralTab::showModel(const AppModel& model)
 {
     m_filling = true;
-    const std::string machine = machineWord(model.platform);
-    m_intervalLabel->setText(QString::fromStdString("Read the " + machine + " every"));
-    m_intervalNote->setText(QString::fromStdString("With the window closed Vexel reads the " + machine
-        + " at this interval; while you're looking it reads every 2 seconds. Other users' processes, per-app network "
-          "and ports are read less often to keep Vexel light."));
+    const bool mac = model.platform == Platform::macOS;
+    m_intervalLabel->setText(mac ? Vexel::tr("Read the Mac every") : Vexel::tr("Read the computer every"));
+    m_intervalNote->setText(mac ? Vexel::tr("With the window closed Vexel reads the Mac at this interval; while "
+                                            "you're looking it reads every 2 seconds. Other users' processes, per-app "
+                                            "network and ports are read less often to keep Vexel light.")
+                                : Vexel::tr("With the window closed Vexel reads the computer at this interval; while "
+                                            "you're looking it reads every 2 seconds. Other users' processes, per-app "
+                                            "network and ports are read less often to keep Vexel light."));
     m_interval->select(model.settings.sampleSeconds);
-    m_wholeMachine->setText(QString::fromStdString(PageTexts::cpuScaleMachine(model.platform) + " (0–100)"));
-    m_perCore->setText(QString::fromStdString(PageTexts::cpuScaleCore(model.platform)));
+    m_wholeMachine->setText(Vexel::tr("%1 (0–100)").arg(PageTexts::cpuScaleMachine(model.platform)));
+    m_perCore->setText(PageTexts::cpuScaleCore(model.platform));
     (model.settings.cpuScale == CPUScale::core ? m_perCore : m_wholeMachine)->setChecked(true);
     m_bits->setChecked(model.settings.networkBits);
     m_atLogin->setChecked(model.opensAtLogin());

@@ -1,5 +1,7 @@
 #include "texts/PageTexts.h"
 
+#include "texts/Vexel.h"
+
 namespace vexel::PageTexts {
 
 namespace {
@@ -9,36 +11,42 @@ bool onMac(Platform platform)
     return platform == Platform::macOS;
 }
 
-std::string plural(int count, const std::string& one, const std::string& many)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
 } // namespace
 
-std::string revealInFiles(Platform platform)
+QString revealInFiles(Platform platform)
 {
-    return onMac(platform) ? "Reveal in Finder" : "Show in Files";
+    return onMac(platform) ? Vexel::tr("Reveal in Finder") : Vexel::tr("Show in Files");
 }
 
-std::string commandCopied(Platform platform)
+QString commandCopied(Platform platform)
 {
-    return onMac(platform) ? "Command copied. Paste it into Terminal." : "Command copied. Paste it into a terminal.";
+    return onMac(platform) ? Vexel::tr("Command copied. Paste it into Terminal.")
+                           : Vexel::tr("Command copied. Paste it into a terminal.");
 }
 
-std::string likeTheSystemMonitor(Platform platform)
+QString cpuScaleMachine(Platform platform)
 {
-    return onMac(platform) ? "like Activity Monitor" : "like top";
+    return onMac(platform) ? Vexel::tr("% of the whole Mac") : Vexel::tr("% of the whole computer");
 }
 
-std::string cpuScaleMachine(Platform platform)
+QString cpuScaleCore(Platform platform)
 {
-    return "% of the whole " + machineWord(platform);
+    return onMac(platform) ? Vexel::tr("% of one core (like Activity Monitor)") : Vexel::tr("% of one core (like top)");
 }
 
-std::string cpuScaleCore(Platform platform)
+QString cpuScaleSentence(Platform platform, bool wholeMachine)
 {
-    return "% of one core (" + likeTheSystemMonitor(platform) + ")";
+    if (wholeMachine)
+        return onMac(platform) ? Vexel::tr("CPU figures are shown as % of the whole Mac.")
+                               : Vexel::tr("CPU figures are shown as % of the whole computer.");
+    return onMac(platform) ? Vexel::tr("CPU figures are shown as % of one core (like Activity Monitor).")
+                           : Vexel::tr("CPU figures are shown as % of one core (like top).");
+}
+
+QString perAppMemoryNote(Platform platform)
+{
+    return onMac(platform) ? Vexel::tr("Per-app memory is the footprint, like Activity Monitor.")
+                           : Vexel::tr("Per-app memory is the footprint, like top.");
 }
 
 std::string sampleCommand(Platform platform, int32_t pid)
@@ -60,107 +68,128 @@ std::string fullerReportCommand(Platform platform, int32_t pid)
     return "sudo perf record -g -p " + id + " -o " + file + " -- sleep 10 && sudo perf report -i " + file + " --stdio";
 }
 
-std::string fullerReportNote(Platform platform)
+QString fullerReportNote(Platform platform)
 {
-    return onMac(platform) ? "A fuller report; asks for your password in Terminal."
-                           : "A fuller report; asks for your password in a terminal.";
+    return onMac(platform) ? Vexel::tr("A fuller report; asks for your password in Terminal.")
+                           : Vexel::tr("A fuller report; asks for your password in a terminal.");
 }
 
-std::string otherUsersNote(Platform platform, int count)
-{
-    const std::string whose = onMac(platform) ? "(usually macOS)" : "(usually root or a system service)";
-    return plural(count, "process belongs", "processes belong") + " to another user " + whose
-        + ". Vexel sees their CPU and resident memory but not their disk or energy.";
-}
-
-std::string zombiesNote(int count)
-{
-    return plural(count, "process has", "processes have")
-        + " ended and waits for its parent to collect it (zombie). They use no CPU or memory.";
-}
-
-std::string systemGroupNote(Platform platform)
-{
-    return systemName(platform) + " manages these processes itself; Vexel doesn't offer to quit them.";
-}
-
-std::string memoryPressureNote(Platform platform)
-{
-    return "Memory pressure is how hard " + systemName(platform)
-        + " is working to find room: compressing, then swapping to disk. High use with normal pressure is fine — "
-          "cached files are let go the moment an app needs the space.";
-}
-
-std::string diskPerAppNote(Platform platform)
-{
-    return "your own apps; " + systemName(platform) + " doesn't share other users' disk counters";
-}
-
-std::string networkPerAppNote(Platform platform)
-{
-    return onMac(platform) ? "from nettop, refreshed every few seconds"
-                           : "from ss (TCP only), refreshed every few seconds";
-}
-
-std::string noGpuUtilisation(Platform platform)
-{
-    return "This " + machineWord(platform)
-        + "'s graphics driver doesn't report utilisation, so there's nothing to show here.";
-}
-
-std::string noGpuPerApp(Platform platform)
-{
-    if (onMac(platform))
-        return "macOS reports how busy the whole GPU is, but not which app is using it — that needs private "
-               "interfaces, so Vexel doesn't show GPU per app. The busiest apps by energy are usually the ones drawing "
-               "on it.";
-    return "Linux's drivers report how busy the whole GPU is; Vexel doesn't read which app is using it, so it doesn't "
-           "show GPU per app. The busiest apps by energy are usually the ones drawing on it.";
-}
-
-std::string neuralEngineNote(Platform platform)
+QString otherUsersNote(Platform platform, int count)
 {
     return onMac(platform)
-        ? "The Neural Engine has no public usage counter on macOS, so Vexel leaves it out rather than guess."
-        : "";
+        ? Vexel::tr("%n process(es) belong(s) to another user (usually macOS). Vexel sees their CPU and resident "
+                    "memory but not their disk or energy.",
+            nullptr, count)
+        : Vexel::tr("%n process(es) belong(s) to another user (usually root or a system service). Vexel sees their "
+                    "CPU and resident memory but not their disk or energy.",
+            nullptr, count);
 }
 
-std::string mainsPower(Platform platform)
+QString zombiesNote(int count)
 {
-    return "This " + machineWord(platform) + " runs on mains power — no battery to report.";
+    return Vexel::tr("%n process(es) ended and wait(s) for its parent to collect it (zombie). They use no CPU or "
+                     "memory.",
+        nullptr, count);
 }
 
-std::string energyMeasured(Platform platform)
+QString systemGroupNote(Platform platform)
 {
-    return "measured by " + systemName(platform);
+    return onMac(platform) ? Vexel::tr("macOS manages these processes itself; Vexel doesn't offer to quit them.")
+                           : Vexel::tr("Linux manages these processes itself; Vexel doesn't offer to quit them.");
 }
 
-std::string energyEstimated(Platform platform)
+QString memoryPressureNote(Platform platform)
 {
-    return "estimated from CPU use on this " + machineWord(platform);
+    return onMac(platform)
+        ? Vexel::tr("Memory pressure is how hard macOS is working to find room: compressing, then swapping to disk. "
+                    "High use with normal pressure is fine — cached files are let go the moment an app needs the "
+                    "space.")
+        : Vexel::tr("Memory pressure is how hard Linux is working to find room: compressing, then swapping to disk. "
+                    "High use with normal pressure is fine — cached files are let go the moment an app needs the "
+                    "space.");
 }
 
-std::string thermalNote(Platform platform)
+QString diskPerAppNote(Platform platform)
+{
+    return onMac(platform)
+        ? Vexel::tr("Per-app figures cover your own apps; macOS doesn't share other users' disk counters.")
+        : Vexel::tr("Per-app figures cover your own apps; Linux doesn't share other users' disk counters.");
+}
+
+QString networkPerAppNote(Platform platform)
+{
+    return onMac(platform) ? Vexel::tr("Per-app figures from nettop, refreshed every few seconds.")
+                           : Vexel::tr("Per-app figures from ss (TCP only), refreshed every few seconds.");
+}
+
+QString noGpuUtilisation(Platform platform)
+{
+    return onMac(platform)
+        ? Vexel::tr("This Mac's graphics driver doesn't report utilisation, so there's nothing to show here.")
+        : Vexel::tr("This computer's graphics driver doesn't report utilisation, so there's nothing to show here.");
+}
+
+QString noGpuPerApp(Platform platform)
 {
     if (onMac(platform))
-        return "macOS tells apps how hot it's running and when it's slowing down to cool off — that's the scale above. "
-               "Exact temperatures and fan speeds aren't available through public macOS interfaces, so Vexel doesn't "
-               "show them.";
-    return "Linux reports its thermal zones, its sensors and when the processor is slowed down to cool off; the scale "
-           "above sums them up. The temperatures and fan speeds the sensors report are listed below.";
+        return Vexel::tr("macOS reports how busy the whole GPU is, but not which app is using it — that needs "
+                         "private interfaces, so Vexel doesn't show GPU per app. The busiest apps by energy are "
+                         "usually the ones drawing on it.");
+    return Vexel::tr("Linux's drivers report how busy the whole GPU is; Vexel doesn't read which app is using it, so "
+                     "it doesn't show GPU per app. The busiest apps by energy are usually the ones drawing on it.");
 }
 
-std::string dockerEngines(Platform platform)
+QString neuralEngineNote(Platform platform)
 {
-    return onMac(platform) ? "Docker Desktop, OrbStack, Colima or Rancher Desktop"
-                           : "Docker Engine, Docker Desktop or Podman";
+    return onMac(platform) ? Vexel::tr("The Neural Engine has no public usage counter on macOS, so Vexel leaves it "
+                                       "out rather than guess.")
+                           : QString();
 }
 
-std::string installInTerminal(Platform platform)
+QString mainsPower(Platform platform)
+{
+    return onMac(platform) ? Vexel::tr("This Mac runs on mains power — no battery to report.")
+                           : Vexel::tr("This computer runs on mains power — no battery to report.");
+}
+
+QString energyNote(Platform platform, EnergySource source)
+{
+    switch (source) {
+    case EnergySource::measured:
+        return onMac(platform) ? Vexel::tr("Energy per app is measured by macOS.")
+                               : Vexel::tr("Energy per app is measured by Linux.");
+    case EnergySource::estimated:
+        return onMac(platform) ? Vexel::tr("Energy per app is estimated from CPU use on this Mac.")
+                               : Vexel::tr("Energy per app is estimated from CPU use on this computer.");
+    case EnergySource::mixed: break;
+    }
+    return onMac(platform)
+        ? Vexel::tr("Measured: measured by macOS. Estimated: estimated from CPU use on this Mac.")
+        : Vexel::tr("Measured: measured by Linux. Estimated: estimated from CPU use on this computer.");
+}
+
+QString thermalNote(Platform platform)
+{
+    if (onMac(platform))
+        return Vexel::tr("macOS tells apps how hot it's running and when it's slowing down to cool off — that's the "
+                         "scale above. Exact temperatures and fan speeds aren't available through public macOS "
+                         "interfaces, so Vexel doesn't show them.");
+    return Vexel::tr("Linux reports its thermal zones, its sensors and when the processor is slowed down to cool off; "
+                     "the scale above sums them up. The temperatures and fan speeds the sensors report are listed "
+                     "below.");
+}
+
+QString dockerEngines(Platform platform)
+{
+    return onMac(platform) ? Vexel::tr("Docker Desktop, OrbStack, Colima or Rancher Desktop")
+                           : Vexel::tr("Docker Engine, Docker Desktop or Podman");
+}
+
+QString installInTerminal(Platform platform)
 {
     // ~/.local/bin is the user's own: linking there asks for no password.
-    return onMac(platform) ? "Once, in Terminal (it may ask for your password). Then:"
-                           : "Once, in a terminal (no password needed). Then:";
+    return onMac(platform) ? Vexel::tr("Once, in Terminal (it may ask for your password). Then:")
+                           : Vexel::tr("Once, in a terminal (no password needed). Then:");
 }
 
 std::string installCommand(Platform platform, const std::string& vexelPath)
@@ -176,26 +205,28 @@ std::string mcpAddCommand(Platform platform)
                            : "claude mcp add vexel -- ~/.local/bin/vexel --mcp";
 }
 
-std::string dropdownGpuNote(Platform platform)
+QString dropdownGpuNote(Platform platform)
 {
-    return onMac(platform) ? "macOS doesn't report GPU use per app." : "Vexel doesn't read GPU use per app on Linux.";
+    return onMac(platform) ? Vexel::tr("macOS doesn't report GPU use per app.")
+                           : Vexel::tr("Vexel doesn't read GPU use per app on Linux.");
 }
 
-std::string dropdownNoBattery(Platform platform)
+QString dropdownNoBattery(Platform platform)
 {
-    return "No battery — this " + machineWord(platform) + " runs on mains power.";
+    return onMac(platform) ? Vexel::tr("No battery — this Mac runs on mains power.")
+                           : Vexel::tr("No battery — this computer runs on mains power.");
 }
 
-std::string dropdownThermalNote(Platform platform)
+QString dropdownThermalNote(Platform platform)
 {
     return onMac(platform)
-        ? "Exact temperatures and fan speeds aren't available to apps through public macOS interfaces."
-        : "Every temperature and fan the sensors report is on Power & Heat.";
+        ? Vexel::tr("Exact temperatures and fan speeds aren't available to apps through public macOS interfaces.")
+        : Vexel::tr("Every temperature and fan the sensors report is on Power & Heat.");
 }
 
-std::string panelSettings(Platform platform)
+QString panelSettings(Platform platform)
 {
-    return onMac(platform) ? "Menu Bar Settings…" : "Panel Settings…";
+    return onMac(platform) ? Vexel::tr("Menu Bar Settings…") : Vexel::tr("Panel Settings…");
 }
 
 std::string shownPath(const std::string& path, std::string home)

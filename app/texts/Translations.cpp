@@ -10,6 +10,16 @@ QString folder()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/vexel/translations");
 }
 
+bool installEnglish()
+{
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (!translator->load(QStringLiteral(":/translations/vexel_en.qm"))) {
+        delete translator;
+        return false;
+    }
+    return QCoreApplication::installTranslator(translator);
+}
+
 bool install(const QString& folder, const QLocale& locale)
 {
     auto* translator = new QTranslator(QCoreApplication::instance());

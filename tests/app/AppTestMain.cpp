@@ -3,6 +3,7 @@
 // test environment, so the platform is chosen here.
 
 #include "Appearance.h"
+#include "texts/Translations.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
@@ -19,6 +20,10 @@ int main(int argc, char** argv)
         return 1;
     }
     QApplication::setPalette(vexel::Look::palette(vexel::Appearance::light));
+    if (!vexel::Translations::installEnglish()) {
+        std::fprintf(stderr, "the English built into the app is missing\n");
+        return 1;
+    }
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -175,7 +175,7 @@ TEST(VexelCommands, EveryRouteWithItsShortcutThenTheThreeCommands)
     };
     for (const auto route : allRoutes) {
         const auto* action = actions.at(static_cast<int>(route));
-        EXPECT_EQ(shown(action).toStdString(), title(route));
+        EXPECT_EQ(shown(action), title(route));
         EXPECT_EQ(action->shortcut(), QKeySequence(QString::fromStdString(shortcut(route))));
     }
     EXPECT_EQ(shown(actions.at(10)), QStringLiteral("Find App…"));
