@@ -26,6 +26,11 @@ case "${1:-}" in
       echo "translations: translations/vexel_en.ts is stale; run scripts/translations.sh update" >&2
       exit 1
     fi
+    if grep -q "<numerusform></numerusform>" translations/vexel_en.ts; then
+      grep -B3 "<numerusform></numerusform>" translations/vexel_en.ts | grep "<source>" >&2
+      echo "translations: write English's singular and plural forms of these in translations/vexel_en.ts" >&2
+      exit 1
+    fi
     echo "translations: translations/vexel_en.ts holds the $(grep -c '<message' "$fresh") sentences of app/"
     ;;
   update) collect translations/vexel_en.ts ;;

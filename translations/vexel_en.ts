@@ -964,5 +964,56 @@
         <source>Open Vexel &amp;Window</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>CPU %1  ·  Memory %2  ·  %n process(es)</source>
+        <translation>
+            <numerusform>CPU %1  ·  Memory %2  ·  %n process</numerusform>
+            <numerusform>CPU %1  ·  Memory %2  ·  %n processes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>User %1  ·  System %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read %1  ·  Write %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lines break where readings stop. Your Mac was off, asleep or Vexel wasn&apos;t running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lines break where readings stop. Your computer was off, asleep or Vexel wasn&apos;t running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pressure: %1  ·  Swap used: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down %1  ·  Up %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No temperature or fan sensors can be read on this Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No temperature or fan sensors can be read on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy http://localhost:%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amber means worth a look; red means under strain. Memory follows macOS&apos;s own pressure level, and heat follows the thermal state.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amber means worth a look; red means under strain. Memory follows Linux&apos;s own pressure level, and heat follows the thermal state.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -114,8 +114,8 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
     m_path = app.path;
     m_name->setText(qs(app.name));
     const size_t count = app.processes.size();
-    m_summary->setText(qs("CPU " + Fmt::cpu(app.cpu, cores) + "  ·  Memory " + Fmt::memory(app.memory) + "  ·  "
-        + std::to_string(count) + (count == 1 ? " process" : " processes")));
+    m_summary->setText(Vexel::tr("CPU %1  ·  Memory %2  ·  %n process(es)", nullptr, static_cast<int>(count))
+                           .arg(qs(Fmt::cpu(app.cpu, cores)), qs(Fmt::memory(app.memory))));
     m_where->setText(
         kindWord(app) + (app.path ? qs("  ·  " + PageTexts::shownPath(*app.path, homeFolder())) : QString()));
     m_reveal->setText(PageTexts::revealInFiles(platform));

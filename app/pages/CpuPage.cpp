@@ -76,8 +76,9 @@ void CpuPage::showModel(const AppModel& model)
     const auto cores = wholeMachine ? std::optional(model.cores) : std::nullopt;
     const double busy = (cpu.user + cpu.system) * model.cores; // in cores
     m_total->setText(qs(Fmt::cpu(busy, cores)));
-    m_split->setText(qs("User " + Fmt::cpu(cpu.user * model.cores, cores) + "  ·  System "
-        + Fmt::cpu(cpu.system * model.cores, cores)));
+    m_split->setText(
+        Vexel::tr("User %1  ·  System %2")
+            .arg(qs(Fmt::cpu(cpu.user * model.cores, cores)), qs(Fmt::cpu(cpu.system * model.cores, cores))));
     m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)));
     m_coresCaption->setText(qs(coresCaption(cpu)));
     BarBank bank;

@@ -59,7 +59,7 @@ void DiskPage::showModel(const AppModel& model)
     if (!model.frame)
         return;
     const auto& disk = model.frame->system.disk;
-    m_rates->setText(qs("Read " + rate(disk.readRate) + "  ·  Write " + rate(disk.writeRate)));
+    m_rates->setText(Vexel::tr("Read %1  ·  Write %2").arg(qs(rate(disk.readRate)), qs(rate(disk.writeRate))));
     m_readTrace->draw(rateTrace(model.ring, &RingSample::diskR, Strain::calm));
     m_writeTrace->draw(rateTrace(model.ring, &RingSample::diskW, Strain::calm));
     FigureRows::Rows rows;

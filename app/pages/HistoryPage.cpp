@@ -225,8 +225,9 @@ void HistoryPage::showCharts(const AppModel& model)
     bool gaps = false;
     for (size_t i = 1; i < points.size(); ++i)
         gaps = gaps || points[i].t - points[i - 1].t > gap;
-    m_gapNote->setText(qs("The lines break where readings stop. Your " + machineWord(model.platform)
-        + " was off, asleep or Vexel wasn't running."));
+    m_gapNote->setText(model.platform == Platform::macOS
+            ? Vexel::tr("The lines break where readings stop. Your Mac was off, asleep or Vexel wasn't running.")
+            : Vexel::tr("The lines break where readings stop. Your computer was off, asleep or Vexel wasn't running."));
     m_gapNote->setVisible(gaps);
 
     const SysPoint whole = Downsample::rollup(points, history.from, 0);

@@ -52,7 +52,8 @@ void MemoryPage::showModel(const AppModel& model)
         return;
     const auto& memory = model.frame->system.memory;
     m_used->setText(qs(Fmt::memory(memory.used()) + " of " + Fmt::memory(memory.total) + " in use"));
-    m_pressure->setText(qs("Pressure: " + title(memory.pressure) + "  ·  Swap used: " + Fmt::memory(memory.swapUsed)));
+    m_pressure->setText(
+        Vexel::tr("Pressure: %1  ·  Swap used: %2").arg(qs(title(memory.pressure)), qs(Fmt::memory(memory.swapUsed))));
     // Calm pressure reads in the text colour; more in the strain's.
     const Strain strain = model.strain(MenuItemKind::memory);
     QPalette palette;

@@ -7,6 +7,7 @@
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/PageTexts.h"
+#include "texts/QtText.h"
 #include "texts/Vexel.h"
 
 #include <QLabel>
@@ -45,7 +46,7 @@ void NetworkPage::showModel(const AppModel& model)
     const auto unit = model.networkUnit();
     const auto& net = model.frame->system.net;
     m_rates->setText(
-        QString::fromStdString("Down " + Fmt::rate(net.inRate, unit) + "  ·  Up " + Fmt::rate(net.outRate, unit)));
+        Vexel::tr("Down %1  ·  Up %2").arg(qs(Fmt::rate(net.inRate, unit)), qs(Fmt::rate(net.outRate, unit))));
     const Strain strain = model.strain(MenuItemKind::network);
     m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain));
     m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain));

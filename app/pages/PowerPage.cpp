@@ -113,7 +113,9 @@ void PowerPage::showSensors(const AppModel& model)
     m_sensors->setRows(rows);
     // A Mac keeps its sensors private; a Linux machine without any says so.
     const bool none = rows.empty() && model.platform != Platform::macOS;
-    m_noSensors->setText(qs("No temperature or fan sensors can be read on this " + machineWord(model.platform) + "."));
+    m_noSensors->setText(model.platform == Platform::macOS
+            ? Vexel::tr("No temperature or fan sensors can be read on this Mac.")
+            : Vexel::tr("No temperature or fan sensors can be read on this computer."));
     m_noSensors->setVisible(none);
 }
 

@@ -64,7 +64,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
     buttons->setSpacing(6);
     if (!server.ports.empty()) {
         const uint16_t port = server.ports.front();
-        auto* copy = Look::button(qs("Copy http://localhost:" + std::to_string(port)), this);
+        auto* copy = Look::button(Vexel::tr("Copy http://localhost:%1").arg(port), this);
         connect(copy, &QPushButton::clicked, this, [this, port] {
             if (m_model)
                 m_model->copyAddress(port);

@@ -87,8 +87,11 @@ AlertsTab::AlertsTab(QWidget* parent)
 void AlertsTab::showModel(const AppModel& model)
 {
     m_filling = true;
-    m_amberNote->setText(QString::fromStdString("Amber means worth a look; red means under strain. Memory follows "
-        + systemName(model.platform) + "'s own pressure level, and heat follows the thermal state."));
+    m_amberNote->setText(model.platform == Platform::macOS
+            ? Vexel::tr("Amber means worth a look; red means under strain. Memory follows macOS's own pressure level, "
+                        "and heat follows the thermal state.")
+            : Vexel::tr("Amber means worth a look; red means under strain. Memory follows Linux's own pressure level, "
+                        "and heat follows the thermal state."));
     const auto& settings = model.settings;
     m_diskAmber->select(settings.strain.diskFreeElevated);
     m_batteryAmber->select(settings.strain.batteryElevated);
