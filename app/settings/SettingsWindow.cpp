@@ -22,6 +22,8 @@ SettingsWindow::SettingsWindow(DeveloperTab::Places places, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
     m_tabs = new QTabWidget(this);
+    // Every tab in view, however long its name in the user's language: the window widens.
+    m_tabs->setUsesScrollButtons(false);
     m_tabs->setFont(Look::font(12));
     m_pages = {new GeneralTab(m_tabs), new PanelTab(m_tabs), new AlertsTab(m_tabs), new HistoryTab(m_tabs),
         new DeveloperTab(std::move(places), m_tabs)};
