@@ -1015,5 +1015,17 @@
         <source>Amber means worth a look; red means under strain. Memory follows Linux&apos;s own pressure level, and heat follows the thermal state.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -117,9 +117,9 @@ HistoryPage::HistoryPage(QWidget* parent)
     auto* charts = new QVBoxLayout(m_charts);
     charts->setContentsMargins(0, 0, 0, 0);
     charts->setSpacing(8);
-    for (const auto* name : {"CPU", "Memory", "Disk", "Network"}) {
-        charts->addWidget(Look::heading(QString::fromLatin1(name), m_charts));
-        m_chartViews.push_back(new PaintedView(QString::fromLatin1(name), QSize(560, 120), m_charts));
+    for (const QString& name : {Vexel::tr("CPU"), Vexel::tr("Memory"), Vexel::tr("Disk"), Vexel::tr("Network")}) {
+        charts->addWidget(Look::heading(name, m_charts));
+        m_chartViews.push_back(new PaintedView(name, QSize(560, 120), m_charts));
         charts->addWidget(m_chartViews.back());
     }
     m_gapNote = Look::explanation({}, m_charts);
@@ -216,10 +216,12 @@ void HistoryPage::showCharts(const AppModel& model)
     frame.gapAfter = gap;
     frame.times = timeTicks(history.from, history.to, model.historyRange, TimeZone::current());
     const std::array<Chart, chartsShown> charts{
-        shareChart(points, frame, {{"Average", &SysPoint::cpu}, {"Peak", &SysPoint::cpuMax}}),
-        shareChart(points, frame, {{"In use", &SysPoint::mem}}),
-        rateChart(points, frame, {{"Read", &SysPoint::diskR}, {"Write", &SysPoint::diskW}}, Fmt::RateUnit::bytes),
-        rateChart(points, frame, {{"Download", &SysPoint::netIn}, {"Upload", &SysPoint::netOut}}, model.networkUnit())};
+        shareChart(points, frame, {{Vexel::tr("Average"), &SysPoint::cpu}, {Vexel::tr("Peak"), &SysPoint::cpuMax}}),
+        shareChart(points, frame, {{Vexel::tr("In use"), &SysPoint::mem}}),
+        rateChart(points, frame, {{Vexel::tr("Read"), &SysPoint::diskR}, {Vexel::tr("Write"), &SysPoint::diskW}},
+            Fmt::RateUnit::bytes),
+        rateChart(points, frame, {{Vexel::tr("Download"), &SysPoint::netIn}, {Vexel::tr("Upload"), &SysPoint::netOut}},
+            model.networkUnit())};
     for (size_t i = 0; i < charts.size(); ++i)
         m_chartViews[i]->draw(charts[i]);
     bool gaps = false;
