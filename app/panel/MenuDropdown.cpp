@@ -112,7 +112,9 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     setWindowTitle(Vexel::tr("%1 — Vexel").arg(qs(title(kind))));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    setFixedWidth(340);
+    // As wide as its buttons need in the user's language, and never narrower than 340.
+    setMinimumWidth(340);
+    setMaximumWidth(520);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(8);
