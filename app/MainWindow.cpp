@@ -167,12 +167,4 @@ void MainWindow::showRoute(Route route)
     m_sidebar->setCurrentRow(static_cast<int>(route));
 }
 
-QStringList MainWindow::sidebarTitles() const
-{
-    QStringList titles;
-    for (int i = 0; i < m_sidebar->count(); ++i)
-        titles << m_sidebar->item(i)->text();
-    return titles;
-}
-
 } // namespace vexel

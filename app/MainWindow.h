@@ -33,8 +33,6 @@ public:
     [[nodiscard]] Route currentRoute() const;
     void showRoute(Route route);
 
-    // The sidebar's titles, top to bottom.
-    [[nodiscard]] QStringList sidebarTitles() const;
     // Ctrl+F: the Apps page, its search field focused and its text selected.
     void focusSearch();
     // The page of a route.

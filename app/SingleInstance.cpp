@@ -59,22 +59,28 @@ SingleInstance::Claim SingleInstance::claim()
     return reply.isValid() ? Claim::another : Claim::noBus;
 }
 
-bool SingleInstance::activateRunning()
+namespace {
+
+// Calls `member` of the Vexel running in this session; whether it answered.
+bool askRunning(const QString& member, const QVariantList& arguments)
 {
-    auto call
-        = QDBusMessage::createMethodCall(serviceName, objectPath, applicationInterface, QStringLiteral("Activate"));
-    call << platformData();
+    auto call = QDBusMessage::createMethodCall(
+        SingleInstance::serviceName, SingleInstance::objectPath, applicationInterface, member);
+    call.setArguments(arguments);
     const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, activateMilliseconds);
     return reply.type() == QDBusMessage::ReplyMessage;
 }
 
+} // namespace
+
+bool SingleInstance::activateRunning()
+{
+    return askRunning(QStringLiteral("Activate"), {platformData()});
+}
+
 bool SingleInstance::quitRunning()
 {
-    auto call = QDBusMessage::createMethodCall(
-        serviceName, objectPath, applicationInterface, QStringLiteral("ActivateAction"));
-    call << QStringLiteral("quit") << QVariantList() << platformData();
-    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, activateMilliseconds);
-    return reply.type() == QDBusMessage::ReplyMessage;
+    return askRunning(QStringLiteral("ActivateAction"), {QStringLiteral("quit"), QVariantList(), platformData()});
 }
 
 bool SingleInstance::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)

@@ -40,11 +40,7 @@ std::string historyAdvice(const std::string& error, const std::filesystem::path&
 
 std::filesystem::path autostartFile()
 {
-    const auto config = environmentVariable("XDG_CONFIG_HOME");
-    const std::filesystem::path folder = config && !config->empty() && config->front() == '/'
-        ? std::filesystem::path(*config)
-        : std::filesystem::path(homeFolder()) / ".config";
-    return folder / "autostart" / "dev.vexel.Vexel.desktop";
+    return std::filesystem::path(configFolder()) / "autostart" / "dev.vexel.Vexel.desktop";
 }
 
 } // namespace

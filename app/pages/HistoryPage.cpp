@@ -9,6 +9,7 @@
 #include "look/PaintedView.h"
 #include "model/AppModel.h"
 #include "pages/TimeTicks.h"
+#include "pages/Traces.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
 #include "time/TimeZone.h"
@@ -45,7 +46,7 @@ Chart shareChart(
     const std::vector<SysPoint>& points, Chart chart, std::vector<std::pair<QString, double SysPoint::*>> fields)
 {
     chart.top = 100;
-    chart.valueText = [](double value) { return QString::number(std::lround(value)) + "%"; };
+    chart.valueText = shareText;
     for (const auto& [name, field] : fields) {
         Chart::Series series{name, {}};
         for (const auto& point : points)

@@ -10,6 +10,7 @@
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
 #include "pages/TopApps.h"
+#include "pages/Traces.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
 
@@ -114,7 +115,7 @@ void OverviewPage::showToday(const AppModel& model)
     for (const auto& point : model.todaySeries)
         trace.values.push_back(point.cpu);
     trace.strain = model.strain(MenuItemKind::cpu);
-    trace.valueText = [](double share) { return QString::number(std::lround(share * 100)) + QStringLiteral("%"); };
+    trace.valueText = [](double share) { return shareText(share * 100); };
     m_todayTrace->draw(trace);
     BarBank week;
     week.fractions = weekShares(model.week);

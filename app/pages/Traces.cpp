@@ -11,18 +11,23 @@ namespace {
 
 constexpr double quietRate = 1000; // bytes per second
 
-QString percent(double value)
+} // namespace
+
+QString shareText(double percent)
 {
-    return QString::number(std::lround(value)) + QStringLiteral("%");
+    return QString::fromStdString(Fmt::percent(percent / 100));
 }
 
-} // namespace
+QString rateText(double bytesPerSecond)
+{
+    return QString::fromStdString(Fmt::rate(bytesPerSecond, Fmt::RateUnit::bytes));
+}
 
 Sparkline shareTrace(const RecentRing& ring, double RingSample::*field, Strain strain)
 {
     Sparkline trace;
     trace.top = 100;
-    trace.valueText = percent;
+    trace.valueText = shareText;
     trace.strain = strain;
     for (const auto& sample : ring.samples())
         trace.values.push_back(sample.*field);
@@ -33,7 +38,7 @@ Sparkline shareTrace(const RecentRing& ring, std::optional<double> RingSample::*
 {
     Sparkline trace;
     trace.top = 100;
-    trace.valueText = percent;
+    trace.valueText = shareText;
     trace.strain = strain;
     for (const auto& sample : ring.samples())
         trace.values.push_back((sample.*field).value_or(NAN));
@@ -45,7 +50,7 @@ Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain st
     Sparkline trace;
     trace.strain = strain;
     trace.top = std::max(ring.peak(field).value_or(0), quietRate);
-    trace.valueText = [](double value) { return QString::fromStdString(Fmt::rate(value, Fmt::RateUnit::bytes)); };
+    trace.valueText = rateText;
     for (const auto& sample : ring.samples())
         trace.values.push_back(sample.*field);
     return trace;

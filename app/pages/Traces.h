@@ -14,4 +14,8 @@ namespace vexel {
 [[nodiscard]] Sparkline shareTrace(const RecentRing& ring, std::optional<double> RingSample::*field, Strain strain);
 [[nodiscard]] Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain strain);
 
+// A trace's values in words: a share in percent ("16%"), a rate ("561 KB/s").
+[[nodiscard]] QString shareText(double percent);
+[[nodiscard]] QString rateText(double bytesPerSecond);
+
 } // namespace vexel

@@ -11,6 +11,7 @@
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
 #include "pages/TopApps.h"
+#include "pages/Traces.h"
 #include "panel/MenuReading.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
@@ -157,10 +158,8 @@ void MenuDropdown::showModel(const AppModel& model)
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
     Sparkline trace{reading.trace, reading.traceTop, reading.strain, {}};
-    if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk)
-        trace.valueText = [](double value) { return qs(Fmt::rate(value, Fmt::RateUnit::bytes)); };
-    else
-        trace.valueText = [](double value) { return QString::number(std::lround(value)) + QStringLiteral("%"); };
+    const bool rate = m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk;
+    trace.valueText = rate ? rateText : shareText;
     m_trace->draw(trace);
     m_trace->setVisible(canGraph(m_kind));
     m_traceCaption->setVisible(canGraph(m_kind));

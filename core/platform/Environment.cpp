@@ -19,6 +19,12 @@ std::string homeFolder()
     return homeFolder(environmentVariable);
 }
 
+std::string configFolder()
+{
+    const auto config = environmentVariable("XDG_CONFIG_HOME");
+    return config && config->starts_with('/') ? *config : homeFolder() + "/.config";
+}
+
 std::string homeFolder(const std::function<std::optional<std::string>(const char*)>& getenv)
 {
     if (const auto home = getenv("HOME"); home && !home->empty())

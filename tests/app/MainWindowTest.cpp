@@ -1,33 +1,11 @@
 #include "MainWindow.h"
 #include "DemoModel.h"
-#include "pages/OverviewPage.h"
 #include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
-#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 using namespace vexel;
-
-TEST(MainWindow, SidebarListsTheTenRoutesInOrder)
-{
-    MainWindow window;
-    EXPECT_EQ(window.sidebarTitles(),
-        (QStringList{
-            "Overview", "Apps", "CPU", "Memory", "Disk", "Network", "GPU", "Power & Heat", "History", "Developers"}));
-    EXPECT_TRUE(window.overview()->waitingForFirstReading());
-    EXPECT_EQ(window.currentRoute(), Route::overview);
-}
-
-TEST(MainWindow, ChoosingARouteAnnouncesIt)
-{
-    MainWindow window;
-    QSignalSpy spy(&window, &MainWindow::routeChanged);
-    window.showRoute(Route::developers);
-    ASSERT_EQ(spy.count(), 1);
-    EXPECT_EQ(spy.at(0).at(0).value<Route>(), Route::developers);
-    EXPECT_EQ(window.currentRoute(), Route::developers);
-}
 
 TEST(Routes, IdentifiersRoundTripAndShortcutsAreDistinct)
 {

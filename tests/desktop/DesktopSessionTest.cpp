@@ -7,6 +7,7 @@
 // compositor (Weston, headless) the window shows and an item's dropdown opens.
 
 #include "io/Files.h"
+#include "platform/Environment.h"
 #include "support/ChildProcess.h"
 #include "support/FakePortal.h"
 #include "support/RunTool.h"
@@ -80,18 +81,12 @@ QImage photograph(uint32_t window, const std::filesystem::path& file)
     return run.status == 0 ? QImage(QString::fromStdString(file.string())) : QImage();
 }
 
-std::optional<std::string> variable(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value ? std::optional<std::string>(value) : std::nullopt;
-}
-
 // Weston in headless mode, drawing with pixman so that the screen can be
 // photographed, on a socket of its own; Wayland clients started while it
 // lives find it through the environment.
 struct Weston {
     TempFolder runtime{"vexel-wayland"};
-    std::optional<std::string> runtimeBefore = variable("XDG_RUNTIME_DIR");
+    std::optional<std::string> runtimeBefore = vexel::environmentVariable("XDG_RUNTIME_DIR");
     std::optional<ChildProcess> compositor;
 
     Weston()

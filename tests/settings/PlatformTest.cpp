@@ -9,7 +9,7 @@ using namespace vexel;
 // macOS texts themselves are checked where the reports use them.
 TEST(Platform, LinuxTextsNameTheComputerTruthfully)
 {
-    EXPECT_EQ(detail(ThermalLevel::serious, Platform::linux), "Hot. Linux is slowing the processor to cool down.");
-    EXPECT_EQ(detail(ThermalLevel::critical, Platform::linux), "Very hot. Linux is slowing everything down hard.");
+    for (const auto level : {ThermalLevel::serious, ThermalLevel::critical})
+        EXPECT_EQ(detail(level, Platform::linux).find("Mac"), std::string::npos);
     EXPECT_EQ(livePlatform(), Platform::linux);
 }

@@ -38,33 +38,6 @@ TEST(DemoWorld, TwoWorldsAdvancedAlikeAreIdentical)
     EXPECT_NE(c.procs()[40].rec.cpuTime, a.procs()[40].rec.cpuTime);
 }
 
-TEST(DemoWorld, LoadWobblesWithinBoundsAndStrainMultipliesTheHeavyOnes)
-{
-    DemoWorld world;
-    std::vector<double> before;
-    for (const auto& proc : world.procs())
-        before.push_back(proc.rec.cpuTime.value_or(0));
-    world.advance(10);
-    for (size_t i = 0; i < world.procs().size(); ++i) {
-        const auto& proc = world.procs()[i];
-        const double used = proc.rec.cpuTime.value_or(0) - before[i];
-        EXPECT_LE(used, proc.cpu * 10 * 1.35 + 1e-9) << proc.rec.name;
-        EXPECT_GE(used, proc.cpu * 10 * 0.65 - 1e-9) << proc.rec.name;
-    }
-    world.strained = true;
-    const double sourceKit = world.find("SourceKitService")->rec.cpuTime.value_or(0);
-    const double zombie = world.find("git")->rec.cpuTime.value_or(0);
-    world.advance(10);
-    const auto* kit = world.find("SourceKitService");
-    const double used = kit->rec.cpuTime.value_or(0) - sourceKit;
-    EXPECT_GE(used, kit->cpu * 10 * 0.65 * 30 - 1e-9);
-    EXPECT_LE(used, kit->cpu * 10 * 1.35 * 30 + 1e-9);
-    EXPECT_EQ(world.find("git")->rec.cpuTime.value_or(0), zombie); // zombies never run
-    const auto snapshot = world.systemSource->read(0);
-    EXPECT_EQ(snapshot.memory.pressure, MemoryPressure::warning);
-    EXPECT_EQ(snapshot.thermal, ThermalLevel::serious);
-}
-
 TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
 {
     DemoWorld world;

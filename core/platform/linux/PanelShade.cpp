@@ -45,8 +45,7 @@ PanelShade xfce(std::string_view channel)
 
 PanelSettings PanelSettings::live()
 {
-    const auto config = environmentVariable("XDG_CONFIG_HOME");
-    const std::string folder = config && config->starts_with('/') ? *config : homeFolder() + "/.config";
+    const std::string folder = configFolder();
     PanelSettings settings;
     settings.desktop = environmentVariable("XDG_CURRENT_DESKTOP").value_or("");
     settings.plasmarc = Files::read(folder + "/plasmarc").value_or("");
