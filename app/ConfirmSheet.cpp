@@ -75,9 +75,12 @@ void ConfirmSheet::show(const ConfirmRequest* request)
         hide();
         return;
     }
-    m_title->setText(QString::fromStdString(request->title));
-    m_message->setText(QString::fromStdString(request->message));
-    m_confirm->setText(QString::fromStdString(request->button));
+    m_title->setText(Vexel::say(request->title));
+    QString message = Vexel::say(request->message);
+    for (const auto& line : request->lines)
+        message += u'\n' + Vexel::say(line);
+    m_message->setText(message);
+    m_confirm->setText(Vexel::say(request->button));
     m_destructive = request->destructive;
     styleConfirm(appearanceOf(palette()));
     place();
@@ -106,8 +109,8 @@ void ConfirmSheet::keyPressEvent(QKeyEvent* event)
 void ConfirmSheet::place()
 {
     const int width = std::min(sheetWidth, parentWidget()->width() - 40);
-    setFixedWidth(width);
-    adjustSize();
+    // As tall as its wrapped message at this width: a longer language takes more lines.
+    setFixedSize(width, std::max(sizeHint().height(), layout()->heightForWidth(width)));
     move((parentWidget()->width() - width) / 2, 24);
 }
 

@@ -1,15 +1,19 @@
 #include "WindowKeeper.h"
 
 #include "model/AppModel.h"
+#include "texts/Vexel.h"
 
 #include <QCloseEvent>
 #include <QWidget>
 
 namespace vexel {
 
-const char* const WindowKeeper::noPanelText
-    = "There is no status area in this desktop's panel, so Vexel's readings stay in this window. Closing it keeps "
-      "Vexel recording in the taskbar; Ctrl+Q quits. On GNOME, the AppIndicator extension adds a status area.";
+QString WindowKeeper::noPanelText()
+{
+    return Vexel::tr("There is no status area in this desktop's panel, so Vexel's readings stay in this window. "
+                     "Closing it keeps Vexel recording in the taskbar; Ctrl+Q quits. On GNOME, the AppIndicator "
+                     "extension adds a status area.");
+}
 
 WindowKeeper::WindowKeeper(QWidget& window, AppModel& model)
     : m_window(window)
@@ -23,7 +27,7 @@ void WindowKeeper::setPanel(Panel panel)
     m_panel = panel;
     if (!panel.host && !m_told) {
         m_told = true;
-        m_model.tell(noPanelText);
+        m_model.tell(noPanelText());
     }
     if (!panel.carriesReadings && m_window.isHidden() && m_outOfTheWay) {
         // Hidden with the items as the way back, and the items went: back to the taskbar.

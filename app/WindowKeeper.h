@@ -35,7 +35,7 @@ public:
     void showAtStart(bool hidden);
 
     // Said once, in the window, when there is no status area for the readings.
-    static const char* const noPanelText;
+    [[nodiscard]] static QString noPanelText();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -36,7 +36,7 @@ struct Demo {
         const VexelPaths paths(folder.path().toStdString());
         model = std::make_unique<AppModel>(AppModel::Setup{paths,
             [this, paths] {
-                std::optional<std::string> error;
+                std::optional<Sentence> error;
                 auto sampler = std::make_unique<Sampler>(world.monitor(), Sampler::openStore(paths, error), paths);
                 sampler->beforeSample = [this](double) { world.advance(2); };
                 return sampler;

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The translation source of the window, the panel and the settings: lupdate
-# collects every Vexel::tr sentence of app/ into translations/vexel_en.ts,
-# which translators start from. Its English plural forms ("%n process has",
+# collects every Vexel::tr sentence of app/, and the texts the core marks with
+# VEXEL_WORDS, into translations/vexel_en.ts, which translators start from. Its English plural forms ("%n process has",
 # "%n processes have") are written in by hand and kept by lupdate; the build
 # compiles it into the app.
 #   translations.sh check BUILD   updates a copy in BUILD/translations and fails
@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 lupdate=/usr/lib/qt6/bin/lupdate
 
 collect() {
-  "$lupdate" -silent -locations none -no-obsolete -source-language en -target-language en app -ts "$1"
+  "$lupdate" -silent -locations none -tr-function-alias QT_TRANSLATE_NOOP+=VEXEL_WORDS,QT_TRANSLATE_N_NOOP+=VEXEL_COUNTED -no-obsolete -source-language en -target-language en app core -ts "$1"
 }
 
 case "${1:-}" in

@@ -1027,5 +1027,686 @@
         <source>In use</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 will stop immediately, without a chance to save. Unsaved work in it will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 will be asked to quit, just like choosing Quit from its menu. It may ask you to save first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Its %n helper process(es) will end with it.</source>
+        <translation>
+            <numerusform>Its %n helper process will end with it.</numerusform>
+            <numerusform>Its %n helper processes will end with it.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be quit from Vexel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has already quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force quit %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 didn&apos;t respond to Quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force quit %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asked %1 to quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (process %2) has already exited.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force stop %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends SIGKILL to process %1. It ends at once and can&apos;t clean up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends SIGTERM to process %1, asking it to shut down cleanly — like pressing Ctrl-C in its terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t signal %1 (process %2). It may have already exited.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent SIGKILL to %1 (process %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asked %1 (process %2) to stop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is still running after SIGTERM.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk that holds %1 is full: free some space there. Live readings go on, and the minute waiting is written once there is room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel can&apos;t write in %1: check that the folder and its files are yours and writable. Live readings go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Live readings go on, and Vexel tries the history again each minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a failure and what to do about it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase all history?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel forgets every sample it has kept, up to a year. This can&apos;t be undone. New samples start right away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History erased. New samples start now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an app in Apps first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open the history: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel couldn&apos;t finish a reading: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on recording in the file now at that path, starting with the minute it hadn&apos;t written yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel&apos;s recorder stopped, so this window records the history now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t save the settings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel&apos;s recorder (process %1) keeps the history, so it can&apos;t be erased from this window. Stop the recorder first (systemctl --user stop vexel-recorder).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no history to erase.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mostly %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mostly %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capacity left compares the battery&apos;s full charge today with when it was new. Below 80% it holds noticeably less.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  estimated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  ·  CPU %2  ·  %3  ·  process %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Idle for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Listening on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a reading&apos;s name and its value: CPU 15%</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 read, %3 written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 down, %3 up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Swap used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>a sensor: its chip and its label</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no status area in this desktop&apos;s panel, so Vexel&apos;s readings stay in this window. Closing it keeps Vexel recording in the taskbar; Ctrl+Q quits. On GNOME, the AppIndicator extension adds a status area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory pressure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disk writes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery drain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 kept the processor busy for %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The processor was busy for %1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory pressure reached %1 while the most memory was held by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory pressure reached %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 written to disk by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 written to disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 moved over the network by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 moved over the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ran hot for %1 min while the busiest app was %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ran hot for %1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery fell %1 points in %2 min while the most energy went to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery fell %1 points in %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SSD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laptop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chipset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cool</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slightly warm. Fans may be audible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hot. %1 is slowing the processor to cool down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very hot. %1 is slowing everything down hard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running at full speed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t find the vexel command at %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is already a file of yours; Vexel leaves it alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t link %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Installed: %1 runs %2. If your shell doesn&apos;t find vexel, add ~/.local/bin to your PATH.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Claude Code&apos;s claude command isn&apos;t installed. Run this line in a terminal:
+%1
+Or paste this into your assistant&apos;s MCP settings:
+%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Run this line in a terminal:
+%2
+Or paste this into your assistant&apos;s MCP settings:
+%3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>claude said: %1Run this line in a terminal:
+%2
+Or paste this into your assistant&apos;s MCP settings:
+%3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added Vexel&apos;s read-only MCP server to Claude Code.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no readings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: average %2, highest %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> percent</source>
+        <comment>read out after a figure: 15 percent</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no readings yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now %1, highest %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apps, not processes: every helper process counted with its app, processes grouped under the apps and services that started them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cores: %1 performance and %2 efficiency</source>
+        <translation>
+            <numerusform>%n core: %1 performance and %2 efficiency</numerusform>
+            <numerusform>%n cores: %1 performance and %2 efficiency</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n core(s)</source>
+        <translation>
+            <numerusform>%n core</numerusform>
+            <numerusform>%n cores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Your assistant can ask what&apos;s busy, what happened overnight, which dev servers are idle and what&apos;s on a port. It can&apos;t quit or stop anything — it has to ask you to do it here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When node, python, rails, a database or your own build listens on a port, it shows up here under its project.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>process %1, reachable from the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>process %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n container(s)</source>
+        <translation>
+            <numerusform>%n container</numerusform>
+            <numerusform>%n containers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>  ·  CPU %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 free of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat or fast battery drain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Core time: an hour of one core fully busy. Apps that never made the top dozen at a moment aren&apos;t kept, so small ones may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel takes a reading every few seconds and keeps up to a year, thinning old readings to hourly so the file stays small. Come back in a few minutes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disk %1 written, %2 read  ·  Network %3 down, %4 up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a day of a month: 24 Nov</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1% within an hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A server counts as idle when it hasn&apos;t used any CPU (served a request, rebuilt) for this long. Vexel only flags it — stopping is always up to you, and it asks first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes for 5 weeks and hourly after that — so a year stays small.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The history takes %1 on disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measuring the history&apos;s size…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel&apos;s recorder (process %1) keeps it; this window shows it and takes over when the recorder stops.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each reading is its own item, shown left to right in this order. Use the arrows to reorder. A reading turns amber or red in the menu bar when it&apos;s under strain; thresholds are in Alerts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each reading is its own item, shown left to right in this order. Use the arrows to reorder. A reading turns amber or red in the panel when it&apos;s under strain; thresholds are in Alerts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With no menu bar items, Vexel keeps its Dock icon so you can always get back to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With no panel items, Vexel keeps its window in the taskbar so you can always get back to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 off, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -14,12 +14,27 @@ const ProcRow* mainProcess(const AppGroup& app)
     return app.processes.empty() ? nullptr : &app.processes.front();
 }
 
-std::string helperSentence(const AppGroup& app)
+// The question's words about the app and the helpers that end with it.
+std::vector<Sentence> quitMessage(const AppGroup& app, bool force)
 {
-    const size_t helpers = app.processes.size() > 1 ? app.processes.size() - 1 : 0;
-    if (helpers == 0)
-        return {};
-    return " Its " + std::to_string(helpers) + " helper process" + (helpers == 1 ? "" : "es") + " will end with it.";
+    std::vector<Sentence> message{force
+            ? Sentence{VEXEL_WORDS("vexel::Vexel",
+                           "%1 will stop immediately, without a chance to save. Unsaved work in it will be lost."),
+                {{app.name}}}
+            : Sentence{
+                VEXEL_WORDS("vexel::Vexel",
+                    "%1 will be asked to quit, just like choosing Quit from its menu. It may ask you to save first."),
+                {{app.name}}}};
+    if (app.processes.size() > 1)
+        message.emplace_back(VEXEL_COUNTED("vexel::Vexel", "Its %n helper process(es) will end with it."),
+            std::vector<Sentence::Value>{}, static_cast<int>(app.processes.size() - 1));
+    return message;
+}
+
+// "node (process 385)"
+std::vector<Sentence::Value> who(const std::string& name, int32_t pid)
+{
+    return {{name}, {std::to_string(pid)}};
 }
 
 } // namespace
@@ -41,7 +56,7 @@ bool ActionFlow::canQuit(const AppGroup& app, uint32_t myUID, int32_t myPid)
 void ActionFlow::requestQuit(const AppGroup& app, bool force)
 {
     if (!canQuit(app, m_myUID, m_myPid)) {
-        m_hooks.toast(app.name + " can't be quit from Vexel.");
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 can't be quit from Vexel."), {{app.name}}});
         return;
     }
     // The main process first, then its helpers, which a forced quit ends too.
@@ -54,16 +69,14 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
             if (auto process = m_actions.hold(row.pid))
                 held.push_back(std::move(process));
     if (held.empty()) {
-        m_hooks.toast(app.name + " has already quit.");
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 has already quit."), {{app.name}}});
         return;
     }
     ConfirmRequest request;
-    request.title = (force ? "Force quit " : "Quit ") + app.name + "?";
-    request.message = force
-        ? app.name + " will stop immediately, without a chance to save. Unsaved work in it will be lost."
-        : app.name + " will be asked to quit, just like choosing Quit from its menu. It may ask you to save first.";
-    request.message += helperSentence(app);
-    request.button = force ? "Force Quit" : "Quit";
+    request.title = {
+        force ? VEXEL_WORDS("vexel::Vexel", "Force quit %1?") : VEXEL_WORDS("vexel::Vexel", "Quit %1?"), {{app.name}}};
+    request.message = quitMessage(app, force);
+    request.button = {force ? VEXEL_WORDS("vexel::Vexel", "Force Quit") : VEXEL_WORDS("vexel::Vexel", "Quit")};
     request.destructive = force;
     request.confirm = [this, app, held, force] { performQuit(app, held, force); };
     m_hooks.ask(std::move(request));
@@ -72,34 +85,38 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
 void ActionFlow::performQuit(const AppGroup& app, const std::vector<Held>& processes, bool force)
 {
     if (!m_actions.quit(app, processes, force))
-        m_hooks.toast(app.name + " didn't respond to Quit.");
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 didn't respond to Quit."), {{app.name}}});
     else
-        m_hooks.toast(force ? "Force quit " + app.name : "Asked " + app.name + " to quit.");
+        m_hooks.toast(
+            {force ? VEXEL_WORDS("vexel::Vexel", "Force quit %1") : VEXEL_WORDS("vexel::Vexel", "Asked %1 to quit."),
+                {{app.name}}});
 }
 
-void ActionFlow::requestStop(int32_t pid, const std::string& name, const std::vector<std::string>& context, bool force)
+void ActionFlow::requestStop(int32_t pid, const std::string& name, const std::vector<Sentence>& context, bool force)
 {
     auto process = m_actions.hold(pid);
     if (!process) {
-        m_hooks.toast(name + " (process " + std::to_string(pid) + ") has already exited.");
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 (process %2) has already exited."), who(name, pid)});
         return;
     }
     askStop(process, name, context, force);
 }
 
-void ActionFlow::askStop(
-    const Held& process, const std::string& name, const std::vector<std::string>& context, bool force)
+void ActionFlow::askStop(const Held& process, const std::string& name, const std::vector<Sentence>& context, bool force)
 {
     const int32_t pid = process->pid();
     ConfirmRequest request;
-    request.title = (force ? "Force stop " : "Stop ") + name + "?";
-    request.message = force
-        ? "Sends SIGKILL to process " + std::to_string(pid) + ". It ends at once and can't clean up."
-        : "Sends SIGTERM to process " + std::to_string(pid)
-            + ", asking it to shut down cleanly — like pressing Ctrl-C in its terminal.";
-    for (const auto& line : context)
-        request.message += "\n" + line;
-    request.button = force ? "Force Stop" : "Stop";
+    request.title
+        = {force ? VEXEL_WORDS("vexel::Vexel", "Force stop %1?") : VEXEL_WORDS("vexel::Vexel", "Stop %1?"), {{name}}};
+    request.message = {force
+            ? Sentence{VEXEL_WORDS("vexel::Vexel", "Sends SIGKILL to process %1. It ends at once and can't clean up."),
+                {{std::to_string(pid)}}}
+            : Sentence{VEXEL_WORDS("vexel::Vexel",
+                           "Sends SIGTERM to process %1, asking it to shut down cleanly — like pressing Ctrl-C in its "
+                           "terminal."),
+                {{std::to_string(pid)}}}};
+    request.lines = context;
+    request.button = {force ? VEXEL_WORDS("vexel::Vexel", "Force Stop") : VEXEL_WORDS("vexel::Vexel", "Stop")};
     request.destructive = force;
     request.confirm = [this, process, name, force] { performStop(process, name, force); };
     m_hooks.ask(std::move(request));
@@ -107,19 +124,23 @@ void ActionFlow::askStop(
 
 void ActionFlow::performStop(const Held& process, const std::string& name, bool force)
 {
-    const std::string who = name + " (process " + std::to_string(process->pid()) + ")";
+    const auto named = who(name, process->pid());
     if (!m_actions.signal(*process, force ? SIGKILL : SIGTERM)) {
-        m_hooks.toast("Couldn't signal " + who + ". It may have already exited.");
+        m_hooks.toast(
+            {VEXEL_WORDS("vexel::Vexel", "Couldn't signal %1 (process %2). It may have already exited."), named});
         return;
     }
-    m_hooks.toast(force ? "Sent SIGKILL to " + who + "." : "Asked " + who + " to stop.");
+    m_hooks.toast({force ? VEXEL_WORDS("vexel::Vexel", "Sent SIGKILL to %1 (process %2).")
+                         : VEXEL_WORDS("vexel::Vexel", "Asked %1 (process %2) to stop."),
+        named});
     m_hooks.rescanPortsSoon();
     if (force)
         return;
     // A process that ignores SIGTERM is offered the force, never sent it unasked.
     m_hooks.after(forceOfferDelay, [this, process, name] {
         if (m_actions.isAlive(*process))
-            askStop(process, name, {name + " is still running after SIGTERM."}, true);
+            askStop(
+                process, name, {{VEXEL_WORDS("vexel::Vexel", "%1 is still running after SIGTERM."), {{name}}}}, true);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "actions/ProcessActions.h"
 #include "grouping/AppGroup.h"
+#include "text/Sentence.h"
 
 #include <cstdint>
 #include <functional>
@@ -13,9 +14,10 @@ namespace vexel {
 // A question put to the user before anything changes: shown as a sheet, run
 // only on confirmation; cancelling it changes nothing.
 struct ConfirmRequest {
-    std::string title;
-    std::string message;
-    std::string button;
+    Sentence title;
+    std::vector<Sentence> message; // one paragraph
+    std::vector<Sentence> lines; // under it, a line each (a server's port, its project)
+    Sentence button;
     bool destructive = false;
     std::function<void()> confirm;
 };
@@ -28,7 +30,7 @@ class ActionFlow {
 public:
     struct Hooks {
         std::function<void(ConfirmRequest)> ask;
-        std::function<void(std::string)> toast;
+        std::function<void(Sentence)> toast;
         std::function<void()> rescanPortsSoon; // about a second after a stop
         std::function<void(double seconds, std::function<void()>)> after;
     };
@@ -50,12 +52,12 @@ public:
     // long the sheet stays open; a process that ended before is said so.
     void requestQuit(const AppGroup& app, bool force);
     void performQuit(const AppGroup& app, const std::vector<Held>& processes, bool force);
-    // `context` adds lines to the message (a server's port, its project).
-    void requestStop(int32_t pid, const std::string& name, const std::vector<std::string>& context, bool force);
+    // `context` adds lines under the message (a server's port, its project).
+    void requestStop(int32_t pid, const std::string& name, const std::vector<Sentence>& context, bool force);
     void performStop(const Held& process, const std::string& name, bool force);
 
 private:
-    void askStop(const Held& process, const std::string& name, const std::vector<std::string>& context, bool force);
+    void askStop(const Held& process, const std::string& name, const std::vector<Sentence>& context, bool force);
 
     ProcessActions& m_actions;
     Hooks m_hooks;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/Sentence.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,7 +11,7 @@ namespace vexel::CommandLineSetup {
 // What a setup step did, in a sentence for the settings tab.
 struct Outcome {
     bool done = false;
-    std::string text;
+    Sentence text;
 };
 
 // Links the vexel command at `vexelPath` into the user's ~/.local/bin (made

@@ -1,6 +1,7 @@
 #include "look/Chart.h"
 
 #include "look/StrainColours.h"
+#include "texts/Vexel.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -131,8 +132,8 @@ QString Chart::describe() const
             ++count;
         }
         parts << (count == 0
-                ? QStringLiteral("%1: no readings").arg(one.name)
-                : QStringLiteral("%1: average %2, highest %3").arg(one.name, valueText(sum / count), valueText(peak)));
+                ? Vexel::tr("%1: no readings").arg(one.name)
+                : Vexel::tr("%1: average %2, highest %3").arg(one.name, valueText(sum / count), valueText(peak)));
     }
     return parts.join(QStringLiteral("; "));
 }

@@ -1,5 +1,7 @@
 #include "look/PaintedView.h"
 
+#include "texts/Vexel.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPainter>
@@ -72,7 +74,7 @@ void PaintedView::paintEvent(QPaintEvent*)
 
 QString spoken(QString text)
 {
-    return text.replace(QStringLiteral("%"), QStringLiteral(" percent"));
+    return text.replace(QStringLiteral("%"), Vexel::tr(" percent", "read out after a figure: 15 percent"));
 }
 
 } // namespace vexel

@@ -1,6 +1,7 @@
 #include "look/Sparkline.h"
 
 #include "look/StrainColours.h"
+#include "texts/Vexel.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -66,8 +67,8 @@ QString Sparkline::describe() const
         peak = std::max(peak.value_or(value), value);
     }
     if (!last)
-        return QStringLiteral("no readings yet");
-    return QStringLiteral("now %1, highest %2").arg(valueText(*last), valueText(*peak));
+        return Vexel::tr("no readings yet");
+    return Vexel::tr("now %1, highest %2").arg(valueText(*last), valueText(*peak));
 }
 
 } // namespace vexel

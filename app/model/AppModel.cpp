@@ -8,6 +8,7 @@
 #include "platform/Environment.h"
 #include "spikes/SpikeFinder.h"
 #include "texts/PageTexts.h"
+#include "texts/Vexel.h"
 
 #include <QCoreApplication>
 
@@ -25,17 +26,19 @@ constexpr double awayAfter = 600;
 
 // What the user can do about a failing history, after SQLite's or the file
 // system's words for it.
-std::string historyAdvice(const std::string& error, const std::filesystem::path& folder)
+QString historyAdvice(const std::string& error, const std::filesystem::path& folder)
 {
+    const QString where = QString::fromStdString(folder.string());
     if (error.find("disk is full") != std::string::npos || error.find("No space left") != std::string::npos)
-        return "The disk that holds " + folder.string()
-            + " is full: free some space there. Live readings go on, and the minute waiting is written once "
-              "there is room.";
+        return Vexel::tr("The disk that holds %1 is full: free some space there. Live readings go on, and the "
+                         "minute waiting is written once there is room.")
+            .arg(where);
     if (error.find("ermission denied") != std::string::npos || error.find("readonly") != std::string::npos
         || error.find("read-only") != std::string::npos)
-        return "Vexel can't write in " + folder.string()
-            + ": check that the folder and its files are yours and writable. Live readings go on.";
-    return "Live readings go on, and Vexel tries the history again each minute.";
+        return Vexel::tr("Vexel can't write in %1: check that the folder and its files are yours and writable. "
+                         "Live readings go on.")
+            .arg(where);
+    return Vexel::tr("Live readings go on, and Vexel tries the history again each minute.");
 }
 
 std::filesystem::path autostartFile()
@@ -53,7 +56,7 @@ AppModel::AppModel(Setup setup)
     , m_actions(std::move(setup.actions))
 {
     ActionFlow::Hooks hooks{[this](ConfirmRequest request) { ask(std::move(request)); },
-        [this](std::string text) { tell(std::move(text)); },
+        [this](const Sentence& said) { tell(said); },
         [this] {
             // The stopped server leaves the list at the next scan, about a second on.
             QTimer::singleShot(1000, this, [this] {
@@ -75,7 +78,7 @@ AppModel::AppModel(Setup setup)
         if (sampler.openError())
             m_openError = *sampler.openError();
     });
-    storeError = m_openError;
+    setStoreError(m_openError);
     m_timer.callOnTimeout(this, [this] { refresh(false); });
 }
 
@@ -135,11 +138,11 @@ void AppModel::shutdown()
 
 void AppModel::saveSettings(SettingsFile::Saving saving)
 {
-    onSampler<std::optional<std::string>>(
+    onSampler<std::optional<Sentence>>(
         [saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
-        [this](std::optional<std::string> said) {
+        [this](const std::optional<Sentence>& said) {
             if (said)
-                tell(std::move(*said));
+                tell(*said);
         });
 }
 
@@ -226,20 +229,25 @@ void AppModel::apply(TickResult result)
         what |= storeErrorChanged;
     }
     if (result.notice) {
-        qCInfo(historyLog) << result.notice->c_str();
-        tell(std::move(*result.notice));
+        qCInfo(historyLog) << result.notice->english().c_str();
+        tell(*result.notice);
     }
     // A history that could not be opened stays said; a tick's failure lasts until a tick goes well.
     setStoreError(result.error ? result.error : m_openError);
     notify(what);
 }
 
-void AppModel::setStoreError(std::optional<std::string> error)
+void AppModel::setStoreError(const std::optional<Sentence>& failure)
 {
-    if (error) {
+    std::optional<std::string> error;
+    if (failure) {
+        const std::string english = failure->english();
         // SQLite's words end without a stop ("database or disk is full").
-        const bool stopped = !error->empty() && std::string_view(".!?").find(error->back()) != std::string_view::npos;
-        error = *error + (stopped ? " " : ". ") + historyAdvice(*error, m_paths.dir);
+        const bool stopped = !english.empty() && std::string_view(".!?").find(english.back()) != std::string_view::npos;
+        const QString said = Vexel::say(*failure);
+        error = (stopped ? Vexel::tr("%1 %2", "a failure and what to do about it") : Vexel::tr("%1. %2"))
+                    .arg(said, historyAdvice(english, m_paths.dir))
+                    .toStdString();
     }
     if (error == storeError)
         return;
@@ -307,15 +315,15 @@ void AppModel::dismissAway()
 void AppModel::eraseHistory()
 {
     ConfirmRequest request;
-    request.title = "Erase all history?";
-    request.message = "Vexel forgets every sample it has kept, up to a year. This can't be undone. New samples start "
-                      "right away.";
-    request.button = "Erase History";
+    request.title = {VEXEL_WORDS("vexel::Vexel", "Erase all history?")};
+    request.message = {{VEXEL_WORDS("vexel::Vexel",
+        "Vexel forgets every sample it has kept, up to a year. This can't be undone. New samples start right away.")}};
+    request.button = {VEXEL_WORDS("vexel::Vexel", "Erase History")};
     request.destructive = true;
     request.confirm = [this] {
-        onSampler<std::optional<std::string>>([](Sampler& sampler) { return sampler.erase(); },
-            [this](std::optional<std::string> failed) {
-                tell(failed ? *failed : "History erased. New samples start now.");
+        onSampler<std::optional<Sentence>>([](Sampler& sampler) { return sampler.erase(); },
+            [this](const std::optional<Sentence>& failed) {
+                tell(failed ? Vexel::say(*failed) : Vexel::tr("History erased. New samples start now."));
                 loadHistory();
             });
     };
@@ -324,7 +332,7 @@ void AppModel::eraseHistory()
 
 void AppModel::ask(ConfirmRequest request)
 {
-    qCInfo(actionsLog) << "asks:" << request.title.c_str();
+    qCInfo(actionsLog) << "asks:" << request.title.english().c_str();
     // A question the user is reading is never swapped for another (the
     // force offered four seconds after a stop): the new one waits its turn.
     if (confirm) {
@@ -359,10 +367,15 @@ void AppModel::cancelPending()
     nextQuestion();
 }
 
-void AppModel::tell(std::string text)
+void AppModel::tell(const QString& text)
 {
-    toast = std::move(text);
+    toast = text.toStdString();
     notify(toastChanged);
+}
+
+void AppModel::tell(const Sentence& said)
+{
+    tell(Vexel::say(said));
 }
 
 void AppModel::dismissToast()
@@ -436,20 +449,20 @@ void AppModel::quitSelected()
     if (const auto* app = selected())
         m_flow->requestQuit(*app, false);
     else
-        tell("Select an app in Apps first.");
+        tell(Vexel::tr("Select an app in Apps first."));
 }
 
 void AppModel::copyCommand(const std::string& command)
 {
     m_actions->copy(command);
-    tell(PageTexts::commandCopied(platform).toStdString());
+    tell(PageTexts::commandCopied(platform));
 }
 
 void AppModel::copyAddress(uint16_t port)
 {
     const std::string address = "http://localhost:" + std::to_string(port);
     m_actions->copy(address);
-    tell("Copied " + address + ".");
+    tell(Vexel::tr("Copied %1.").arg(QString::fromStdString(address)));
 }
 
 void AppModel::reveal(const std::string& path)

@@ -127,7 +127,8 @@ public:
     void dismissToast();
     void dismissNotice(size_t index);
     // Shows a toast of the app's own (what it could not do at start).
-    void tell(std::string text);
+    void tell(const QString& text);
+    void tell(const Sentence& said);
     [[nodiscard]] ActionFlow& actions() { return *m_flow; }
 
     // The Apps page: its search, the app selected in it (by group id) and
@@ -175,7 +176,7 @@ signals:
 private:
     void schedule();
     void apply(TickResult result);
-    void setStoreError(std::optional<std::string> error);
+    void setStoreError(const std::optional<Sentence>& error);
     void ask(ConfirmRequest request);
     void nextQuestion();
     // Runs `work` on the sampler's thread, then `done` here with its result.
@@ -202,7 +203,7 @@ private:
     bool m_fullPending = false; // a full refresh asked for while a partial tick ran
     int m_inFlight = 0;
     std::deque<ConfirmRequest> m_questions; // asked while another was on screen
-    std::optional<std::string> m_openError;
+    std::optional<Sentence> m_openError;
     std::unique_ptr<ProcessActions> m_actions;
     std::unique_ptr<ActionFlow> m_flow;
     std::unique_ptr<SamplerThread> m_sampler; // last: stopped first, before what its results reach

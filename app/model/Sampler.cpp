@@ -37,14 +37,14 @@ Sampler::Sampler(std::unique_ptr<Monitor> monitor, std::unique_ptr<HistoryStore>
 {
 }
 
-std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::optional<std::string>& error)
+std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::optional<Sentence>& error)
 {
     try {
         return std::make_unique<HistoryStore>(paths.history(), HistoryAccess::readWrite);
     } catch (const HistoryError& failure) {
-        error = failure.what(); // "Couldn't open the history: …" already
+        error = Sentence::asIs(failure.what()); // "Couldn't open the history: …" already
     } catch (const std::exception& failure) {
-        error = std::string("Couldn't open the history: ") + failure.what();
+        error = Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't open the history: %1"), {{failure.what()}}};
     }
     return nullptr;
 }
@@ -54,13 +54,13 @@ void Sampler::recordUnder(std::unique_ptr<RecorderLock> lock)
     m_lock = std::move(lock);
     if (!m_lock->held()) {
         if (m_lock->error())
-            m_openError = "Couldn't open the history: " + *m_lock->error();
+            m_openError = Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't open the history: %1"), {{*m_lock->error()}}};
         else
             openForReading();
         return;
     }
     if (!m_store) {
-        std::optional<std::string> error;
+        std::optional<Sentence> error;
         m_store = openStore(m_paths, error);
         m_openError = error;
     }
@@ -74,7 +74,8 @@ void Sampler::openForReading()
     } catch (const std::exception& failure) {
         m_store.reset();
         // No file yet is no failure: the recorder makes it.
-        m_openError = Files::missing(m_paths.history().string()) ? std::nullopt : std::optional(failure.what());
+        m_openError
+            = Files::missing(m_paths.history().string()) ? std::nullopt : std::optional(Sentence::asIs(failure.what()));
     }
 }
 
@@ -106,7 +107,7 @@ TickResult Sampler::tick(double now, const TickPlan& plan)
         if (plan.totals)
             totals(now, result);
     } catch (const std::exception& failure) {
-        result.error = std::string("Vexel couldn't finish a reading: ") + failure.what();
+        result.error = Sentence{VEXEL_WORDS("vexel::Vexel", "Vexel couldn't finish a reading: %1"), {{failure.what()}}};
     }
     result.otherRecorder = otherRecorder();
     return result;
@@ -123,16 +124,18 @@ void Sampler::followTheFile(TickResult& result)
     qCInfo(historyLog) << m_paths.history().c_str() << "was removed or replaced";
     m_store->emptyLog();
     m_store.reset();
-    std::optional<std::string> error;
+    std::optional<Sentence> error;
     m_store = openStore(m_paths, error);
     m_openError = error;
     if (!m_store) {
         result.error = error;
         return;
     }
-    result.notice = m_paths.history().string()
-        + " was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on recording "
-          "in the file now at that path, starting with the minute it hadn't written yet.";
+    result.notice
+        = Sentence{VEXEL_WORDS("vexel::Vexel",
+                       "%1 was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on "
+                       "recording in the file now at that path, starting with the minute it hadn't written yet."),
+            {{m_paths.history().string()}}};
 }
 
 void Sampler::takeOverRecording(TickResult& result)
@@ -145,11 +148,12 @@ void Sampler::takeOverRecording(TickResult& result)
         return;
     }
     m_store.reset();
-    std::optional<std::string> error;
+    std::optional<Sentence> error;
     m_store = openStore(m_paths, error);
     m_openError = error;
     if (m_store)
-        result.notice = "Vexel's recorder stopped, so this window records the history now.";
+        result.notice = Sentence{
+            VEXEL_WORDS("vexel::Vexel", "Vexel's recorder stopped, so this window records the history now.")};
     else
         result.error = error;
 }
@@ -161,7 +165,7 @@ void Sampler::record(const Frame& frame, double now, TickResult& result)
     try {
         m_batch.writeTo(*m_store);
     } catch (const std::exception& failure) {
-        result.error = failure.what();
+        result.error = Sentence::asIs(failure.what());
     }
 }
 
@@ -186,7 +190,7 @@ void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
         m_store->vacuum();
         result.historyBytes = m_store->usedBytes();
     } catch (const std::exception& failure) {
-        result.error = failure.what();
+        result.error = Sentence::asIs(failure.what());
     }
 }
 
@@ -225,7 +229,7 @@ void Sampler::totals(double now, TickResult& result)
         result.todaySeries = Downsample::regroup(
             m_store->series(vexel::tier(HistoryRange::today), today, now), vexel::chartBucket(HistoryRange::today));
     } catch (const std::exception& failure) {
-        result.error = failure.what();
+        result.error = Sentence::asIs(failure.what());
     }
 }
 
@@ -248,25 +252,25 @@ Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const Sp
         result.spikes = SpikeFinder::find(result.points, result.apps, rules);
         result.first = m_store->firstSample();
     } catch (const std::exception& failure) {
-        result = HistoryResult{{}, {}, {}, {}, from, now, failure.what()};
+        result = HistoryResult{{}, {}, {}, {}, from, now, Sentence::asIs(failure.what())};
     }
     return result;
 }
 
-std::optional<std::string> Sampler::saveSettings(const VexelSettings& settings, SettingsFile::Saving saving)
+std::optional<Sentence> Sampler::saveSettings(const VexelSettings& settings, SettingsFile::Saving saving)
 {
     try {
         const auto outcome = m_settings.save(settings, saving);
         // Vexel's own bookkeeping leaves a broken file alone: that was said when it was read.
         if (saving == SettingsFile::Saving::automatic || outcome.note.empty())
             return std::nullopt;
-        return outcome.note;
+        return Sentence::asIs(outcome.note);
     } catch (const std::exception& failure) {
-        return std::string("Couldn't save the settings: ") + failure.what();
+        return Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't save the settings: %1"), {{failure.what()}}};
     }
 }
 
-std::optional<std::string> Sampler::flush()
+std::optional<Sentence> Sampler::flush()
 {
     if (!recording())
         return std::nullopt;
@@ -274,24 +278,25 @@ std::optional<std::string> Sampler::flush()
         m_batch.writeTo(*m_store);
         return std::nullopt;
     } catch (const std::exception& failure) {
-        return failure.what();
+        return Sentence::asIs(failure.what());
     }
 }
 
-std::optional<std::string> Sampler::erase()
+std::optional<Sentence> Sampler::erase()
 {
     if (const auto recorder = otherRecorder())
-        return "Vexel's recorder (process " + std::to_string(*recorder)
-            + ") keeps the history, so it can't be erased from this window. Stop the recorder first (systemctl "
-              "--user stop vexel-recorder).";
+        return Sentence{VEXEL_WORDS("vexel::Vexel",
+                            "Vexel's recorder (process %1) keeps the history, so it can't be erased from this window. "
+                            "Stop the recorder first (systemctl --user stop vexel-recorder)."),
+            {{std::to_string(*recorder)}}};
     if (!recording())
-        return m_openError.value_or("There is no history to erase.");
+        return m_openError.value_or(Sentence{VEXEL_WORDS("vexel::Vexel", "There is no history to erase.")});
     try {
         m_batch = HistoryBatch();
         m_store->eraseAll();
         return std::nullopt;
     } catch (const std::exception& failure) {
-        return failure.what();
+        return Sentence::asIs(failure.what());
     }
 }
 

@@ -35,7 +35,7 @@ public:
         std::optional<double> first; // the oldest stored sample
         double from = 0; // the range read
         double to = 0;
-        std::optional<std::string> error; // the history could not be read (or written first)
+        std::optional<Sentence> error; // the history could not be read (or written first)
     };
 
     // Records into `store`; with none (it could not be opened), nothing is
@@ -46,7 +46,7 @@ public:
 
     // Opens the history of `paths` for writing; when it cannot, the reason,
     // in a sentence for the user ("Couldn't open the history: …").
-    static std::unique_ptr<HistoryStore> openStore(const VexelPaths& paths, std::optional<std::string>& error);
+    static std::unique_ptr<HistoryStore> openStore(const VexelPaths& paths, std::optional<Sentence>& error);
 
     // How the window shares the data folder with a recorder: holding `lock`,
     // it records; while another process holds it, it reads that process's
@@ -61,23 +61,23 @@ public:
     [[nodiscard]] HistoryResult history(HistoryRange range, double now, const SpikeRules& rules);
     // Writes the points still waiting (at quit, before a read of history
     // elsewhere); the failure, in words, when they could not be written.
-    std::optional<std::string> flush();
+    std::optional<Sentence> flush();
     // Forgets every stored point; why not, when it could not.
-    std::optional<std::string> erase();
+    std::optional<Sentence> erase();
 
     // The settings file as this run found it.
     [[nodiscard]] const SettingsFile& settingsFile() const { return m_settings; }
     // Saves the settings (SettingsFile::save); what to tell the user: a
     // failure, or, for the user's own change, that the file can't be read
     // and the change holds until Vexel quits. Nothing when there is nothing to say.
-    [[nodiscard]] std::optional<std::string> saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
+    [[nodiscard]] std::optional<Sentence> saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
 
     // Whether this process writes the history.
     [[nodiscard]] bool recording() const { return m_store && !m_store->readOnly(); }
     // The process that records the history while this one reads it.
     [[nodiscard]] std::optional<int64_t> otherRecorder() const;
     // Why there is no history to show, in words for the user.
-    [[nodiscard]] const std::optional<std::string>& openError() const { return m_openError; }
+    [[nodiscard]] const std::optional<Sentence>& openError() const { return m_openError; }
 
 private:
     void record(const Frame& frame, double now, TickResult& result);
@@ -100,7 +100,7 @@ private:
     ActivityLog m_log;
     ActivityLog m_savedLog; // as the file holds it: an unchanged log is not written again
     HistoryBatch m_batch;
-    std::optional<std::string> m_openError;
+    std::optional<Sentence> m_openError;
 };
 
 } // namespace vexel

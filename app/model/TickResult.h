@@ -6,6 +6,7 @@
 #include "history/HistoryStore.h"
 #include "history/SysPoint.h"
 #include "monitor/Frame.h"
+#include "text/Sentence.h"
 
 #include <optional>
 #include <string>
@@ -30,8 +31,8 @@ struct TickResult {
     std::optional<std::vector<DayTotal>> week;
     std::optional<std::vector<SysPoint>> todaySeries;
     std::optional<int64_t> historyBytes;
-    std::optional<std::string> error; // the history's failure this tick
-    std::optional<std::string> notice; // something to tell once (the history file was replaced, …)
+    std::optional<Sentence> error; // the history's failure this tick
+    std::optional<Sentence> notice; // something to tell once (the history file was replaced, …)
     std::optional<int64_t> otherRecorder; // the process recording the history this one reads
 };
 

@@ -34,9 +34,9 @@ AppsPage::AppsPage(QWidget* parent)
     layout->setContentsMargins(28, 24, 28, 24);
     layout->setSpacing(10);
     layout->addWidget(Look::pageTitle(Vexel::tr("Apps"), this));
-    layout->addWidget(Look::explanation(QStringLiteral("Apps, not processes: every helper process counted with its "
-                                                       "app, processes grouped under the apps and services that "
-                                                       "started them."),
+    layout->addWidget(Look::explanation(Vexel::tr("Apps, not processes: every helper process counted with its "
+                                                  "app, processes grouped under the apps and services that "
+                                                  "started them."),
         this));
     m_search = new QLineEdit(this);
     m_search->setPlaceholderText(Vexel::tr("Find an app, process or PID"));

@@ -19,13 +19,14 @@ namespace vexel {
 
 namespace {
 
-std::string coresCaption(const CPUStats& cpu)
+QString coresCaption(const CPUStats& cpu)
 {
-    const auto count = std::to_string(cpu.cores.size());
+    const auto count = static_cast<int>(cpu.cores.size());
     if (cpu.performanceCores > 0 && cpu.efficiencyCores > 0)
-        return count + " cores: " + std::to_string(cpu.performanceCores) + " performance and "
-            + std::to_string(cpu.efficiencyCores) + " efficiency";
-    return count + (cpu.cores.size() == 1 ? " core" : " cores");
+        return Vexel::tr("%n cores: %1 performance and %2 efficiency", nullptr, count)
+            .arg(cpu.performanceCores)
+            .arg(cpu.efficiencyCores);
+    return Vexel::tr("%n core(s)", nullptr, count);
 }
 
 } // namespace
@@ -80,7 +81,7 @@ void CpuPage::showModel(const AppModel& model)
         Vexel::tr("User %1  ·  System %2")
             .arg(qs(Fmt::cpu(cpu.user * model.cores, cores)), qs(Fmt::cpu(cpu.system * model.cores, cores))));
     m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)));
-    m_coresCaption->setText(qs(coresCaption(cpu)));
+    m_coresCaption->setText(coresCaption(cpu));
     BarBank bank;
     bank.fractions = cpu.cores;
     bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };

@@ -87,9 +87,9 @@ void DevelopersPage::buildToolsSection(QVBoxLayout* column)
     column->addWidget(Look::explanation(Vexel::tr("Add the read-only MCP server to Claude Code:"), this));
     m_mcpCommand = new CommandLine(this, copy);
     column->addWidget(m_mcpCommand);
-    column->addWidget(Look::explanation(QStringLiteral("Your assistant can ask what's busy, what happened overnight, "
-                                                       "which dev servers are idle and what's on a port. It can't "
-                                                       "quit or stop anything — it has to ask you to do it here."),
+    column->addWidget(Look::explanation(Vexel::tr("Your assistant can ask what's busy, what happened overnight, "
+                                                  "which dev servers are idle and what's on a port. It can't "
+                                                  "quit or stop anything — it has to ask you to do it here."),
         this));
 }
 
@@ -126,8 +126,8 @@ void DevelopersPage::showServers(const AppModel& model)
         m_serversNote->hide();
     } else if (model.servers.empty()) {
         m_serversHeading->setText(Vexel::tr("No dev servers running."));
-        m_serversNote->setText(QStringLiteral("When node, python, rails, a database or your own build listens on a "
-                                              "port, it shows up here under its project."));
+        m_serversNote->setText(Vexel::tr("When node, python, rails, a database or your own build listens on a "
+                                         "port, it shows up here under its project."));
         m_serversNote->show();
     } else {
         m_serversHeading->setText(Vexel::tr("Servers"));
@@ -159,8 +159,9 @@ void DevelopersPage::showServers(const AppModel& model)
     for (const auto& socket : model.listeners)
         if (!serverPids.contains(socket.pid))
             ports.emplace_back(qs(":" + std::to_string(socket.port) + "  " + socket.command),
-                qs("process " + std::to_string(socket.pid)
-                    + (reachableFromNetwork(socket) ? ", reachable from the network" : "")));
+                (reachableFromNetwork(socket) ? Vexel::tr("process %1, reachable from the network")
+                                              : Vexel::tr("process %1"))
+                    .arg(socket.pid));
     m_ports->setRows(ports);
     m_noPorts->setVisible(model.serversLoaded && ports.empty());
 }
@@ -187,15 +188,14 @@ void DevelopersPage::showDocker(const AppModel& model)
     } else if (docker->containers.empty()) {
         m_dockerHeading->setText(Vexel::tr("Docker is running with no containers."));
     } else {
-        m_dockerHeading->setText(qs(std::to_string(docker->containers.size())
-            + (docker->containers.size() == 1 ? " container" : " containers")));
+        m_dockerHeading->setText(Vexel::tr("%n container(s)", nullptr, static_cast<int>(docker->containers.size())));
         for (const auto& container : docker->containers) {
-            std::string load = container.status;
+            QString load = qs(container.status);
             if (container.cpu)
-                load += "  ·  CPU " + cformat("%.1f%%", *container.cpu);
+                load += Vexel::tr("  ·  CPU %1").arg(qs(cformat("%.1f%%", *container.cpu)));
             if (container.memory)
-                load += "  ·  " + Fmt::memory(*container.memory);
-            rows.emplace_back(qs(container.name + "  (" + container.image + ")"), qs(load));
+                load += QStringLiteral("  ·  ") + qs(Fmt::memory(*container.memory));
+            rows.emplace_back(qs(container.name + "  (" + container.image + ")"), load);
         }
     }
     m_containers->setRows(rows);

@@ -65,7 +65,7 @@ void DiskPage::showModel(const AppModel& model)
     FigureRows::Rows rows;
     for (const auto& volume : disk.volumes)
         rows.emplace_back(qs(volume.name + "  (" + volume.path + ")"),
-            qs(Fmt::bytes(volume.available) + " free of " + Fmt::bytes(volume.total)));
+            Vexel::tr("%1 free of %2").arg(qs(Fmt::bytes(volume.available)), qs(Fmt::bytes(volume.total))));
     m_volumes->setRows(rows);
     m_noVolumes->setVisible(rows.empty());
     m_top->show(model, AppSort::disk, 8, [](const AppGroup& app) { return rate(app.diskRead + app.diskWrite); });

@@ -92,7 +92,7 @@ HistoryPage::HistoryPage(QWidget* parent)
     picker->setSpacing(4);
     m_ranges = new QButtonGroup(this);
     for (const auto range : allHistoryRanges) {
-        auto* button = new QPushButton(qs(title(range)), this);
+        auto* button = new QPushButton(Vexel::words(title(range)), this);
         button->setCheckable(true);
         button->setFont(Look::font(12));
         m_ranges->addButton(button, static_cast<int>(range));
@@ -129,19 +129,18 @@ HistoryPage::HistoryPage(QWidget* parent)
     charts->addWidget(Look::heading(Vexel::tr("Spikes"), m_charts));
     m_spikes = new FigureRows(m_charts);
     charts->addWidget(m_spikes);
-    m_noSpikes = Look::explanation(QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or "
-                                                  "downloads, heat or fast battery drain."),
+    m_noSpikes = Look::explanation(Vexel::tr("Nothing unusual: no long CPU spikes, memory pressure, big writes or "
+                                             "downloads, heat or fast battery drain."),
         m_charts);
     charts->addWidget(m_noSpikes);
     charts->addSpacing(6);
     charts->addWidget(Look::heading(Vexel::tr("Core time by app"), m_charts));
     m_coreTime = new FigureRows(m_charts);
     charts->addWidget(m_coreTime);
-    charts->addWidget(
-        Look::explanation(QStringLiteral("Core time: an hour of one core fully busy. Apps that never made "
-                                         "the top dozen at a moment aren't kept, so small ones may be "
-                                         "missing."),
-            m_charts));
+    charts->addWidget(Look::explanation(Vexel::tr("Core time: an hour of one core fully busy. Apps that never made "
+                                                  "the top dozen at a moment aren't kept, so small ones may be "
+                                                  "missing."),
+        m_charts));
     m_body->addWidget(m_charts);
     column->addWidget(m_body);
     column->addStretch(1);
@@ -182,8 +181,8 @@ void HistoryPage::showModel(const AppModel& model)
     }
     if (!history->first) {
         showEmpty(Vexel::tr("History starts now."),
-            QStringLiteral("Vexel takes a reading every few seconds and keeps up to a year, thinning old readings to "
-                           "hourly so the file stays small. Come back in a few minutes."));
+            Vexel::tr("Vexel takes a reading every few seconds and keeps up to a year, thinning old readings to "
+                      "hourly so the file stays small. Come back in a few minutes."));
         return;
     }
     if (history->points.empty()) {
@@ -248,10 +247,12 @@ void HistoryPage::showSpikes(const AppModel& model)
 {
     FigureRows::Rows rows;
     for (const auto& spike : model.history->spikes) {
-        std::string culprit;
-        if (spike.culprit)
-            culprit = "mostly " + *spike.culprit + (spike.share ? " (" + Fmt::percent(*spike.share) + ")" : "");
-        rows.emplace_back(qs(spikeTime(spike) + "   " + spike.summary), qs(culprit));
+        QString culprit;
+        if (spike.culprit && spike.share)
+            culprit = Vexel::tr("mostly %1 (%2)").arg(qs(*spike.culprit), qs(Fmt::percent(*spike.share)));
+        else if (spike.culprit)
+            culprit = Vexel::tr("mostly %1").arg(qs(*spike.culprit));
+        rows.emplace_back(qs(spikeTime(spike)) + QStringLiteral("   ") + Vexel::say(spike.summary), culprit);
     }
     m_spikes->setRows(rows);
     m_noSpikes->setVisible(rows.empty());

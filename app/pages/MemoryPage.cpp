@@ -51,9 +51,9 @@ void MemoryPage::showModel(const AppModel& model)
     if (!model.frame)
         return;
     const auto& memory = model.frame->system.memory;
-    m_used->setText(qs(Fmt::memory(memory.used()) + " of " + Fmt::memory(memory.total) + " in use"));
-    m_pressure->setText(
-        Vexel::tr("Pressure: %1  ·  Swap used: %2").arg(qs(title(memory.pressure)), qs(Fmt::memory(memory.swapUsed))));
+    m_used->setText(Vexel::tr("%1 of %2 in use").arg(qs(Fmt::memory(memory.used())), qs(Fmt::memory(memory.total))));
+    m_pressure->setText(Vexel::tr("Pressure: %1  ·  Swap used: %2")
+                            .arg(Vexel::words(title(memory.pressure)), qs(Fmt::memory(memory.swapUsed))));
     // Calm pressure reads in the text colour; more in the strain's.
     const Strain strain = model.strain(MenuItemKind::memory);
     QPalette palette;

@@ -24,8 +24,9 @@ QString text(const std::string& value)
 
 QString todayLine(const HistoryStore::Totals& today)
 {
-    return text("Disk " + Fmt::bytes(today.diskW) + " written, " + Fmt::bytes(today.diskR) + " read  ·  Network "
-        + Fmt::bytes(today.netIn) + " down, " + Fmt::bytes(today.netOut) + " up");
+    return Vexel::tr("Disk %1 written, %2 read  ·  Network %3 down, %4 up")
+        .arg(text(Fmt::bytes(today.diskW)), text(Fmt::bytes(today.diskR)), text(Fmt::bytes(today.netIn)),
+            text(Fmt::bytes(today.netOut)));
 }
 
 std::vector<double> weekShares(const std::vector<DayTotal>& week)

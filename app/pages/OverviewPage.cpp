@@ -161,14 +161,11 @@ void OverviewPage::showAway(const AppModel& model)
         return;
     m_awayTitle->setText(Vexel::tr("While you were away"));
     QStringList lines;
-    for (const auto& spike : model.awaySpikes) {
-        // Most summaries name the app already.
-        const bool named = !spike.culprit || spike.summary.find(*spike.culprit) != std::string::npos;
-        lines << qs(spike.summary + (named ? "" : ", mostly " + *spike.culprit));
-    }
+    for (const auto& spike : model.awaySpikes)
+        lines << Vexel::say(spike.summary); // it names the app behind it
     if (lines.isEmpty())
-        lines << QStringLiteral("Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat "
-                                "or fast battery drain.");
+        lines << Vexel::tr("Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat "
+                           "or fast battery drain.");
     m_awayLines->setText(lines.join('\n'));
 }
 

@@ -10,6 +10,7 @@
 #include "pages/TopApps.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Readings.h"
 #include "texts/Vexel.h"
 
 #include <QLabel>
@@ -18,19 +19,6 @@
 #include <algorithm>
 
 namespace vexel {
-
-namespace {
-
-std::string stateOf(const BatteryStats& battery)
-{
-    if (battery.charging)
-        return battery.minutesToFull ? "Charging, full in " + Fmt::minutes(*battery.minutesToFull) : "Charging";
-    if (battery.onAC)
-        return "On power adapter";
-    return battery.minutesLeft ? "On battery, " + Fmt::minutes(*battery.minutesLeft) + " left" : "On battery";
-}
-
-} // namespace
 
 PowerPage::PowerPage(QWidget* parent)
     : Page(parent)
@@ -43,8 +31,9 @@ PowerPage::PowerPage(QWidget* parent)
     column->addWidget(m_state);
     m_battery = new FigureRows(this);
     column->addWidget(m_battery);
-    m_capacityNote = Look::explanation(QStringLiteral("Capacity left compares the battery's full charge today with "
-                                                      "when it was new. Below 80% it holds noticeably less."),
+    m_capacityNote = Look::explanation(
+        Vexel::tr("Capacity left compares the battery's full charge today with when it was new. Below "
+                  "80% it holds noticeably less."),
         this);
     column->addWidget(m_capacityNote);
     column->addSpacing(8);
@@ -82,7 +71,10 @@ void PowerPage::showModel(const AppModel& model)
     }) && std::ranges::any_of(apps, [](const AppGroup& app) { return app.energyW && app.energyEstimated; });
     m_energy->show(model, AppSort::energy, 8, [mixed](const AppGroup& app) {
         const std::string watts = Fmt::watts(app.energyW.value_or(0));
-        return mixed ? watts + (app.energyEstimated ? "  estimated" : "  measured") : watts;
+        if (!mixed)
+            return watts;
+        const QString told = app.energyEstimated ? Vexel::tr("%1  estimated") : Vexel::tr("%1  measured");
+        return told.arg(qs(watts)).toStdString();
     });
     const bool allEstimated = std::ranges::all_of(apps, [](const AppGroup& app) { return app.energyEstimated; });
     const Platform platform = model.platform;
@@ -92,10 +84,10 @@ void PowerPage::showModel(const AppModel& model)
                            : PageTexts::EnergySource::measured));
 
     const ThermalLevel level = model.frame->system.thermal;
-    m_thermal->setText(qs(detail(level, platform))); // "Hot. macOS is slowing the processor…"
+    m_thermal->setText(Vexel::say(detail(level, platform))); // "Hot. macOS is slowing the processor…"
     LevelScale scale;
     for (const auto step : allThermalLevels)
-        scale.steps.push_back({qs(title(step)), model.settings.strain.thermal(step)});
+        scale.steps.push_back({Vexel::words(title(step)), model.settings.strain.thermal(step)});
     scale.current = static_cast<size_t>(rawValue(level));
     m_scale->draw(scale);
     m_thermalNote->setText(PageTexts::thermalNote(platform));
@@ -107,9 +99,9 @@ void PowerPage::showSensors(const AppModel& model)
     const auto& sensors = model.frame->system.sensors;
     FigureRows::Rows rows;
     for (const auto& t : sensors.temperatures)
-        rows.emplace_back(qs(chipTitle(t.chip) + " · " + t.label), qs(cformat("%.0f °C", t.celsius)));
+        rows.emplace_back(Readings::sensorName(t.chip, t.label), qs(cformat("%.0f °C", t.celsius)));
     for (const auto& fan : sensors.fans)
-        rows.emplace_back(qs(chipTitle(fan.chip) + " · " + fan.label), qs(cformat("%.0f rpm", fan.rpm)));
+        rows.emplace_back(Readings::sensorName(fan.chip, fan.label), qs(cformat("%.0f rpm", fan.rpm)));
     m_sensors->setRows(rows);
     // A Mac keeps its sensors private; a Linux machine without any says so.
     const bool none = rows.empty() && model.platform != Platform::macOS;
@@ -133,7 +125,7 @@ void PowerPage::showBattery(const AppModel& model)
     }
     m_charge->setFont(Look::font(22, QFont::DemiBold));
     m_charge->setText(qs(std::to_string(battery->percent) + "%"));
-    m_state->setText(qs(stateOf(*battery)));
+    m_state->setText(Readings::batteryState(*battery));
     FigureRows::Rows rows;
     if (battery->powerW)
         rows.emplace_back(*battery->powerW < 0 ? Vexel::tr("Drawing") : Vexel::tr("Charging at"),

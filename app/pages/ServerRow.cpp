@@ -2,15 +2,16 @@
 
 #include "format/Fmt.h"
 #include "look/Buttons.h"
+#include "look/FlowRow.h"
 #include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/StrainColours.h"
 #include "model/AppModel.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Readings.h"
 #include "texts/Vexel.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -39,29 +40,30 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
     layout->setSpacing(4);
     const auto cores = model.cpuScaleCores();
     const std::string title = server.name + "  " + portsOf(server);
-    const std::string load = server.runtime + "  ·  CPU " + Fmt::cpu(server.cpu, cores) + "  ·  "
-        + Fmt::memory(server.memory) + "  ·  process " + std::to_string(server.pid);
+    const QString load = Vexel::tr("%1  ·  CPU %2  ·  %3  ·  process %4")
+                             .arg(qs(server.runtime), qs(Fmt::cpu(server.cpu, cores)), qs(Fmt::memory(server.memory)))
+                             .arg(server.pid);
     auto* name = Look::line(this, qs(title));
     name->setFont(Look::font(12, QFont::DemiBold));
     layout->addWidget(name);
-    layout->addWidget(Look::explanation(qs(load), this));
-    m_summary = qs(title + "\n" + load);
+    layout->addWidget(Look::explanation(load, this));
+    m_summary = qs(title) + u'\n' + load;
     if (server.isIdle) {
         const double since = server.idleSince.value_or(server.started);
-        const std::string idle = "Idle for " + Fmt::duration(model.frame ? model.frame->time - since : 0);
-        auto* flag = Look::line(this, qs(idle));
+        const QString idle
+            = Vexel::tr("Idle for %1").arg(Readings::elapsed(model.frame ? model.frame->time - since : 0));
+        auto* flag = Look::line(this, idle);
         Look::keepColour(flag, QPalette::WindowText,
             [](Appearance appearance) { return Look::strainColour(appearance, Strain::elevated); });
         layout->addWidget(flag);
-        m_summary += qs("\n" + idle);
+        m_summary += u'\n' + idle;
     }
     if (std::ranges::any_of(server.sockets, reachableFromNetwork)) {
         const QString reachable = Vexel::tr("Reachable from other devices on your network");
         layout->addWidget(Look::explanation(reachable, this));
         m_summary += "\n" + reachable;
     }
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(6);
+    auto* buttons = new FlowRow(6);
     if (!server.ports.empty()) {
         const uint16_t port = server.ports.front();
         auto* copy = Look::button(Vexel::tr("Copy http://localhost:%1").arg(port), this);
@@ -79,9 +81,9 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
         });
         buttons->addWidget(reveal);
     }
-    std::vector<std::string> context{"Project: " + server.project.name};
+    std::vector<Sentence> context{{VEXEL_WORDS("vexel::Vexel", "Project: %1"), {{server.project.name}}}};
     if (!server.ports.empty())
-        context.insert(context.begin(), "Listening on " + portsOf(server));
+        context.insert(context.begin(), Sentence{VEXEL_WORDS("vexel::Vexel", "Listening on %1"), {{portsOf(server)}}});
     auto* stop = Look::button(Vexel::tr("Stop…"), this);
     auto* force = Look::destructiveButton(Vexel::tr("Force Stop…"), this);
     const auto ask = [this, pid = server.pid, display = server.name, context](bool forced) {
@@ -92,7 +94,6 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
     connect(force, &QPushButton::clicked, this, [ask] { ask(true); });
     buttons->addWidget(stop);
     buttons->addWidget(force);
-    buttons->addStretch(1);
     layout->addLayout(buttons);
 }
 

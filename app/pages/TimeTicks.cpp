@@ -1,6 +1,7 @@
 #include "pages/TimeTicks.h"
 
 #include "format/CFormat.h"
+#include "texts/Vexel.h"
 
 #include <array>
 #include <cmath>
@@ -14,9 +15,17 @@ constexpr double quarter = 900;
 constexpr double day = 86400;
 constexpr size_t mostTicks = 6;
 
-constexpr std::array<const char*, 7> weekdays{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-constexpr std::array<const char*, 12> months{
-    "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr std::array<const char*, 7> weekdays{QT_TRANSLATE_NOOP("vexel::Vexel", "Sun"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Mon"), QT_TRANSLATE_NOOP("vexel::Vexel", "Tue"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Wed"), QT_TRANSLATE_NOOP("vexel::Vexel", "Thu"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Fri"), QT_TRANSLATE_NOOP("vexel::Vexel", "Sat")};
+constexpr std::array<const char*, 12> months{QT_TRANSLATE_NOOP("vexel::Vexel", "Jan"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Feb"), QT_TRANSLATE_NOOP("vexel::Vexel", "Mar"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Apr"), QT_TRANSLATE_NOOP("vexel::Vexel", "May"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Jun"), QT_TRANSLATE_NOOP("vexel::Vexel", "Jul"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Aug"), QT_TRANSLATE_NOOP("vexel::Vexel", "Sep"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Oct"), QT_TRANSLATE_NOOP("vexel::Vexel", "Nov"),
+    QT_TRANSLATE_NOOP("vexel::Vexel", "Dec")};
 
 // Whole hours from `from` on, every `hours` in local time.
 std::vector<std::pair<double, QString>> hourTicks(double from, double to, int hours, const TimeZone& zone)
@@ -62,7 +71,9 @@ std::vector<std::pair<double, QString>> dayTicks(double from, double to, const T
 
 QString dayAndMonth(const CivilTime& civil, int)
 {
-    return QString::fromStdString(cformat("%d %s", civil.day, months.at(static_cast<size_t>(civil.month - 1) % 12)));
+    return Vexel::tr("%1 %2", "a day of a month: 24 Nov")
+        .arg(civil.day)
+        .arg(Vexel::words(months.at(static_cast<size_t>(civil.month - 1) % 12)));
 }
 
 } // namespace
@@ -82,9 +93,7 @@ std::vector<std::pair<double, QString>> timeTicks(double from, double to, Histor
     case HistoryRange::week:
         return dayTicks(
             from, to, zone, [](const CivilTime&, int) { return true; },
-            [](const CivilTime&, int weekday) {
-                return QString::fromLatin1(weekdays.at(static_cast<size_t>(weekday) % 7));
-            });
+            [](const CivilTime&, int weekday) { return Vexel::words(weekdays.at(static_cast<size_t>(weekday) % 7)); });
     case HistoryRange::month:
         return dayTicks(
             from, to, zone, [](const CivilTime& civil, int) { return civil.day % 5 == 0 && civil.day < 31; },

@@ -36,12 +36,14 @@ std::vector<MenuItemKind> enabledKinds(const VexelSettings& settings)
 
 // The reading in words for the tooltip and the item's menu: "Network 1.5M
 // down, 120K up".
-std::string spoken(const MenuReading& reading)
+QString spoken(const MenuReading& reading)
 {
+    const QString name = Vexel::words(title(reading.kind));
     if (!reading.text2)
-        return reading.text;
-    const bool disk = reading.kind == MenuItemKind::disk;
-    return reading.text + (disk ? " read, " : " down, ") + *reading.text2 + (disk ? " written" : " up");
+        return Vexel::tr("%1 %2", "a reading's name and its value: CPU 15%").arg(name, qs(reading.text));
+    if (reading.kind == MenuItemKind::disk)
+        return Vexel::tr("%1 %2 read, %3 written").arg(name, qs(reading.text), qs(*reading.text2));
+    return Vexel::tr("%1 %2 down, %3 up").arg(name, qs(reading.text), qs(*reading.text2));
 }
 
 } // namespace
@@ -161,7 +163,7 @@ void MenuBarController::update()
             continue;
         const MenuReading reading = menuReading(m_model, config);
         found->second->setIcon(MenuGlyph::icon(reading, m_panel));
-        const QString said = qs(title(config.kind) + " " + spoken(reading));
+        const QString said = spoken(reading);
         found->second->setToolTip(said);
         m_menus[config.kind]->actions().front()->setText(said);
     }

@@ -15,6 +15,7 @@
 #include "panel/MenuReading.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
+#include "texts/Readings.h"
 #include "texts/Vexel.h"
 
 #include <QGuiApplication>
@@ -47,7 +48,7 @@ Dial dialOf(const AppModel& model, MenuItemKind kind)
     case MenuItemKind::thermal: break;
     }
     const ThermalLevel level = model.frame ? model.frame->system.thermal : ThermalLevel::nominal;
-    return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), qs(title(level)), Vexel::tr("Heat")};
+    return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), Vexel::words(title(level)), Vexel::tr("Heat")};
 }
 
 FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
@@ -59,44 +60,46 @@ FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
     const auto cores = model.cpuScaleCores();
     switch (kind) {
     case MenuItemKind::cpu:
-        return {{"User", qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
-            {"System", qs(Fmt::cpu(system.cpu.system * model.cores, cores))},
-            {"Load", qs(cformat("%.2f", system.cpu.load1))}};
+        return {{Vexel::tr("User"), qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
+            {Vexel::tr("System"), qs(Fmt::cpu(system.cpu.system * model.cores, cores))},
+            {Vexel::tr("Load"), qs(cformat("%.2f", system.cpu.load1))}};
     case MenuItemKind::memory:
-        return {{"In use", qs(Fmt::memory(system.memory.used()) + " of " + Fmt::memory(system.memory.total))},
-            {"Pressure", qs(title(system.memory.pressure))}, {"Swap used", qs(Fmt::memory(system.memory.swapUsed))}};
+        return {{Vexel::tr("In use"),
+                    Readings::partOf(Fmt::memory(system.memory.used()), Fmt::memory(system.memory.total))},
+            {Vexel::tr("Pressure"), Vexel::words(title(system.memory.pressure))},
+            {Vexel::tr("Swap used"), qs(Fmt::memory(system.memory.swapUsed))}};
     case MenuItemKind::network:
-        return {
-            {"Download", qs(Fmt::rate(system.net.inRate, unit))}, {"Upload", qs(Fmt::rate(system.net.outRate, unit))}};
+        return {{Vexel::tr("Download"), qs(Fmt::rate(system.net.inRate, unit))},
+            {Vexel::tr("Upload"), qs(Fmt::rate(system.net.outRate, unit))}};
     case MenuItemKind::disk: {
-        FigureRows::Rows rows{{"Read", qs(Fmt::rate(system.disk.readRate, Fmt::RateUnit::bytes))},
-            {"Write", qs(Fmt::rate(system.disk.writeRate, Fmt::RateUnit::bytes))}};
+        FigureRows::Rows rows{{Vexel::tr("Read"), qs(Fmt::rate(system.disk.readRate, Fmt::RateUnit::bytes))},
+            {Vexel::tr("Write"), qs(Fmt::rate(system.disk.writeRate, Fmt::RateUnit::bytes))}};
         if (const auto main = system.disk.main())
-            rows.emplace_back(qs(main->name), qs(Fmt::bytes(main->available) + " free"));
+            rows.emplace_back(qs(main->name), Vexel::tr("%1 free").arg(qs(Fmt::bytes(main->available))));
         return rows;
     }
     case MenuItemKind::gpu:
         if (!system.gpu)
-            return {{"GPU", PageTexts::noGpuUtilisation(model.platform)}};
-        return {{qs(system.gpu->name), qs(Fmt::percent(system.gpu->utilisation) + " busy")}};
+            return {{Vexel::tr("GPU"), PageTexts::noGpuUtilisation(model.platform)}};
+        return {{qs(system.gpu->name), Vexel::tr("%1 busy").arg(qs(Fmt::percent(system.gpu->utilisation)))}};
     case MenuItemKind::battery:
         if (!system.battery)
             return {};
-        return {{"Charge", qs(std::to_string(system.battery->percent) + "%")},
-            {"State",
+        return {{Vexel::tr("Charge"), qs(std::to_string(system.battery->percent) + "%")},
+            {Vexel::tr("State"),
                 system.battery->charging   ? Vexel::tr("Charging")
                     : system.battery->onAC ? Vexel::tr("On power adapter")
                                            : Vexel::tr("On battery")}};
     case MenuItemKind::thermal: {
-        FigureRows::Rows rows{{"Level", qs(title(system.thermal))}};
+        FigureRows::Rows rows{{Vexel::tr("Level"), Vexel::words(title(system.thermal))}};
         // The hottest sensors, where the system reports them.
         auto temperatures = system.sensors.temperatures;
         std::ranges::sort(temperatures, std::greater{}, &Temperature::celsius);
         for (size_t i = 0; i < temperatures.size() && i < sensorsShown; ++i)
-            rows.emplace_back(qs(chipTitle(temperatures[i].chip) + " · " + temperatures[i].label),
+            rows.emplace_back(Readings::sensorName(temperatures[i].chip, temperatures[i].label),
                 qs(cformat("%.0f °C", temperatures[i].celsius)));
         for (const auto& fan : system.sensors.fans)
-            rows.emplace_back(qs(chipTitle(fan.chip) + " · " + fan.label), qs(cformat("%.0f rpm", fan.rpm)));
+            rows.emplace_back(Readings::sensorName(fan.chip, fan.label), qs(cformat("%.0f rpm", fan.rpm)));
         return rows;
     }
     }
@@ -110,7 +113,7 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     , m_kind(kind)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(Vexel::tr("%1 — Vexel").arg(qs(title(kind))));
+    setWindowTitle(Vexel::tr("%1 — Vexel").arg(Vexel::words(title(kind))));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     // As wide as its buttons need in the user's language, and never narrower than 340.
@@ -119,15 +122,15 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(8);
-    layout->addWidget(Look::heading(qs(title(kind)), this));
+    layout->addWidget(Look::heading(Vexel::words(title(kind)), this));
     auto* top = new QHBoxLayout;
-    m_dial = new PaintedView(qs(title(kind)), QSize(96, 96), this);
+    m_dial = new PaintedView(Vexel::words(title(kind)), QSize(96, 96), this);
     m_dial->setFixedSize(96, 96);
     top->addWidget(m_dial);
     m_readouts = new FigureRows(this);
     top->addWidget(m_readouts, 1);
     layout->addLayout(top);
-    m_trace = new PaintedView(Vexel::tr("%1, last few minutes").arg(qs(title(kind))), QSize(308, 44), this);
+    m_trace = new PaintedView(Vexel::tr("%1, last few minutes").arg(Vexel::words(title(kind))), QSize(308, 44), this);
     layout->addWidget(m_trace);
     m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     layout->addWidget(m_traceCaption);

@@ -3,6 +3,7 @@
 #include "format/CFormat.h"
 #include "format/Fmt.h"
 #include "model/AppModel.h"
+#include "texts/Vexel.h"
 
 #include <algorithm>
 #include <array>
@@ -80,7 +81,7 @@ MenuReading menuReading(const AppModel& model, const MenuItemConfig& config)
             reading.text = std::to_string(system.battery->percent) + "%";
         reading.trace = traceOf(ring, [](const RingSample& s) { return s.battery.value_or(NAN); });
         break;
-    case MenuItemKind::thermal: reading.text = title(system.thermal); break;
+    case MenuItemKind::thermal: reading.text = Vexel::words(title(system.thermal)).toStdString(); break;
     }
     // Rates have no natural top: their graph reaches its own peak.
     if (config.kind == MenuItemKind::network || config.kind == MenuItemKind::disk) {

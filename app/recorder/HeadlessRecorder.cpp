@@ -49,10 +49,10 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
             err << lock.error().value_or("Couldn't take the recorder's lock.") << "\n";
         return 1;
     }
-    std::optional<std::string> openError;
+    std::optional<Sentence> openError;
     auto store = Sampler::openStore(paths, openError);
     if (!store) {
-        err << openError.value_or("Couldn't open the history.") << "\n";
+        err << openError.value_or(Sentence{"Couldn't open the history."}).english() << "\n";
         return 1;
     }
     Sampler sampler(m_options.makeMonitor(), std::move(store), paths);
@@ -63,7 +63,7 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
     auto settings = sampler.settingsFile().settings();
     Cadence cadence;
     out << "Recording to " << paths.history().string() << " every " << settings.sampleSeconds << " s.\n" << std::flush;
-    std::optional<std::string> lastError;
+    std::optional<Sentence> lastError;
     bool first = true;
     do {
         const auto plan = cadence.plan(m_options.clock(), first, {false, Route::overview}, settings);
@@ -72,20 +72,20 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
         // Say a failure once, and again only when it changes; a notice
         // (the history file replaced under it) as it comes.
         if (result.error && result.error != lastError)
-            err << "History: " << *result.error << "\n" << std::flush;
+            err << "History: " << result.error->english() << "\n" << std::flush;
         lastError = result.error;
         if (result.notice)
-            err << *result.notice << "\n" << std::flush;
+            err << result.notice->english() << "\n" << std::flush;
     } while (!stopRequested(signals, Cadence::tickSeconds(false, settings)));
 
     int status = 0;
     if (const auto failure = sampler.flush()) {
-        err << "History: the last minute was lost: " << *failure << "\n";
+        err << "History: the last minute was lost: " << failure->english() << "\n";
         status = 1;
     }
     settings.lastSeen = m_options.clock();
     if (const auto failure = sampler.saveSettings(settings, SettingsFile::Saving::automatic)) {
-        err << *failure << "\n";
+        err << failure->english() << "\n";
         status = 1;
     }
     out << "Stopped recording.\n";

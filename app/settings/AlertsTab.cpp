@@ -44,7 +44,7 @@ AlertsTab::AlertsTab(QWidget* parent)
     amber->addRow(label(Vexel::tr("Battery amber at")), m_batteryAmber);
     ChoiceBox::Choices falling;
     for (const int drop : {5, 8, 10, 12, 15, 20, 25})
-        falling.emplace_back(QString::number(drop) + "% within an hour", drop);
+        falling.emplace_back(Vexel::tr("%1% within an hour").arg(drop), drop);
     m_batteryFalling = new ChoiceBox(falling, this);
     amber->addRow(label(Vexel::tr("Battery falling")), m_batteryFalling);
     m_amberNote = Look::explanation({}, this);

@@ -20,8 +20,8 @@ DeveloperTab::DeveloperTab(Places places, QWidget* parent)
     , m_places(std::move(places))
 {
     auto* servers = section(Vexel::tr("Dev servers"),
-        QStringLiteral("A server counts as idle when it hasn't used any CPU (served a request, rebuilt) for this long. "
-                       "Vexel only flags it — stopping is always up to you, and it asks first."));
+        Vexel::tr("A server counts as idle when it hasn't used any CPU (served a request, rebuilt) for this long. "
+                  "Vexel only flags it — stopping is always up to you, and it asks first."));
     m_idle = new ChoiceBox({{Vexel::tr("12 hours"), 0.5}, {Vexel::tr("1 day"), 1}, {Vexel::tr("2 days"), 2},
                                {Vexel::tr("3 days"), 3}, {Vexel::tr("1 week"), 7}},
         this);
@@ -76,7 +76,7 @@ void DeveloperTab::runStep(QPushButton* button, const QString& working, std::fun
         this, std::move(step), [this, button, label](CommandLineSetup::Outcome outcome) {
             button->setText(label);
             button->setEnabled(true);
-            m_outcome->setText(QString::fromStdString(outcome.text));
+            m_outcome->setText(Vexel::say(outcome.text));
             m_outcome->show();
             emit stepDone();
         });

@@ -18,8 +18,8 @@ HistoryTab::HistoryTab(QWidget* parent)
     : SettingsTab(parent)
 {
     auto* form = section(Vexel::tr("History"),
-        QStringLiteral("Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes "
-                       "for 5 weeks and hourly after that — so a year stays small."));
+        Vexel::tr("Readings are kept every few seconds for 3 hours, then each minute for 2 days, every 10 minutes "
+                  "for 5 weeks and hourly after that — so a year stays small."));
     m_keep = new ChoiceBox({{Vexel::tr("1 week"), 7}, {Vexel::tr("1 month"), 30}, {Vexel::tr("3 months"), 91},
                                {Vexel::tr("6 months"), 182}, {Vexel::tr("1 year"), 365}},
         this);
@@ -58,18 +58,21 @@ void HistoryTab::showModel(const AppModel& model)
     m_filling = true;
     m_keep->select(model.settings.retentionDays);
     m_cap->select(model.settings.maxHistoryMB);
-    std::string size;
+    QString size;
     if (model.storeError)
-        size = *model.storeError;
+        size = QString::fromStdString(*model.storeError);
     else if (model.historyBytes)
-        size = "The history takes " + Fmt::bytes(static_cast<double>(*model.historyBytes)) + " on disk.";
+        size = Vexel::tr("The history takes %1 on disk.")
+                   .arg(QString::fromStdString(Fmt::bytes(static_cast<double>(*model.historyBytes))));
     else
-        size = "Measuring the history's size…";
+        size = Vexel::tr("Measuring the history's size…");
     // Beside the headless recorder, the window shows the history it keeps.
     if (model.otherRecorder)
-        size += " Vexel's recorder (process " + std::to_string(*model.otherRecorder)
-            + ") keeps it; this window shows it and takes over when the recorder stops.";
-    m_size->setText(QString::fromStdString(size));
+        size += u' '
+            + Vexel::tr("Vexel's recorder (process %1) keeps it; this window shows it and takes over when the "
+                        "recorder stops.")
+                  .arg(*model.otherRecorder);
+    m_size->setText(size);
     m_filling = false;
 }
 

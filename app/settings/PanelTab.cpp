@@ -54,17 +54,16 @@ void PanelTab::showModel(const AppModel& model)
     m_filling = true;
     const bool mac = model.platform == Platform::macOS;
     m_heading->setText(mac ? Vexel::tr("Readings in the menu bar") : Vexel::tr("Readings in the panel"));
-    m_note->setText(mac ? QStringLiteral("Each reading is its own item, shown left to right in this order. Use the "
-                                         "arrows to reorder. A reading turns amber or red in the menu bar when it's "
-                                         "under strain; thresholds are in Alerts.")
-                        : QStringLiteral("Each reading is its own item, shown left to right in this order. Use the "
-                                         "arrows to reorder. A reading turns amber or red in the panel when it's "
-                                         "under strain; thresholds are in Alerts."));
-    m_keeps->setText(mac
-            ? QStringLiteral("With no menu bar items, Vexel keeps its Dock icon so you can always get back "
-                             "to it.")
-            : QStringLiteral("With no panel items, Vexel keeps its window in the taskbar so you can always "
-                             "get back to it."));
+    m_note->setText(mac ? Vexel::tr("Each reading is its own item, shown left to right in this order. Use the "
+                                    "arrows to reorder. A reading turns amber or red in the menu bar when it's "
+                                    "under strain; thresholds are in Alerts.")
+                        : Vexel::tr("Each reading is its own item, shown left to right in this order. Use the "
+                                    "arrows to reorder. A reading turns amber or red in the panel when it's "
+                                    "under strain; thresholds are in Alerts."));
+    m_keeps->setText(mac ? Vexel::tr("With no menu bar items, Vexel keeps its Dock icon so you can always get back "
+                                     "to it.")
+                         : Vexel::tr("With no panel items, Vexel keeps its window in the taskbar so you can always "
+                                     "get back to it."));
     for (auto* cell : m_cells)
         cell->deleteLater();
     m_cells.clear();
@@ -73,7 +72,7 @@ void PanelTab::showModel(const AppModel& model)
     for (size_t i = 0; i < items.size(); ++i) {
         const auto item = items[i];
         const int row = static_cast<int>(i);
-        auto* enabled = new QCheckBox(qs(title(item.kind)), this);
+        auto* enabled = new QCheckBox(Vexel::words(title(item.kind)), this);
         enabled->setFont(Look::font(12));
         enabled->setChecked(item.enabled);
         connect(enabled, &QCheckBox::toggled, this, [this, i](bool on) {
@@ -85,7 +84,7 @@ void PanelTab::showModel(const AppModel& model)
             ? std::vector{MenuItemStyle::value, MenuItemStyle::graph, MenuItemStyle::both}
             : std::vector{MenuItemStyle::value};
         for (const auto choice : styles) {
-            style->addItem(qs(title(choice)), static_cast<int>(choice));
+            style->addItem(Vexel::words(title(choice)), static_cast<int>(choice));
             if (choice == item.style)
                 style->setCurrentIndex(style->count() - 1);
         }
@@ -106,7 +105,8 @@ void PanelTab::showModel(const AppModel& model)
         m_grid->addWidget(up, row, 2);
         m_grid->addWidget(down, row, 3);
         m_cells.insert(m_cells.end(), {enabled, style, up, down});
-        m_rows << qs(title(item.kind) + (item.enabled ? " on, " : " off, ") + title(item.style));
+        m_rows << (item.enabled ? Vexel::tr("%1 on, %2") : Vexel::tr("%1 off, %2"))
+                      .arg(Vexel::words(title(item.kind)), Vexel::words(title(item.style)));
     }
     m_filling = false;
 }

@@ -40,7 +40,7 @@ std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::pat
     const VexelPaths paths(folder);
     return std::make_unique<AppModel>(AppModel::Setup{paths,
         [&world, paths] {
-            std::optional<std::string> error;
+            std::optional<Sentence> error;
             auto sampler = std::make_unique<Sampler>(world.monitor(), Sampler::openStore(paths, error), paths);
             // Each tick reads the world two seconds on.
             sampler->beforeSample = [&world](double) { world.advance(2); };
@@ -77,7 +77,17 @@ void writeAway(MainWindow& window, AppModel& model, const SnapshotOptions& optio
 {
     const auto lastSeen = model.settings.lastSeen;
     model.settings.lastSeen = model.frame ? model.frame->time - 16 * 3600 : 0;
+    // The spikes come from the sampler's thread: the picture waits for them.
+    QEventLoop loop;
+    bool arrived = false;
+    QObject::connect(&model, &AppModel::changed, &loop, [&loop, &arrived](unsigned what) {
+        arrived = arrived || (what & AppModel::awayChanged) != 0;
+        if (arrived)
+            loop.quit();
+    });
     model.prepareAway();
+    if (!arrived)
+        loop.exec();
     window.showRoute(Route::overview);
     save(window, options, "overview-away-" + suffix);
     model.dismissAway();

@@ -10,7 +10,7 @@ namespace vexel {
 // one that shows clipped would be clipped in a longer language too.
 class PseudoLocale final : public QTranslator {
 public:
-    using QTranslator::QTranslator;
+    PseudoLocale();
 
     [[nodiscard]] QString translate(
         const char* context, const char* sourceText, const char* disambiguation, int n) const override;
@@ -18,6 +18,9 @@ public:
 
     // A source text in the pseudo-language.
     [[nodiscard]] static QString pseudo(const QString& text);
+
+private:
+    QTranslator m_english; // its plural forms: "%n day(s)" is wrapped as "%n days"
 };
 
 } // namespace vexel

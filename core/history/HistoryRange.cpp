@@ -1,5 +1,7 @@
 #include "history/HistoryRange.h"
 
+#include "text/Sentence.h"
+
 namespace vexel {
 
 std::string rawValue(HistoryRange range)
@@ -24,9 +26,13 @@ std::optional<HistoryRange> historyRangeFromRaw(std::string_view raw)
 
 std::string title(HistoryRange range)
 {
-    std::string text = rawValue(range);
-    text[0] = static_cast<char>(text[0] - 'a' + 'A');
-    return text;
+    switch (range) {
+    case HistoryRange::today: return VEXEL_WORDS("vexel::Vexel", "Today");
+    case HistoryRange::week: return VEXEL_WORDS("vexel::Vexel", "Week");
+    case HistoryRange::month: return VEXEL_WORDS("vexel::Vexel", "Month");
+    case HistoryRange::year: return VEXEL_WORDS("vexel::Vexel", "Year");
+    }
+    return VEXEL_WORDS("vexel::Vexel", "Today");
 }
 
 double start(HistoryRange range, double now, const TimeZone& zone)

@@ -41,7 +41,7 @@ json spikeEntry(const Spike& spike)
 {
     json entry = {{"kind", rawValue(spike.kind)}, {"start", iso8601(spike.start)}, {"end", iso8601(spike.end)},
         {"minutes", rounded((spike.end - spike.start) / 60, 1)}, {"peak", rounded(spike.peak, 3)},
-        {"summary", spike.summary}};
+        {"summary", spike.summary.english()}};
     if (spike.culprit)
         entry["culprit"] = *spike.culprit;
     if (spike.share)

@@ -95,7 +95,8 @@ json VexelService::status()
     report["disk"] = diskPart(system.disk);
     report["network"]
         = {{"in_bytes_per_s", wholeRate(system.net.inRate)}, {"out_bytes_per_s", wholeRate(system.net.outRate)}};
-    report["thermal"] = {{"state", lowercase(title(system.thermal))}, {"detail", detail(system.thermal, m_platform)}};
+    report["thermal"]
+        = {{"state", lowercase(title(system.thermal))}, {"detail", detail(system.thermal, m_platform).english()}};
     report["processes"]
         = {{"count", now.records.size()}, {"apps", now.apps.size()}, {"readable", readableCount(now.records)}};
     if (system.gpu && !system.gpu->name.empty())

@@ -1,5 +1,7 @@
 #include "settings/MenuItemConfig.h"
 
+#include "text/Sentence.h"
+
 namespace vexel {
 
 namespace {
@@ -13,13 +15,13 @@ struct KindInfo {
 };
 
 constexpr std::array<KindInfo, 7> kinds{{
-    {MenuItemKind::cpu, "cpu", "CPU", "cpu", true},
-    {MenuItemKind::memory, "memory", "Memory", "memory", true},
-    {MenuItemKind::network, "network", "Network", "network-transmit-receive", true},
-    {MenuItemKind::thermal, "thermal", "Heat", "temperature", false},
-    {MenuItemKind::battery, "battery", "Battery", "battery", false},
-    {MenuItemKind::disk, "disk", "Disk", "drive-harddisk", true},
-    {MenuItemKind::gpu, "gpu", "GPU", "video-display", true},
+    {MenuItemKind::cpu, "cpu", VEXEL_WORDS("vexel::Vexel", "CPU"), "cpu", true},
+    {MenuItemKind::memory, "memory", VEXEL_WORDS("vexel::Vexel", "Memory"), "memory", true},
+    {MenuItemKind::network, "network", VEXEL_WORDS("vexel::Vexel", "Network"), "network-transmit-receive", true},
+    {MenuItemKind::thermal, "thermal", VEXEL_WORDS("vexel::Vexel", "Heat"), "temperature", false},
+    {MenuItemKind::battery, "battery", VEXEL_WORDS("vexel::Vexel", "Battery"), "battery", false},
+    {MenuItemKind::disk, "disk", VEXEL_WORDS("vexel::Vexel", "Disk"), "drive-harddisk", true},
+    {MenuItemKind::gpu, "gpu", VEXEL_WORDS("vexel::Vexel", "GPU"), "video-display", true},
 }};
 
 const KindInfo& info(MenuItemKind kind)
@@ -80,11 +82,11 @@ std::optional<MenuItemStyle> menuItemStyleFromRaw(std::string_view raw)
 std::string title(MenuItemStyle style)
 {
     switch (style) {
-    case MenuItemStyle::value: return "Value";
-    case MenuItemStyle::graph: return "Graph";
-    case MenuItemStyle::both: return "Both";
+    case MenuItemStyle::value: return VEXEL_WORDS("vexel::Vexel", "Value");
+    case MenuItemStyle::graph: return VEXEL_WORDS("vexel::Vexel", "Graph");
+    case MenuItemStyle::both: return VEXEL_WORDS("vexel::Vexel", "Both");
     }
-    return "Value";
+    return VEXEL_WORDS("vexel::Vexel", "Value");
 }
 
 std::vector<MenuItemConfig> defaultMenuItems()

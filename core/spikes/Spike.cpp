@@ -1,6 +1,7 @@
 #include "spikes/Spike.h"
 
 #include "format/CFormat.h"
+#include "text/Sentence.h"
 
 #include <array>
 
@@ -15,12 +16,12 @@ struct KindInfo {
 };
 
 constexpr std::array<KindInfo, 6> kinds{{
-    {SpikeKind::cpu, "cpu", "CPU"},
-    {SpikeKind::memory, "memory", "Memory pressure"},
-    {SpikeKind::disk, "disk", "Disk writes"},
-    {SpikeKind::network, "network", "Network"},
-    {SpikeKind::thermal, "thermal", "Heat"},
-    {SpikeKind::battery, "battery", "Battery drain"},
+    {SpikeKind::cpu, "cpu", VEXEL_WORDS("vexel::Vexel", "CPU")},
+    {SpikeKind::memory, "memory", VEXEL_WORDS("vexel::Vexel", "Memory pressure")},
+    {SpikeKind::disk, "disk", VEXEL_WORDS("vexel::Vexel", "Disk writes")},
+    {SpikeKind::network, "network", VEXEL_WORDS("vexel::Vexel", "Network")},
+    {SpikeKind::thermal, "thermal", VEXEL_WORDS("vexel::Vexel", "Heat")},
+    {SpikeKind::battery, "battery", VEXEL_WORDS("vexel::Vexel", "Battery drain")},
 }};
 
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/Sentence.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,7 +24,7 @@ struct Spike {
     double peak = 0; // the kind's peak: CPU fraction, level, bytes or percentage points
     std::optional<std::string> culprit; // display name of the app most responsible
     std::optional<double> share; // the culprit's part of the kind's total, 0…1
-    std::string summary; // one line for people
+    Sentence summary; // one line for people
 
     // A stable identity for lists: kind and start ("cpu@1795000000").
     [[nodiscard]] std::string id() const;

@@ -62,9 +62,14 @@ Culprit culprit(const std::vector<AppPoint>& apps, double start, double end, dou
     return {top->second.second, top->second.first / total};
 }
 
-std::string byCulprit(const Culprit& who, const char* joiner)
+// The sentence naming the culprit when there is one, the one without otherwise;
+// the culprit fills the pattern's last value.
+Sentence told(const Culprit& who, const char* named, const char* unnamed, std::vector<Sentence::Value> values)
 {
-    return who.name ? std::string(joiner) + *who.name : std::string();
+    if (!who.name)
+        return {unnamed, std::move(values)};
+    values.push_back({*who.name});
+    return {named, std::move(values)};
 }
 
 int wholeMinutes(double seconds)
@@ -72,7 +77,7 @@ int wholeMinutes(double seconds)
     return static_cast<int>(std::lround(seconds / 60));
 }
 
-Spike spike(SpikeKind kind, double start, double end, double peak, const Culprit& who, std::string summary)
+Spike spike(SpikeKind kind, double start, double end, double peak, const Culprit& who, Sentence summary)
 {
     return Spike{kind, start, end, peak, who.name, who.share, std::move(summary)};
 }
@@ -105,10 +110,12 @@ std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint
         for (const auto* p : run)
             peak = std::max(peak, std::max(p->cpu, p->cpuMax));
         const auto who = culprit(apps, start, end, &AppPoint::cpu);
-        const int minutes = wholeMinutes(end - start);
-        const std::string subject = who.name ? *who.name + " kept the processor busy" : "The processor was busy";
-        spikes.push_back(
-            spike(SpikeKind::cpu, start, end, peak, who, cformat("%s for %d min", subject.c_str(), minutes)));
+        // The culprit leads this sentence, so it fills %1 and the minutes %2.
+        const std::string minutes = std::to_string(wholeMinutes(end - start));
+        spikes.push_back(spike(SpikeKind::cpu, start, end, peak, who,
+            who.name ? Sentence{VEXEL_WORDS("vexel::Vexel", "%1 kept the processor busy for %2 min"),
+                {{*who.name}, {minutes}}}
+                     : Sentence{VEXEL_WORDS("vexel::Vexel", "The processor was busy for %1 min"), {{minutes}}}));
     }
     for (const auto& run : runs(points, step, rules.mergeGap, [](const SysPoint& p) { return p.pressure >= 1; })) {
         const auto [start, end] = span(run);
@@ -118,10 +125,12 @@ std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint
         const auto who = culprit(apps, start, end, &AppPoint::mem);
         const auto level = memoryPressureFromRaw(peak).value_or(MemoryPressure::critical);
         spikes.push_back(spike(SpikeKind::memory, start, end, static_cast<double>(peak), who,
-            "Memory pressure reached " + title(level) + byCulprit(who, " while the most memory was held by ")));
+            told(who, VEXEL_WORDS("vexel::Vexel", "Memory pressure reached %1 while the most memory was held by %2"),
+                VEXEL_WORDS("vexel::Vexel", "Memory pressure reached %1"), {{title(level), true}})));
     }
     const auto amountRuns = [&](SpikeKind kind, double perMinute, double total, double AppPoint::*metric,
-                                const std::function<double(const SysPoint&)>& amount, const char* words) {
+                                const std::function<double(const SysPoint&)>& amount, const char* named,
+                                const char* unnamed) {
         const auto qualifying = [&](const SysPoint& p) { return p.dur > 0 && amount(p) >= perMinute * p.dur / 60; };
         for (const auto& run : runs(points, step, rules.mergeGap, qualifying)) {
             double sum = 0;
@@ -131,15 +140,18 @@ std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint
                 continue;
             const auto [start, end] = span(run);
             const auto who = culprit(apps, start, end, metric);
-            spikes.push_back(spike(kind, start, end, sum, who, Fmt::bytes(sum) + words + byCulprit(who, " by ")));
+            spikes.push_back(spike(kind, start, end, sum, who, told(who, named, unnamed, {{Fmt::bytes(sum)}})));
         }
     };
     amountRuns(
         SpikeKind::disk, rules.diskPerMinute, rules.diskTotal, &AppPoint::disk,
-        [](const SysPoint& p) { return p.diskW; }, " written to disk");
+        [](const SysPoint& p) { return p.diskW; }, VEXEL_WORDS("vexel::Vexel", "%1 written to disk by %2"),
+        VEXEL_WORDS("vexel::Vexel", "%1 written to disk"));
     amountRuns(
         SpikeKind::network, rules.netPerMinute, rules.netTotal, &AppPoint::net,
-        [](const SysPoint& p) { return p.netIn + p.netOut; }, " moved over the network");
+        [](const SysPoint& p) { return p.netIn + p.netOut; },
+        VEXEL_WORDS("vexel::Vexel", "%1 moved over the network by %2"),
+        VEXEL_WORDS("vexel::Vexel", "%1 moved over the network"));
     for (const auto& run : runs(points, step, rules.mergeGap, [](const SysPoint& p) { return p.thermal >= 2; })) {
         const auto [start, end] = span(run);
         int64_t peak = 0;
@@ -147,7 +159,8 @@ std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint
             peak = std::max(peak, p->thermal);
         const auto who = culprit(apps, start, end, &AppPoint::cpu);
         spikes.push_back(spike(SpikeKind::thermal, start, end, static_cast<double>(peak), who,
-            cformat("Ran hot for %d min", wholeMinutes(end - start)) + byCulprit(who, " while the busiest app was ")));
+            told(who, VEXEL_WORDS("vexel::Vexel", "Ran hot for %1 min while the busiest app was %2"),
+                VEXEL_WORDS("vexel::Vexel", "Ran hot for %1 min"), {{std::to_string(wholeMinutes(end - start))}})));
     }
     // Battery: from each point on battery, look ahead up to an hour for a fall of batteryDrop points.
     std::vector<const SysPoint*> discharging;
@@ -166,8 +179,10 @@ std::vector<Spike> find(std::vector<SysPoint> points, const std::vector<AppPoint
                 continue;
             const auto who = culprit(apps, first.t, later.t, &AppPoint::energy);
             spikes.push_back(spike(SpikeKind::battery, first.t, later.t, drop, who,
-                cformat("Battery fell %.0f points in %d min", drop, wholeMinutes(later.t - first.t))
-                    + byCulprit(who, " while the most energy went to ")));
+                told(who,
+                    VEXEL_WORDS("vexel::Vexel", "Battery fell %1 points in %2 min while the most energy went to %3"),
+                    VEXEL_WORDS("vexel::Vexel", "Battery fell %1 points in %2 min"),
+                    {{cformat("%.0f", drop)}, {std::to_string(wholeMinutes(later.t - first.t))}})));
             i = j; // carry on after this drain
             break;
         }

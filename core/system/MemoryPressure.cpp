@@ -1,5 +1,7 @@
 #include "system/MemoryPressure.h"
 
+#include "text/Sentence.h"
+
 namespace vexel {
 
 std::optional<MemoryPressure> memoryPressureFromRaw(long long raw)
@@ -17,11 +19,11 @@ int rawValue(MemoryPressure pressure)
 std::string title(MemoryPressure pressure)
 {
     switch (pressure) {
-    case MemoryPressure::normal: return "Normal";
-    case MemoryPressure::warning: return "Warning";
-    case MemoryPressure::critical: return "Critical";
+    case MemoryPressure::normal: return VEXEL_WORDS("vexel::Vexel", "Normal");
+    case MemoryPressure::warning: return VEXEL_WORDS("vexel::Vexel", "Warning");
+    case MemoryPressure::critical: return VEXEL_WORDS("vexel::Vexel", "Critical");
     }
-    return "Normal";
+    return VEXEL_WORDS("vexel::Vexel", "Normal");
 }
 
 } // namespace vexel

@@ -1,5 +1,7 @@
 #include "system/ThermalLevel.h"
 
+#include "text/Sentence.h"
+
 namespace vexel {
 
 int rawValue(ThermalLevel level)
@@ -10,24 +12,26 @@ int rawValue(ThermalLevel level)
 std::string title(ThermalLevel level)
 {
     switch (level) {
-    case ThermalLevel::nominal: return "Cool";
-    case ThermalLevel::fair: return "Warm";
-    case ThermalLevel::serious: return "Hot";
-    case ThermalLevel::critical: return "Critical";
+    case ThermalLevel::nominal: return VEXEL_WORDS("vexel::Vexel", "Cool");
+    case ThermalLevel::fair: return VEXEL_WORDS("vexel::Vexel", "Warm");
+    case ThermalLevel::serious: return VEXEL_WORDS("vexel::Vexel", "Hot");
+    case ThermalLevel::critical: return VEXEL_WORDS("vexel::Vexel", "Critical");
     }
-    return "Cool";
+    return VEXEL_WORDS("vexel::Vexel", "Cool");
 }
 
-std::string detail(ThermalLevel level, Platform platform)
+Sentence detail(ThermalLevel level, Platform platform)
 {
-    const std::string system = systemName(platform);
+    const std::vector<Sentence::Value> system{{systemName(platform)}};
     switch (level) {
-    case ThermalLevel::nominal: return "Running at full speed.";
-    case ThermalLevel::fair: return "Slightly warm. Fans may be audible.";
-    case ThermalLevel::serious: return "Hot. " + system + " is slowing the processor to cool down.";
-    case ThermalLevel::critical: return "Very hot. " + system + " is slowing everything down hard.";
+    case ThermalLevel::nominal: break;
+    case ThermalLevel::fair: return {VEXEL_WORDS("vexel::Vexel", "Slightly warm. Fans may be audible."), {}};
+    case ThermalLevel::serious:
+        return {VEXEL_WORDS("vexel::Vexel", "Hot. %1 is slowing the processor to cool down."), system};
+    case ThermalLevel::critical:
+        return {VEXEL_WORDS("vexel::Vexel", "Very hot. %1 is slowing everything down hard."), system};
     }
-    return "Running at full speed.";
+    return {VEXEL_WORDS("vexel::Vexel", "Running at full speed."), {}};
 }
 
 } // namespace vexel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "text/Sentence.h"
 
 #include <array>
 #include <string>
@@ -20,6 +21,6 @@ inline constexpr std::array<ThermalLevel, 4> allThermalLevels{
 [[nodiscard]] std::string title(ThermalLevel level);
 
 // One sentence on what the level means for the user, in the platform's words.
-[[nodiscard]] std::string detail(ThermalLevel level, Platform platform);
+[[nodiscard]] Sentence detail(ThermalLevel level, Platform platform);
 
 } // namespace vexel

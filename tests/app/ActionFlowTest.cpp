@@ -67,8 +67,19 @@ struct Screen {
     ActionFlow::Hooks hooks()
     {
         return {[this](ConfirmRequest request) { sheet = std::move(request); },
-            [this](std::string text) { toasts.push_back(std::move(text)); }, [this] { ++rescans; },
+            [this](const Sentence& said) { toasts.push_back(said.english()); }, [this] { ++rescans; },
             [this](double seconds, std::function<void()> work) { timers.emplace(now + seconds, std::move(work)); }};
+    }
+
+    // The sheet's message as the window puts it together, in English.
+    [[nodiscard]] std::string message() const
+    {
+        std::string said;
+        for (const auto& sentence : sheet->message)
+            said += (said.empty() ? "" : " ") + sentence.english();
+        for (const auto& line : sheet->lines)
+            said += "\n" + line.english();
+        return said;
     }
 
     void confirm()
@@ -115,25 +126,25 @@ TEST(ActionFlow, QuitIsAskedThenDoneAndCancelChangesNothing)
     ActionFlow flow(fake, screen.hooks(), me, vexelPid);
     flow.requestQuit(app("Firefox", AppKind::app, 32), false);
     ASSERT_TRUE(screen.sheet);
-    EXPECT_EQ(screen.sheet->title, "Quit Firefox?");
-    EXPECT_EQ(screen.sheet->message,
+    EXPECT_EQ(screen.sheet->title.english(), "Quit Firefox?");
+    EXPECT_EQ(screen.message(),
         "Firefox will be asked to quit, just like choosing Quit from its menu. It may ask you to save first. Its 32 "
         "helper processes will end with it.");
-    EXPECT_EQ(screen.sheet->button, "Quit");
+    EXPECT_EQ(screen.sheet->button.english(), "Quit");
     EXPECT_FALSE(screen.sheet->destructive);
     screen.sheet.reset(); // Cancel
     EXPECT_TRUE(fake.log.empty());
 
     flow.requestQuit(app("Firefox", AppKind::app, 1), true);
-    EXPECT_EQ(screen.sheet->title, "Force quit Firefox?");
-    EXPECT_EQ(screen.sheet->message,
+    EXPECT_EQ(screen.sheet->title.english(), "Force quit Firefox?");
+    EXPECT_EQ(screen.message(),
         "Firefox will stop immediately, without a chance to save. Unsaved work in it will be lost. Its 1 helper "
         "process will end with it.");
-    EXPECT_EQ(screen.sheet->button, "Force Quit");
+    EXPECT_EQ(screen.sheet->button.english(), "Force Quit");
     EXPECT_TRUE(screen.sheet->destructive);
     screen.confirm();
     flow.requestQuit(app("Files", AppKind::app, 0), false);
-    EXPECT_EQ(screen.sheet->message,
+    EXPECT_EQ(screen.message(),
         "Files will be asked to quit, just like choosing Quit from its menu. It may ask you to save first.");
     screen.confirm();
     EXPECT_EQ(fake.log, (std::vector<std::string>{"forceQuit Firefox", "quit Files"}));
@@ -150,13 +161,13 @@ TEST(ActionFlow, AnIgnoredStopIsOfferedTheForceNeverSentIt)
     StubbornActions stubborn;
     Screen screen;
     ActionFlow flow(stubborn, screen.hooks(), me, vexelPid);
-    flow.requestStop(4242, "node", {"Port 3000 in shop"}, false);
+    flow.requestStop(4242, "node", {Sentence{"Port %1 in %2", {{"3000"}, {"shop"}}}}, false);
     ASSERT_TRUE(screen.sheet);
-    EXPECT_EQ(screen.sheet->title, "Stop node?");
-    EXPECT_EQ(screen.sheet->message,
+    EXPECT_EQ(screen.sheet->title.english(), "Stop node?");
+    EXPECT_EQ(screen.message(),
         "Sends SIGTERM to process 4242, asking it to shut down cleanly — like pressing Ctrl-C in its terminal.\n"
         "Port 3000 in shop");
-    EXPECT_EQ(screen.sheet->button, "Stop");
+    EXPECT_EQ(screen.sheet->button.english(), "Stop");
     screen.confirm();
     EXPECT_EQ(stubborn.sent, (std::vector<std::pair<int32_t, int32_t>>{{4242, SIGTERM}}));
     EXPECT_EQ(screen.toasts, std::vector<std::string>{"Asked node (process 4242) to stop."});
@@ -165,8 +176,8 @@ TEST(ActionFlow, AnIgnoredStopIsOfferedTheForceNeverSentIt)
     EXPECT_FALSE(screen.sheet);
     screen.advance(0.1);
     ASSERT_TRUE(screen.sheet); // offered…
-    EXPECT_EQ(screen.sheet->title, "Force stop node?");
-    EXPECT_EQ(screen.sheet->button, "Force Stop");
+    EXPECT_EQ(screen.sheet->title.english(), "Force stop node?");
+    EXPECT_EQ(screen.sheet->button.english(), "Force Stop");
     EXPECT_TRUE(screen.sheet->destructive);
     EXPECT_EQ(stubborn.sent.size(), 1u); // …not sent
     screen.confirm();

@@ -86,9 +86,7 @@ TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
 
     demo.model->eraseHistory();
     ASSERT_TRUE(demo.model->confirm);
-    EXPECT_EQ(demo.model->confirm->title, "Erase all history?");
-    EXPECT_EQ(demo.model->confirm->message,
-        "Vexel forgets every sample it has kept, up to a year. This can't be undone. New samples start right away.");
+    EXPECT_EQ(demo.model->confirm->title.english(), "Erase all history?");
     demo.model->cancelPending();
     demo.model->loadHistorySync();
     EXPECT_FALSE(demo.model->history->points.empty()); // cancel changed nothing
@@ -123,10 +121,10 @@ TEST(AppModel, QuestionsWaitTheirTurn)
     model.actions().requestQuit(*quittable, false);
     model.actions().requestStop(4242, "node", {}, true);
     ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title, "Quit " + quittable->name + "?");
+    EXPECT_EQ(model.confirm->title.english(), "Quit " + quittable->name + "?");
     model.cancelPending();
     ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title, "Force stop node?");
+    EXPECT_EQ(model.confirm->title.english(), "Force stop node?");
     model.cancelPending();
     EXPECT_FALSE(model.confirm);
     EXPECT_TRUE(demo.fake->log.empty());
@@ -226,7 +224,7 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     window.bind(*demo.model);
     WindowKeeper keeper(window, *demo.model);
     keeper.setPanel({.host = false, .carriesReadings = false});
-    EXPECT_EQ(demo.model->toast, WindowKeeper::noPanelText);
+    EXPECT_EQ(demo.model->toast, WindowKeeper::noPanelText().toStdString());
     keeper.showAtStart(true);
     EXPECT_TRUE(window.isMinimized());
     EXPECT_FALSE(demo.model->windowVisible);
@@ -258,7 +256,7 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     // The panel went away: the hidden window comes back to the taskbar, and the app says why once.
     panel.setPanel({.host = false, .carriesReadings = false});
     EXPECT_TRUE(other.isVisible() && other.isMinimized());
-    EXPECT_EQ(inPanel.model->toast, WindowKeeper::noPanelText);
+    EXPECT_EQ(inPanel.model->toast, WindowKeeper::noPanelText().toStdString());
     // Shown by the user, then minimised by them: a panel coming back leaves it where they put it.
     other.showNormal();
     other.showMinimized();

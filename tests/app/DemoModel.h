@@ -48,7 +48,7 @@ struct DemoModel {
             [this] {
                 samplerThreadName = QThread::currentThread()->objectName().toStdString();
                 const VexelPaths paths(folder.path());
-                std::optional<std::string> error;
+                std::optional<Sentence> error;
                 auto sampler = std::make_unique<Sampler>(
                     world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
                 sampler->beforeSample = [this](double at) {

@@ -158,7 +158,7 @@ namespace {
 struct DemoSampler {
     vexel::testing::TempFolder folder{"vexel-sampler"};
     DemoWorld world;
-    std::optional<std::string> openError;
+    std::optional<Sentence> openError;
     VexelPaths paths{folder.path()};
     Sampler sampler{world.monitor(), Sampler::openStore(paths, openError), paths, TimeZone::fixed(0)};
 
@@ -181,7 +181,7 @@ struct DemoSampler {
 TEST(Sampler, HistoryReachesTheFileWithinAMinuteAndAllOfItByQuit)
 {
     DemoSampler demo;
-    ASSERT_TRUE(demo.sampler.recording()) << demo.openError.value_or("");
+    ASSERT_TRUE(demo.sampler.recording()) << demo.openError.value_or(Sentence{}).english();
     const double start = demo.world.now();
     (void)demo.tickAt(start); // the first frame has no interval: shown, never kept
     for (int i = 1; i <= 29; ++i)
@@ -236,11 +236,11 @@ TEST(Sampler, AHistoryThatCannotBeOpenedIsSaidAndNothingIsRecorded)
     const vexel::testing::TempFolder folder("vexel-sampler");
     std::filesystem::create_directories(folder.path() / "history.sqlite"); // a folder where the file should be
     const VexelPaths paths(folder.path());
-    std::optional<std::string> error;
+    std::optional<Sentence> error;
     auto store = Sampler::openStore(paths, error);
     EXPECT_FALSE(store);
     ASSERT_TRUE(error);
-    EXPECT_NE(error->find("history"), std::string::npos) << *error;
+    EXPECT_NE(error->english().find("history"), std::string::npos) << error->english();
     DemoWorld world;
     Sampler sampler(world.monitor(), nullptr, paths);
     EXPECT_FALSE(sampler.recording());
@@ -284,7 +284,7 @@ TEST(Sampler, HistoryIsNeverExpiredOnLimitsTheUserDidNotWrite)
                 store.insert(HistoryTier::hour, hour, {});
             }
         }
-        std::optional<std::string> error;
+        std::optional<Sentence> error;
         Sampler sampler(world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
         // The plan carries the settings as loaded: defaults where the file could not be read.
         const auto result = sampler.tick(now,
@@ -292,7 +292,7 @@ TEST(Sampler, HistoryIsNeverExpiredOnLimitsTheUserDidNotWrite)
                 .compact = true,
                 .retentionDays = sampler.settingsFile().settings().retentionDays,
                 .maxBytes = c.maxBytes});
-        EXPECT_FALSE(result.error) << *result.error;
+        EXPECT_FALSE(result.error) << result.error->english();
         const HistoryStore reader(paths.history(), HistoryAccess::readOnly);
         std::vector<double> kept;
         for (const auto& point : reader.points(HistoryTier::hour, 0, now))
@@ -318,7 +318,8 @@ TEST(Sampler, AHistoryRemovedOrReplacedWhileRecordingIsNoticed)
         std::filesystem::remove(history + companion);
     const auto noticed = demo.tickAt(start + 22);
     ASSERT_TRUE(noticed.notice);
-    EXPECT_NE(noticed.notice->find(history + " was removed or replaced"), std::string::npos) << *noticed.notice;
+    EXPECT_NE(noticed.notice->english().find(history + " was removed or replaced"), std::string::npos)
+        << noticed.notice->english();
     EXPECT_FALSE(noticed.error);
     EXPECT_FALSE(demo.sampler.flush());
     EXPECT_EQ(demo.storedRows(), 11) << "the waiting points are in the new file";
@@ -349,7 +350,8 @@ TEST(Sampler, AHistoryRemovedOrReplacedWhileRecordingIsNoticed)
     std::filesystem::rename(foreign, history);
     const auto refused = demo.tickAt(start + 26);
     ASSERT_TRUE(refused.error);
-    EXPECT_NE(refused.error->find(history + " isn't a Vexel history"), std::string::npos) << *refused.error;
+    EXPECT_NE(refused.error->english().find(history + " isn't a Vexel history"), std::string::npos)
+        << refused.error->english();
     EXPECT_FALSE(demo.sampler.recording());
     EXPECT_EQ(vexel::Files::read(history), bytes);
 }
@@ -367,7 +369,7 @@ TEST(Sampler, TheWindowReadsTheRecordersHistoryAndTakesOverWhenItStops)
     const double start = world.now();
     auto recorderLock = std::make_unique<RecorderLock>(paths.dir);
     ASSERT_TRUE(recorderLock->held());
-    std::optional<std::string> error;
+    std::optional<Sentence> error;
     auto recorder
         = std::make_unique<Sampler>(world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
     recorder->beforeSample = [&](double now) { world.advance(now - world.now()); };
@@ -385,14 +387,14 @@ TEST(Sampler, TheWindowReadsTheRecordersHistoryAndTakesOverWhenItStops)
     EXPECT_FALSE(window.recording());
     const TickPlan minute{.record = true, .compact = true, .totals = true};
     const auto first = window.tick(now, minute);
-    EXPECT_FALSE(first.error) << *first.error;
+    EXPECT_FALSE(first.error) << first.error->english();
     EXPECT_EQ(first.otherRecorder, ::getpid());
     ASSERT_TRUE(first.today && first.todaySeries);
     EXPECT_GT(first.today->diskW, 0);
     EXPECT_FALSE(window.history(HistoryRange::today, now, SpikeRules{}).points.empty());
     const auto refused = window.erase();
     ASSERT_TRUE(refused);
-    EXPECT_NE(refused->find("keeps the history, so it can't be erased from this window"), std::string::npos);
+    EXPECT_NE(refused->english().find("keeps the history, so it can't be erased from this window"), std::string::npos);
 
     record(12); // a minute on, the window sees it
     const auto later = window.tick(now, minute);
@@ -401,7 +403,8 @@ TEST(Sampler, TheWindowReadsTheRecordersHistoryAndTakesOverWhenItStops)
     recorder.reset();
     recorderLock.reset(); // the recorder stops
     const auto takeOver = window.tick(now, minute);
-    EXPECT_EQ(takeOver.notice, "Vexel's recorder stopped, so this window records the history now.");
+    ASSERT_TRUE(takeOver.notice);
+    EXPECT_EQ(takeOver.notice->english(), "Vexel's recorder stopped, so this window records the history now.");
     EXPECT_FALSE(takeOver.otherRecorder);
     EXPECT_TRUE(window.recording());
     for (int i = 1; i <= 3; ++i)

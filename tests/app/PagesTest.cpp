@@ -253,10 +253,10 @@ TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
     auto& page = *shown;
     EXPECT_TRUE(page.awayLines().isEmpty());
     model.awaySince = demo->now - 3600;
-    model.awaySpikes
-        = {Spike{SpikeKind::cpu, demo->now - 3000, demo->now - 2400, 0.95, "Xcode", 0.8, "CPU at 95% for 10 minutes"}};
+    model.awaySpikes = {Spike{SpikeKind::cpu, demo->now - 3000, demo->now - 2400, 0.95, "Xcode", 0.8,
+        Sentence{"%1 kept the processor busy for %2 min", {{"Xcode"}, {"10"}}}}};
     page.showModel(model);
-    EXPECT_EQ(page.awayLines(), QStringList{"CPU at 95% for 10 minutes, mostly Xcode"});
+    EXPECT_EQ(page.awayLines(), QStringList{"Xcode kept the processor busy for 10 min"});
     model.awaySpikes.clear();
     page.showModel(model);
     EXPECT_EQ(page.awayLines(),

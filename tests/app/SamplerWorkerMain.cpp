@@ -19,10 +19,10 @@ int main(int argc, char** argv)
     const bool compacts = std::string(argv[2]) == "compact";
     DemoWorld world;
     const VexelPaths paths(argv[1]);
-    std::optional<std::string> error;
+    std::optional<Sentence> error;
     Sampler sampler(world.monitor(), Sampler::openStore(paths, error), paths, TimeZone::fixed(0));
     if (error) {
-        std::fprintf(stderr, "%s\n", error->c_str());
+        std::fprintf(stderr, "%s\n", error->english().c_str());
         return 1;
     }
     sampler.beforeSample = [&world](double now) { world.advance(now - world.now()); };
@@ -30,7 +30,7 @@ int main(int argc, char** argv)
     for (int tick = 0;; ++tick, now += 2) {
         const TickPlan plan{.record = true, .compact = compacts && tick % 30 == 0, .maxBytes = 1'000'000'000};
         if (const auto result = sampler.tick(now, plan); result.error) {
-            std::fprintf(stderr, "%s\n", result.error->c_str());
+            std::fprintf(stderr, "%s\n", result.error->english().c_str());
             return 1;
         }
         std::printf("tick %.0f\n", now);

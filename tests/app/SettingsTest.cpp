@@ -113,7 +113,7 @@ TEST(CommandLineSetup, LinksTheCommandIntoTheUsersBin)
     const auto link = home.path() / ".local" / "bin" / "vexel";
 
     auto outcome = CommandLineSetup::installCommand(vexel, home.path());
-    EXPECT_TRUE(outcome.done) << outcome.text;
+    EXPECT_TRUE(outcome.done) << outcome.text.english();
     EXPECT_EQ(std::filesystem::read_symlink(link), vexel);
     // Again, over its own link.
     EXPECT_TRUE(CommandLineSetup::installCommand(vexel, home.path()).done);
@@ -132,9 +132,9 @@ TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
     TempFolder home("vexel-home");
     const auto without = CommandLineSetup::addToClaude(std::nullopt, home.path());
     EXPECT_FALSE(without.done);
-    EXPECT_NE(without.text.find(CommandLineSetup::claudeLine()), std::string::npos);
-    EXPECT_NE(without.text.find("\"args\": [\"--mcp\"]"), std::string::npos);
-    EXPECT_NE(without.text.find((home.path() / ".local/bin/vexel").string()), std::string::npos);
+    EXPECT_NE(without.text.english().find(CommandLineSetup::claudeLine()), std::string::npos);
+    EXPECT_NE(without.text.english().find("\"args\": [\"--mcp\"]"), std::string::npos);
+    EXPECT_NE(without.text.english().find((home.path() / ".local/bin/vexel").string()), std::string::npos);
 
     // A claude that writes down what it was asked.
     const auto claude = home.path() / "claude";
@@ -142,7 +142,7 @@ TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
     std::ofstream(claude) << "#!/bin/sh\necho \"$@\" > " << asked.string() << "\necho Added\n";
     std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
     const auto with = CommandLineSetup::addToClaude(claude.string(), home.path());
-    EXPECT_TRUE(with.done) << with.text;
+    EXPECT_TRUE(with.done) << with.text.english();
     std::ifstream said(asked);
     std::string line;
     std::getline(said, line);
@@ -152,7 +152,7 @@ TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
     std::ofstream(claude, std::ios::trunc) << "#!/bin/sh\necho 'MCP server vexel already exists' >&2\nexit 1\n";
     const auto refused = CommandLineSetup::addToClaude(claude.string(), home.path());
     EXPECT_FALSE(refused.done);
-    EXPECT_NE(refused.text.find("already exists"), std::string::npos);
+    EXPECT_NE(refused.text.english().find("already exists"), std::string::npos);
 }
 
 TEST(VexelCommands, EveryRouteOnItsShortcutAndTheSettingsOnCtrlComma)

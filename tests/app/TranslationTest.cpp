@@ -3,6 +3,7 @@
 
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
+#include "system/ThermalLevel.h"
 #include "texts/Translations.h"
 #include "texts/Vexel.h"
 
@@ -25,6 +26,18 @@ TEST(Translations, TheUsersLanguageIsLoadedWhereInstalledAndEnglishElsewhere)
         <source>Overview</source>
         <translation>Übersicht</translation>
     </message>
+    <message>
+        <source>Cool</source>
+        <translation>Kühl</translation>
+    </message>
+    <message>
+        <source>Hot. %1 is slowing the processor to cool down.</source>
+        <translation>Heiß. %1 bremst den Prozessor, damit er abkühlt.</translation>
+    </message>
+    <message>
+        <source>%1 kept the processor busy for %2 min</source>
+        <translation>%2 Min. lang hielt %1 den Prozessor beschäftigt</translation>
+    </message>
     <message numerus="yes">
         <source>%n process(es)</source>
         <translation><numerusform>%n Prozess</numerusform><numerusform>%n Prozesse</numerusform></translation>
@@ -43,6 +56,12 @@ TEST(Translations, TheUsersLanguageIsLoadedWhereInstalledAndEnglishElsewhere)
     EXPECT_EQ(Vexel::tr("Overview"), QStringLiteral("Übersicht"));
     EXPECT_EQ(Vexel::tr("%n process(es)", nullptr, 3), QStringLiteral("3 Prozesse"));
     EXPECT_EQ(Vexel::tr("CPU"), QStringLiteral("CPU")); // untranslated: as written
+    // The core's words and sentences, with their values in the translator's order.
+    EXPECT_EQ(Vexel::words(title(ThermalLevel::nominal)), QStringLiteral("Kühl"));
+    EXPECT_EQ(Vexel::say(detail(ThermalLevel::serious, Platform::linux)),
+        QStringLiteral("Heiß. Linux bremst den Prozessor, damit er abkühlt."));
+    EXPECT_EQ(Vexel::say(Sentence{"%1 kept the processor busy for %2 min", {{"make %2"}, {"25"}}}),
+        QStringLiteral("25 Min. lang hielt make %2 den Prozessor beschäftigt"));
     // Under the German, the English plural forms built into the app.
     EXPECT_EQ(Vexel::tr("%n process(es) ended and wait(s) for its parent to collect it (zombie). They use no CPU or "
                         "memory.",

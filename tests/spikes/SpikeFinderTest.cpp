@@ -37,7 +37,7 @@ TEST(SpikeFinder, CpuRunsNeedThreeMinutes)
     EXPECT_EQ(three[0].start, 0);
     EXPECT_EQ(three[0].end, 180);
     EXPECT_EQ(three[0].peak, 0.95);
-    EXPECT_EQ(three[0].summary, "The processor was busy for 3 min");
+    EXPECT_EQ(three[0].summary.english(), "The processor was busy for 3 min");
     EXPECT_EQ(three[0].id(), "cpu@0");
 }
 
@@ -54,7 +54,7 @@ TEST(SpikeFinder, NoCulpritWhenNoAppDidAnyOfIt)
     ASSERT_EQ(spikes.size(), 1u);
     EXPECT_FALSE(spikes[0].culprit);
     EXPECT_FALSE(spikes[0].share);
-    EXPECT_EQ(spikes[0].summary, "The processor was busy for 3 min");
+    EXPECT_EQ(spikes[0].summary.english(), "The processor was busy for 3 min");
 }
 
 TEST(SpikeFinder, QuietGapsOfThreeMinutesMergeAndOfFourSplit)
@@ -100,11 +100,11 @@ TEST(SpikeFinder, DiskAndNetworkAmountsWithCulprits)
     const auto disk = ofKind(spikes, SpikeKind::disk);
     ASSERT_EQ(disk.size(), 1u);
     EXPECT_EQ(disk[0].peak, 1.2e9);
-    EXPECT_EQ(disk[0].summary, "1.2 GB written to disk by Backup");
+    EXPECT_EQ(disk[0].summary.english(), "1.2 GB written to disk by Backup");
     EXPECT_NEAR(*disk[0].share, 0.9, 1e-12);
     const auto net = ofKind(spikes, SpikeKind::network);
     ASSERT_EQ(net.size(), 1u);
-    EXPECT_EQ(net[0].summary, "720 MB moved over the network by Other");
+    EXPECT_EQ(net[0].summary.english(), "720 MB moved over the network by Other");
     // 900 MB in all is not reported, however fast it was written.
     for (auto& p : points)
         p.diskW = 150e6;
