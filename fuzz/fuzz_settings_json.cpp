@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     require(settings.idleDays >= 0.1 && settings.idleDays <= 365);
     require(settings.spikes.cpuMinutes >= 1 && settings.strain.cpuStrained <= 1);
     for (const auto& problem : problems)
-        require(problem.text.rfind(problem.key + " must be ", 0) == 0);
+        require(problem.text.english().rfind(problem.key + " must be ", 0) == 0);
     std::vector<vexel::SettingsProblem> again;
     const auto reloaded
         = vexel::settingsFromJson(nlohmann::ordered_json::parse(vexel::toJson(settings).dump()), &again);

@@ -31,7 +31,7 @@ case "${1:-}" in
       echo "translations: write English's singular and plural forms of these in translations/vexel_en.ts" >&2
       exit 1
     fi
-    echo "translations: translations/vexel_en.ts holds the $(grep -c '<message' "$fresh") sentences of app/"
+    echo "translations: translations/vexel_en.ts holds the $(grep -c '<message' "$fresh") sentences of app/ and core/"
     ;;
   update) collect translations/vexel_en.ts ;;
   *)

@@ -1708,5 +1708,117 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>%1 off, %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Couldn&apos;t write %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open the history: %1 was written by a newer version of Vexel (history version %2; this one reads up to %3). Vexel leaves it alone; update Vexel to use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open the history: %1 isn&apos;t a Vexel history: it is another program&apos;s SQLite database. Vexel leaves it alone; move it elsewhere and Vexel starts a new history there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vexel uses its defaults for now and leaves the file as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is larger than 4 MB, too large to be settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds a JSON %2, not an object of settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t valid JSON (%2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your change holds until Vexel quits but can&apos;t be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the file right, or move it away, and Vexel saves its settings there again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be true or false; using %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a fraction, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a whole percentage, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a number of bytes, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a number of seconds, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a number of bytes per second, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a whole number of minutes, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a number of percentage points, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a whole number of days, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a whole number of megabytes, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a number of days, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be an object of thresholds; using the defaults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be &quot;mac&quot; or &quot;core&quot;; using %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a list of items, each with a kind, enabled and style, no kind twice; using the default items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be one of &quot;cpu&quot;, &quot;memory&quot;, &quot;energy&quot;, &quot;disk&quot; or &quot;network&quot;; using %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 must be a time in seconds since 1970; leaving it out.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -72,7 +72,8 @@ AppModel::AppModel(Setup setup)
     // The settings are read on the sampler's thread, with the sampler, before the window shows.
     m_sampler->run([this](Sampler& sampler) {
         settings = sampler.settingsFile().settings();
-        notices = sampler.settingsFile().messages();
+        for (const auto& message : sampler.settingsFile().messages())
+            notices.push_back(Vexel::say(message).toStdString());
         std::error_code missing;
         openAtLogin = std::filesystem::exists(autostartFile(), missing);
         if (sampler.openError())
@@ -138,11 +139,10 @@ void AppModel::shutdown()
 
 void AppModel::saveSettings(SettingsFile::Saving saving)
 {
-    onSampler<std::optional<Sentence>>(
-        [saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
-        [this](const std::optional<Sentence>& said) {
-            if (said)
-                tell(*said);
+    onSampler<Paragraph>([saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
+        [this](const Paragraph& said) {
+            if (!said.empty())
+                tell(Vexel::say(said));
         });
 }
 
@@ -473,8 +473,8 @@ void AppModel::reveal(const std::string& path)
 void AppModel::setOpenAtLogin(bool open)
 {
     const std::string program = QCoreApplication::applicationFilePath().toStdString();
-    onSampler<std::optional<std::string>>(
-        [open, program](Sampler&) -> std::optional<std::string> {
+    onSampler<std::optional<Sentence>>(
+        [open, program](Sampler&) -> std::optional<Sentence> {
             const auto file = autostartFile();
             try {
                 if (open)
@@ -484,12 +484,16 @@ void AppModel::setOpenAtLogin(bool open)
                 else
                     std::filesystem::remove(file);
                 return std::nullopt;
+            } catch (const std::filesystem::filesystem_error& failure) {
+                return Sentence{open ? VEXEL_WORDS("vexel::Vexel", "Couldn't write %1: %2.")
+                                     : VEXEL_WORDS("vexel::Vexel", "Couldn't remove %1: %2."),
+                    {{failure.path1().empty() ? file.string() : failure.path1().string()}, {failure.code().message()}}};
             } catch (const std::exception& failure) {
-                return failure.what();
+                return Sentence::asIs(failure.what());
             }
         },
-        [this, open](std::optional<std::string> failed) {
-            loginItemError = std::move(failed);
+        [this, open](const std::optional<Sentence>& failed) {
+            loginItemError = failed ? std::optional(Vexel::say(*failed).toStdString()) : std::nullopt;
             if (!loginItemError)
                 openAtLogin = open;
             notify(loginItemChanged);

@@ -42,7 +42,7 @@ std::unique_ptr<HistoryStore> Sampler::openStore(const VexelPaths& paths, std::o
     try {
         return std::make_unique<HistoryStore>(paths.history(), HistoryAccess::readWrite);
     } catch (const HistoryError& failure) {
-        error = Sentence::asIs(failure.what()); // "Couldn't open the history: …" already
+        error = failure.said(); // "Couldn't open the history: …" already
     } catch (const std::exception& failure) {
         error = Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't open the history: %1"), {{failure.what()}}};
     }
@@ -75,7 +75,7 @@ void Sampler::openForReading()
         m_store.reset();
         // No file yet is no failure: the recorder makes it.
         m_openError
-            = Files::missing(m_paths.history().string()) ? std::nullopt : std::optional(Sentence::asIs(failure.what()));
+            = Files::missing(m_paths.history().string()) ? std::nullopt : std::optional(HistoryError::said(failure));
     }
 }
 
@@ -165,7 +165,7 @@ void Sampler::record(const Frame& frame, double now, TickResult& result)
     try {
         m_batch.writeTo(*m_store);
     } catch (const std::exception& failure) {
-        result.error = Sentence::asIs(failure.what());
+        result.error = HistoryError::said(failure);
     }
 }
 
@@ -190,7 +190,7 @@ void Sampler::compact(double now, const TickPlan& plan, TickResult& result)
         m_store->vacuum();
         result.historyBytes = m_store->usedBytes();
     } catch (const std::exception& failure) {
-        result.error = Sentence::asIs(failure.what());
+        result.error = HistoryError::said(failure);
     }
 }
 
@@ -229,7 +229,7 @@ void Sampler::totals(double now, TickResult& result)
         result.todaySeries = Downsample::regroup(
             m_store->series(vexel::tier(HistoryRange::today), today, now), vexel::chartBucket(HistoryRange::today));
     } catch (const std::exception& failure) {
-        result.error = Sentence::asIs(failure.what());
+        result.error = HistoryError::said(failure);
     }
 }
 
@@ -252,21 +252,21 @@ Sampler::HistoryResult Sampler::history(HistoryRange range, double now, const Sp
         result.spikes = SpikeFinder::find(result.points, result.apps, rules);
         result.first = m_store->firstSample();
     } catch (const std::exception& failure) {
-        result = HistoryResult{{}, {}, {}, {}, from, now, Sentence::asIs(failure.what())};
+        result = HistoryResult{{}, {}, {}, {}, from, now, HistoryError::said(failure)};
     }
     return result;
 }
 
-std::optional<Sentence> Sampler::saveSettings(const VexelSettings& settings, SettingsFile::Saving saving)
+Paragraph Sampler::saveSettings(const VexelSettings& settings, SettingsFile::Saving saving)
 {
     try {
-        const auto outcome = m_settings.save(settings, saving);
+        auto outcome = m_settings.save(settings, saving);
         // Vexel's own bookkeeping leaves a broken file alone: that was said when it was read.
-        if (saving == SettingsFile::Saving::automatic || outcome.note.empty())
-            return std::nullopt;
-        return Sentence::asIs(outcome.note);
+        if (saving == SettingsFile::Saving::automatic)
+            return {};
+        return std::move(outcome.note);
     } catch (const std::exception& failure) {
-        return Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't save the settings: %1"), {{failure.what()}}};
+        return {Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't save the settings: %1"), {{failure.what()}}}};
     }
 }
 
@@ -278,7 +278,7 @@ std::optional<Sentence> Sampler::flush()
         m_batch.writeTo(*m_store);
         return std::nullopt;
     } catch (const std::exception& failure) {
-        return Sentence::asIs(failure.what());
+        return HistoryError::said(failure);
     }
 }
 
@@ -296,7 +296,7 @@ std::optional<Sentence> Sampler::erase()
         m_store->eraseAll();
         return std::nullopt;
     } catch (const std::exception& failure) {
-        return Sentence::asIs(failure.what());
+        return HistoryError::said(failure);
     }
 }
 

@@ -70,7 +70,7 @@ public:
     // Saves the settings (SettingsFile::save); what to tell the user: a
     // failure, or, for the user's own change, that the file can't be read
     // and the change holds until Vexel quits. Nothing when there is nothing to say.
-    [[nodiscard]] std::optional<Sentence> saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
+    [[nodiscard]] Paragraph saveSettings(const VexelSettings& settings, SettingsFile::Saving saving);
 
     // Whether this process writes the history.
     [[nodiscard]] bool recording() const { return m_store && !m_store->readOnly(); }

@@ -58,7 +58,7 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
     Sampler sampler(m_options.makeMonitor(), std::move(store), paths);
     // What of the settings could not be used is said once, to the journal.
     for (const auto& message : sampler.settingsFile().messages())
-        err << message << "\n";
+        err << english(message) << "\n";
     err << std::flush;
     auto settings = sampler.settingsFile().settings();
     Cadence cadence;
@@ -84,8 +84,8 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
         status = 1;
     }
     settings.lastSeen = m_options.clock();
-    if (const auto failure = sampler.saveSettings(settings, SettingsFile::Saving::automatic)) {
-        err << failure->english() << "\n";
+    if (const auto failure = sampler.saveSettings(settings, SettingsFile::Saving::automatic); !failure.empty()) {
+        err << english(failure) << "\n";
         status = 1;
     }
     out << "Stopped recording.\n";

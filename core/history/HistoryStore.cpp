@@ -83,9 +83,10 @@ void requireVexelsOwn(sqlite3* db, const std::filesystem::path& file)
     if (id == HistoryStore::applicationId) {
         if (const long long version = pragmaValue(db, "user_version"); version > HistoryStore::schemaVersion)
             throw HistoryError(HistoryError::Kind::open,
-                file.string() + " was written by a newer version of Vexel (history version " + std::to_string(version)
-                    + "; this one reads up to " + std::to_string(HistoryStore::schemaVersion)
-                    + "). Vexel leaves it alone; update Vexel to use it.");
+                Sentence{VEXEL_WORDS("vexel::Vexel",
+                             "Couldn't open the history: %1 was written by a newer version of Vexel (history version "
+                             "%2; this one reads up to %3). Vexel leaves it alone; update Vexel to use it."),
+                    {{file.string()}, {std::to_string(version)}, {std::to_string(HistoryStore::schemaVersion)}}});
         return;
     }
     const Sqlite::Statement tables(db, "SELECT count(*) FROM sqlite_schema");
@@ -93,9 +94,10 @@ void requireVexelsOwn(sqlite3* db, const std::filesystem::path& file)
     if (id == 0 && (empty || earlierVexelHistory(db)))
         return;
     throw HistoryError(HistoryError::Kind::open,
-        file.string()
-            + " isn't a Vexel history: it is another program's SQLite database. Vexel leaves it alone; move it "
-              "elsewhere and Vexel starts a new history there.");
+        Sentence{VEXEL_WORDS("vexel::Vexel",
+                     "Couldn't open the history: %1 isn't a Vexel history: it is another program's SQLite database. "
+                     "Vexel leaves it alone; move it elsewhere and Vexel starts a new history there."),
+            {{file.string()}}});
 }
 
 // The check a writer makes before it changes anything, on a connection that

@@ -18,7 +18,7 @@ namespace {
 // Far more than any settings file holds; a larger file is not Vexel's settings.
 constexpr size_t readCap = 4 * 1024 * 1024;
 
-constexpr const char* leftAlone = " Vexel uses its defaults for now and leaves the file as it is.";
+const Sentence leftAlone{VEXEL_WORDS("vexel::Vexel", "Vexel uses its defaults for now and leaves the file as it is.")};
 
 // The settings whose stand-ins must never expire or trim history.
 constexpr std::array<const char*, 2> historyLimits{"retentionDays", "maxHistoryMB"};
@@ -27,7 +27,7 @@ constexpr std::array<const char*, 2> historyLimits{"retentionDays", "maxHistoryM
 struct Reading {
     SettingsFile::State state = SettingsFile::State::missing;
     Json document = Json::object();
-    std::optional<std::string> failure;
+    std::optional<Sentence> failure;
 };
 
 // nlohmann's parse error without its code: "parse error at line 3, column 1: …".
@@ -46,8 +46,10 @@ Reading readDocument(const std::filesystem::path& file)
         if (whole.error == ENOENT)
             return {};
         if (whole.error == EFBIG)
-            return {SettingsFile::State::unreadable, {}, name + " is larger than 4 MB, too large to be settings."};
-        return {SettingsFile::State::unreadable, {}, "Couldn't read " + name + ": " + std::strerror(whole.error) + "."};
+            return {SettingsFile::State::unreadable, {},
+                Sentence{VEXEL_WORDS("vexel::Vexel", "%1 is larger than 4 MB, too large to be settings."), {{name}}}};
+        return {SettingsFile::State::unreadable, {},
+            Sentence{VEXEL_WORDS("vexel::Vexel", "Couldn't read %1: %2."), {{name}, {std::strerror(whole.error)}}}};
     }
     // An empty file holds nothing of the user's to keep.
     if (TextScan::trim(*whole.bytes).empty())
@@ -56,10 +58,12 @@ Reading readDocument(const std::filesystem::path& file)
         Json document = Json::parse(*whole.bytes);
         if (!document.is_object())
             return {SettingsFile::State::unreadable, {},
-                name + " holds a JSON " + document.type_name() + ", not an object of settings."};
+                Sentence{VEXEL_WORDS("vexel::Vexel", "%1 holds a JSON %2, not an object of settings."),
+                    {{name}, {document.type_name()}}}};
         return {SettingsFile::State::read, std::move(document), std::nullopt};
     } catch (const Json::parse_error& error) {
-        return {SettingsFile::State::unreadable, {}, name + " isn't valid JSON (" + parseError(error.what()) + ")."};
+        return {SettingsFile::State::unreadable, {},
+            Sentence{VEXEL_WORDS("vexel::Vexel", "%1 isn't valid JSON (%2)."), {{name}, {parseError(error.what())}}}};
     }
 }
 
@@ -112,13 +116,13 @@ void SettingsFile::adopt(State state, const Json& document)
     m_saved = m_settings;
 }
 
-std::vector<std::string> SettingsFile::messages() const
+std::vector<Paragraph> SettingsFile::messages() const
 {
-    std::vector<std::string> said;
+    std::vector<Paragraph> said;
     if (m_failure)
-        said.push_back(*m_failure + leftAlone);
+        said.push_back({*m_failure, leftAlone});
     for (const auto& problem : m_problems)
-        said.push_back(problem.text + ".");
+        said.push_back({problem.text});
     return said;
 }
 
@@ -133,10 +137,12 @@ SettingsFile::SaveOutcome SettingsFile::save(const VexelSettings& settings, Savi
     if (now.state == State::unreadable) {
         // Not saved: the change is still to write when the file can be read again.
         if (saving == Saving::automatic)
-            return {false, *now.failure + leftAlone};
+            return {false, {*now.failure, leftAlone}};
         return {false,
-            "Your change holds until Vexel quits but can't be saved: " + *now.failure
-                + " Put the file right, or move it away, and Vexel saves its settings there again."};
+            {Sentence{VEXEL_WORDS("vexel::Vexel", "Your change holds until Vexel quits but can't be saved.")},
+                *now.failure,
+                Sentence{VEXEL_WORDS("vexel::Vexel",
+                    "Put the file right, or move it away, and Vexel saves its settings there again.")}}};
     }
     if (now.state == State::missing)
         now.document = wanted; // a new file has every key, to be read and edited

@@ -30,11 +30,11 @@ public:
     // until Vexel quits.
     enum class Saving { automatic, userChange };
 
-    // What a save did, and a sentence for the user when there is something
+    // What a save did, and what to tell the user when there is something
     // to say (the file was left alone).
     struct SaveOutcome {
         bool written = false;
-        std::string note;
+        Paragraph note;
     };
 
     // Reads `file` (at most 4 MB). Never throws: what cannot be read is said
@@ -44,11 +44,11 @@ public:
     [[nodiscard]] const VexelSettings& settings() const { return m_settings; }
     [[nodiscard]] State state() const { return m_state; }
     // Why the file could not be read, with what Vexel does about it.
-    [[nodiscard]] const std::optional<std::string>& failure() const { return m_failure; }
+    [[nodiscard]] const std::optional<Sentence>& failure() const { return m_failure; }
     // The values that were not used as written, each said once.
     [[nodiscard]] const std::vector<SettingsProblem>& problems() const { return m_problems; }
-    // The failure or the problems, one sentence each.
-    [[nodiscard]] std::vector<std::string> messages() const;
+    // The failure, with what Vexel does about it, or the problems: one paragraph each.
+    [[nodiscard]] std::vector<Paragraph> messages() const;
     // Whether the history's limits (retentionDays, maxHistoryMB) are the
     // user's: read as written, or left out of the file (or no file at all),
     // so Vexel's defaults. False when the file could not be read or either
@@ -75,7 +75,7 @@ private:
     State m_state = State::missing;
     VexelSettings m_settings;
     VexelSettings m_saved; // as the file last held them, by this process's reading
-    std::optional<std::string> m_failure;
+    std::optional<Sentence> m_failure;
     std::vector<SettingsProblem> m_problems;
     std::vector<std::string> m_standIns; // history limits that stand in for what the user wrote
 };

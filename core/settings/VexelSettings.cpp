@@ -16,12 +16,12 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-// What a number may be, and what it is in words, for the sentence that says
-// a value was not used as written.
+// What a number may be, and the sentence that says a value was not used as
+// written: the key, the two limits and the value used instead.
 struct Limits {
     double least = 0;
     double most = 0;
-    const char* kind = "";
+    const char* notUsed = "";
 };
 
 // One number or flag of a record under its JSON key: each table below is the
@@ -44,10 +44,13 @@ public:
 
     [[nodiscard]] Problems nested(const std::string& key) const { return {m_sink, path(key) + "."}; }
     [[nodiscard]] std::string path(const std::string& key) const { return m_prefix + key; }
-    void say(const std::string& key, const std::string& text) const
+    // `pattern` names the key as %1, followed by `values`.
+    void say(const std::string& key, const char* pattern, std::vector<Sentence::Value> values = {}) const
     {
-        if (m_sink != nullptr)
-            m_sink->push_back({path(key), path(key) + " must be " + text});
+        if (m_sink == nullptr)
+            return;
+        values.insert(values.begin(), {path(key)});
+        m_sink->push_back({path(key), Sentence(pattern, std::move(values))});
     }
 
 private:
@@ -75,9 +78,8 @@ void readNumber(const Json& object, const char* key, const Limits& limits, T& in
     if (value == nullptr)
         return;
     const auto say = [&] {
-        problems.say(key,
-            std::string(limits.kind) + ", " + number(limits.least) + " to " + number(limits.most) + "; using "
-                + number(static_cast<double>(into)));
+        problems.say(
+            key, limits.notUsed, {{number(limits.least)}, {number(limits.most)}, {number(static_cast<double>(into))}});
     };
     if (!value->is_number()) {
         say();
@@ -102,7 +104,8 @@ void readFlag(const Json& object, const char* key, bool& into, const Problems& p
     if (value->is_boolean())
         into = value->get<bool>();
     else
-        problems.say(key, std::string("true or false; using ") + (into ? "true" : "false"));
+        problems.say(
+            key, VEXEL_WORDS("vexel::Vexel", "%1 must be true or false; using %2."), {{into ? "true" : "false"}});
 }
 
 template <typename Record, size_t count>
@@ -128,9 +131,10 @@ void readFields(
     }
 }
 
-constexpr Limits fraction{0, 1, "a fraction"};
-constexpr Limits percent{0, 100, "a whole percentage"};
-constexpr Limits bytes{0, 1e15, "a number of bytes"};
+constexpr Limits fraction{0, 1, VEXEL_WORDS("vexel::Vexel", "%1 must be a fraction, %2 to %3; using %4.")};
+constexpr Limits percent{0, 100, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole percentage, %2 to %3; using %4.")};
+constexpr Limits bytes{0, 1e15, VEXEL_WORDS("vexel::Vexel", "%1 must be a number of bytes, %2 to %3; using %4.")};
+constexpr const char* seconds = VEXEL_WORDS("vexel::Vexel", "%1 must be a number of seconds, %2 to %3; using %4.");
 
 const std::array<Field<StrainRules>, 9> strainFields{{
     {"cpuElevated", &StrainRules::cpuElevated, fraction},
@@ -141,34 +145,40 @@ const std::array<Field<StrainRules>, 9> strainFields{{
     {"diskFreeStrained", &StrainRules::diskFreeStrained, fraction},
     {"gpuElevated", &StrainRules::gpuElevated, fraction},
     {"gpuStrained", &StrainRules::gpuStrained, fraction},
-    {"netElevated", &StrainRules::netElevated, {0, 1e12, "a number of bytes per second"}},
+    {"netElevated", &StrainRules::netElevated,
+        {0, 1e12, VEXEL_WORDS("vexel::Vexel", "%1 must be a number of bytes per second, %2 to %3; using %4.")}},
 }};
 
 const std::array<Field<SpikeRules>, 8> spikeFields{{
     {"cpu", &SpikeRules::cpu, fraction},
-    {"cpuMinutes", &SpikeRules::cpuMinutes, {1, 1440, "a whole number of minutes"}},
+    {"cpuMinutes", &SpikeRules::cpuMinutes,
+        {1, 1440, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of minutes, %2 to %3; using %4.")}},
     {"diskPerMinute", &SpikeRules::diskPerMinute, bytes},
     {"diskTotal", &SpikeRules::diskTotal, bytes},
     {"netPerMinute", &SpikeRules::netPerMinute, bytes},
     {"netTotal", &SpikeRules::netTotal, bytes},
-    {"batteryDrop", &SpikeRules::batteryDrop, {0, 100, "a number of percentage points"}},
-    {"mergeGap", &SpikeRules::mergeGap, {0, 86400, "a number of seconds"}},
+    {"batteryDrop", &SpikeRules::batteryDrop,
+        {0, 100, VEXEL_WORDS("vexel::Vexel", "%1 must be a number of percentage points, %2 to %3; using %4.")}},
+    {"mergeGap", &SpikeRules::mergeGap, {0, 86400, seconds}},
 }};
 
 // The settings' plain numbers and flags; the rest is written out below.
 const std::array<Field<VexelSettings>, 6> plainFields{{
     {"sampleSeconds", &VexelSettings::sampleSeconds,
-        {VexelSettings::shortestSample, VexelSettings::longestSample, "a number of seconds"}},
+        {VexelSettings::shortestSample, VexelSettings::longestSample, seconds}},
     {"networkBits", &VexelSettings::networkBits},
-    {"retentionDays", &VexelSettings::retentionDays, {1, 3650, "a whole number of days"}},
-    {"maxHistoryMB", &VexelSettings::maxHistoryMB, {1, 100000, "a whole number of megabytes"}},
-    {"idleDays", &VexelSettings::idleDays, {0.1, 365, "a number of days"}},
+    {"retentionDays", &VexelSettings::retentionDays,
+        {1, 3650, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of days, %2 to %3; using %4.")}},
+    {"maxHistoryMB", &VexelSettings::maxHistoryMB,
+        {1, 100000, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of megabytes, %2 to %3; using %4.")}},
+    {"idleDays", &VexelSettings::idleDays,
+        {0.1, 365, VEXEL_WORDS("vexel::Vexel", "%1 must be a number of days, %2 to %3; using %4.")}},
     {"onboarded", &VexelSettings::onboarded},
 }};
 
 template <typename Enum, typename FromRaw>
-void readEnum(const Json& json, const char* key, Enum& into, FromRaw fromRaw, const std::string& choices,
-    const Problems& problems)
+void readEnum(
+    const Json& json, const char* key, Enum& into, FromRaw fromRaw, const char* notUsed, const Problems& problems)
 {
     const Json* value = JsonFields::field(json, key);
     if (value == nullptr)
@@ -178,7 +188,7 @@ void readEnum(const Json& json, const char* key, Enum& into, FromRaw fromRaw, co
             into = *parsed;
             return;
         }
-    problems.say(key, choices + "; using " + quoted(rawValue(into)));
+    problems.say(key, notUsed, {{quoted(rawValue(into))}});
 }
 
 std::optional<MenuItemConfig> menuItemFromJson(const Json& json)
@@ -218,7 +228,7 @@ void readRules(const Json& json, const char* key, const std::array<Field<Record>
     if (object == nullptr)
         return;
     if (!object->is_object()) {
-        problems.say(key, "an object of thresholds; using the defaults");
+        problems.say(key, VEXEL_WORDS("vexel::Vexel", "%1 must be an object of thresholds; using the defaults."));
         return;
     }
     readFields(*object, fields, rules, problems.nested(key));
@@ -248,24 +258,30 @@ VexelSettings settingsFromJson(const Json& json, std::vector<SettingsProblem>* p
     const Problems problems(problemSink, "");
     VexelSettings settings;
     readFields(json, plainFields, settings, problems);
-    readEnum(json, "cpuScale", settings.cpuScale, cpuScaleFromRaw, "\"mac\" or \"core\"", problems);
+    readEnum(json, "cpuScale", settings.cpuScale, cpuScaleFromRaw,
+        VEXEL_WORDS("vexel::Vexel", "%1 must be \"mac\" or \"core\"; using %2."), problems);
     if (const Json* items = JsonFields::field(json, "menuItems")) {
         if (auto read = menuItemsFromJson(*items))
             settings.menuItems = std::move(*read);
         else
             problems.say("menuItems",
-                "a list of items, each with a kind, enabled and style, no kind twice; using the default items");
+                VEXEL_WORDS("vexel::Vexel",
+                    "%1 must be a list of items, each with a kind, enabled and style, no kind twice; "
+                    "using the default items."));
     }
     readRules(json, "strain", strainFields, settings.strain, problems);
     readRules(json, "spikes", spikeFields, settings.spikes, problems);
     readEnum(json, "appSort", settings.appSort, appSortFromRaw,
-        "one of \"cpu\", \"memory\", \"energy\", \"disk\" or \"network\"", problems);
+        VEXEL_WORDS(
+            "vexel::Vexel", "%1 must be one of \"cpu\", \"memory\", \"energy\", \"disk\" or \"network\"; using %2."),
+        problems);
     if (JsonFields::field(json, "lastSeen") != nullptr) {
         const auto lastSeen = JsonFields::value<double>(json, "lastSeen");
         if (lastSeen && *lastSeen >= 0)
             settings.lastSeen = lastSeen;
         else
-            problems.say("lastSeen", "a time in seconds since 1970; leaving it out");
+            problems.say(
+                "lastSeen", VEXEL_WORDS("vexel::Vexel", "%1 must be a time in seconds since 1970; leaving it out."));
     }
     return settings;
 }

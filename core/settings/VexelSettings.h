@@ -4,6 +4,7 @@
 #include "settings/MenuItemConfig.h"
 #include "spikes/SpikeRules.h"
 #include "spikes/StrainRules.h"
+#include "text/Sentence.h"
 
 #include <nlohmann/json.hpp>
 
@@ -54,10 +55,10 @@ struct VexelSettings {
 
 // A value of a settings file that was not used as written, by its key
 // ("sampleSeconds", "strain.cpuElevated"), and the sentence that says so
-// ("sampleSeconds must be a number of seconds, 1 to 3600; using 5").
+// ("sampleSeconds must be a number of seconds, 1 to 3600; using 5.").
 struct SettingsProblem {
     std::string key;
-    std::string text;
+    Sentence text;
 
     bool operator==(const SettingsProblem&) const = default;
 };

@@ -44,4 +44,12 @@ std::string Sentence::english() const
     return said;
 }
 
+std::string english(const Paragraph& paragraph)
+{
+    std::string said;
+    for (const auto& sentence : paragraph)
+        said += (said.empty() ? "" : " ") + sentence.english();
+    return said;
+}
+
 } // namespace vexel

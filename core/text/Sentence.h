@@ -48,4 +48,10 @@ struct Sentence {
     bool operator==(const Sentence&) const = default;
 };
 
+// Sentences said one after the other, as one paragraph.
+using Paragraph = std::vector<Sentence>;
+
+// The paragraph in English, its sentences joined by a space.
+[[nodiscard]] std::string english(const Paragraph& paragraph);
+
 } // namespace vexel

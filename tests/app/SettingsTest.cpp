@@ -210,7 +210,7 @@ TEST(Settings, ABrokenFileIsShownAndLeftAloneThroughARun)
     model.changeSettings(changed);
     demo->settle();
     ASSERT_TRUE(model.toast);
-    EXPECT_TRUE(model.toast->starts_with("Your change holds until Vexel quits but can't be saved: ")) << *model.toast;
+    EXPECT_TRUE(model.toast->starts_with("Your change holds until Vexel quits but can't be saved. ")) << *model.toast;
     EXPECT_EQ(model.tickSeconds(), 10);
     model.shutdown();
     model.dismissNotice(0);

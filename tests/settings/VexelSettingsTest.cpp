@@ -133,8 +133,8 @@ TEST_F(SettingsJson, NumbersOutOfRangeAreBroughtInAndSaid)
         EXPECT_EQ(file.settings().sampleSeconds, c.sampleSeconds) << c.written;
         EXPECT_EQ(file.settings().retentionDays, c.retentionDays) << c.written;
         ASSERT_EQ(file.problems().size(), 2u) << c.written;
-        EXPECT_EQ(file.problems()[0].text,
-            "sampleSeconds must be a number of seconds, 1 to 3600; using " + cformat("%g", c.sampleSeconds));
+        EXPECT_EQ(file.problems()[0].text.english(),
+            "sampleSeconds must be a number of seconds, 1 to 3600; using " + cformat("%g", c.sampleSeconds) + ".");
         EXPECT_EQ(file.problems()[1].key, "retentionDays");
         EXPECT_FALSE(file.historyLimitsTrusted()) << "history is not expired on a limit the user didn't write";
     }
@@ -142,12 +142,12 @@ TEST_F(SettingsJson, NumbersOutOfRangeAreBroughtInAndSaid)
         "cpuScale": "half", "networkBits": "yes", "spikes": 7})"));
     std::vector<std::string> said;
     for (const auto& problem : wrong.problems())
-        said.push_back(problem.text);
+        said.push_back(problem.text.english());
     EXPECT_EQ(said,
-        (std::vector<std::string>{"sampleSeconds must be a number of seconds, 1 to 3600; using 5",
-            "networkBits must be true or false; using false", R"(cpuScale must be "mac" or "core"; using "mac")",
-            "strain.cpuStrained must be a fraction, 0 to 1; using 1",
-            "spikes must be an object of thresholds; using the defaults"}));
+        (std::vector<std::string>{"sampleSeconds must be a number of seconds, 1 to 3600; using 5.",
+            "networkBits must be true or false; using false.", R"(cpuScale must be "mac" or "core"; using "mac".)",
+            "strain.cpuStrained must be a fraction, 0 to 1; using 1.",
+            "spikes must be an object of thresholds; using the defaults."}));
     EXPECT_TRUE(wrong.historyLimitsTrusted()) << "the limits were left out: Vexel's own apply";
     EXPECT_TRUE(SettingsFile::load(write(R"({"retentionDays": 730})")).historyLimitsTrusted());
 }
@@ -170,10 +170,10 @@ TEST_F(SettingsJson, WhatTheUserWroteIsNeverOverwrittenOnAGuess)
         later.onboarded = true;
         const auto outcome = file.save(later, SettingsFile::Saving::automatic);
         EXPECT_FALSE(outcome.written);
-        EXPECT_NE(outcome.note.find("leaves the file as it is"), std::string::npos) << outcome.note;
+        EXPECT_NE(english(outcome.note).find("leaves the file as it is"), std::string::npos) << english(outcome.note);
         EXPECT_EQ(Files::read(path.string(), 8 << 20), unreadable);
     }
-    EXPECT_EQ(SettingsFile::load(write("{\n  \"retentionDays\": 730,\n}\n")).failure(),
+    EXPECT_EQ(SettingsFile::load(write("{\n  \"retentionDays\": 730,\n}\n")).failure()->english(),
         (m_dir.path() / "settings.json").string()
             + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
               "'}'; expected string literal).");
@@ -254,7 +254,8 @@ TEST_F(SettingsJson, AnUnreadableFileTakesNoChangeAndItsLimitsStayStandIns)
     mine.sampleSeconds = 30;
     const auto refused = file.save(mine, SettingsFile::Saving::userChange);
     EXPECT_FALSE(refused.written);
-    EXPECT_TRUE(refused.note.starts_with("Your change holds until Vexel quits but can't be saved: ")) << refused.note;
+    EXPECT_TRUE(english(refused.note).starts_with("Your change holds until Vexel quits but can't be saved. "))
+        << english(refused.note);
     EXPECT_EQ(Files::read(path.string()), broken);
     EXPECT_FALSE(file.historyLimitsTrusted());
 
