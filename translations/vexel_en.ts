@@ -1820,5 +1820,37 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>%1 must be a time in seconds since 1970; leaving it out.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Processes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force Stop Process…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Part of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disk written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

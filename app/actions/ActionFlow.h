@@ -45,6 +45,12 @@ public:
 
     // Whether this user may quit the app from here.
     [[nodiscard]] bool allows(const AppGroup& app) const { return canQuit(app, m_myUID, m_myPid); }
+    // Whether this user may stop the process from here: their own, running,
+    // and not this program.
+    [[nodiscard]] bool allowsStop(const ProcRow& row) const
+    {
+        return row.uid == m_myUID && row.pid != m_myPid && !row.zombie;
+    }
     [[nodiscard]] uint32_t myUID() const { return m_myUID; }
 
     // Each question holds the processes it is about from the moment it is

@@ -439,6 +439,15 @@ const AppGroup* AppModel::selected() const
     return found == frame->apps.end() ? nullptr : &*found;
 }
 
+void AppModel::setAppSort(AppSort sort)
+{
+    if (sort == settings.appSort)
+        return;
+    auto changed = settings;
+    changed.appSort = sort;
+    changeSettings(changed);
+}
+
 std::vector<AppGroup> AppModel::searchedApps() const
 {
     return searchApps(apps(settings.appSort, std::numeric_limits<size_t>::max()), appSearch);

@@ -137,6 +137,9 @@ public:
     void selectApp(std::optional<std::string> id);
     [[nodiscard]] const AppGroup* selected() const;
     [[nodiscard]] bool canQuit(const AppGroup& app) const { return m_flow->allows(app); }
+    [[nodiscard]] bool canStop(const ProcRow& row) const { return m_flow->allowsStop(row); }
+    // The Apps page's order, kept in the settings.
+    void setAppSort(AppSort sort);
     [[nodiscard]] uint32_t myUID() const { return m_flow->myUID(); }
     [[nodiscard]] std::vector<AppGroup> searchedApps() const;
     // "Quit Selected App…": asks to quit the app selected in the Apps page.

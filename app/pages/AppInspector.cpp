@@ -5,6 +5,7 @@
 #include "look/Labels.h"
 #include "model/AppModel.h"
 #include "pages/CommandLine.h"
+#include "pages/KeyedRows.h"
 #include "platform/Environment.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
@@ -14,7 +15,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -77,17 +79,65 @@ AppInspector::AppInspector(QWidget* parent)
     for (auto* note : {m_system, m_otherUsers, m_zombies})
         layout->addWidget(note);
 
-    m_processes = new QTreeWidget(this);
-    m_processes->setHeaderLabels({Vexel::tr("Process"), Vexel::tr("PID"), Vexel::tr("CPU"), Vexel::tr("Memory")});
+    buildProcessList(layout);
+    buildHangingSection(layout);
+}
+
+void AppInspector::buildProcessList(QVBoxLayout* layout)
+{
+    m_rows = new KeyedRows({Vexel::tr("Process"), Vexel::tr("PID"), Vexel::tr("CPU"), Vexel::tr("Memory")}, this);
+    m_sorted = new QSortFilterProxyModel(this);
+    m_sorted->setSourceModel(m_rows);
+    m_sorted->setSortRole(KeyedRows::orderRole);
+    m_sorted->setDynamicSortFilter(true);
+    m_processes = new QTreeView(this);
+    m_processes->setModel(m_sorted);
+    m_processes->setAccessibleName(Vexel::tr("Processes"));
     m_processes->setRootIsDecorated(false);
+    m_processes->setUniformRowHeights(true);
     m_processes->setFont(Look::font(11));
+    m_processes->header()->setStretchLastSection(false);
     m_processes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int column = 1; column < 4; ++column)
         m_processes->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-    m_processes->setSelectionMode(QAbstractItemView::NoSelection);
+    m_processes->setSortingEnabled(true);
+    m_processes->sortByColumn(2, Qt::DescendingOrder);
+    m_processes->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_processes->setSelectionMode(QAbstractItemView::SingleSelection);
     m_processes->setMinimumHeight(150);
     layout->addWidget(m_processes, 1);
-    buildHangingSection(layout);
+    connect(m_processes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        [this] { followSelectedProcess(); });
+
+    // Any one of the user's processes, a runaway script as much as an app's helper.
+    m_stopProcess = Look::destructiveButton(Vexel::tr("Force Stop Process…"), this);
+    m_stopProcess->setEnabled(false);
+    layout->addWidget(m_stopProcess, 0, Qt::AlignLeft);
+    connect(m_stopProcess, &QPushButton::clicked, this, [this] {
+        const QModelIndex current = m_processes->currentIndex();
+        if (m_model == nullptr || !current.isValid() || !offersStop())
+            return;
+        const auto pid = static_cast<int32_t>(current.data(KeyedRows::keyRole).toInt());
+        const std::string name = m_sorted->index(current.row(), 0).data().toString().toStdString();
+        const auto* app = m_model->selected();
+        std::vector<Sentence> context;
+        if (app != nullptr)
+            context.push_back({VEXEL_WORDS("vexel::Vexel", "Part of %1"), {{app->name}}});
+        m_model->actions().requestStop(pid, name, context, true);
+    });
+}
+
+void AppInspector::followSelectedProcess()
+{
+    m_stopProcess->setEnabled(offersStop());
+}
+
+bool AppInspector::offersStop() const
+{
+    const QModelIndex current = m_processes->currentIndex();
+    return current.isValid()
+        && std::ranges::find(m_stoppable, static_cast<int32_t>(current.data(KeyedRows::keyRole).toInt()))
+        != m_stoppable.end();
 }
 
 void AppInspector::buildHangingSection(QVBoxLayout* layout)
@@ -133,20 +183,33 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
     m_zombies->setText(PageTexts::zombiesNote(app.zombies));
     m_zombies->setVisible(app.zombies > 0);
 
-    m_processes->clear();
-    for (const auto& row : app.processes) {
-        auto* item = new QTreeWidgetItem(m_processes);
-        item->setText(0, row.zombie ? Vexel::tr("%1 (zombie)").arg(qs(row.name)) : qs(row.name));
-        item->setText(1, QString::number(row.pid));
-        item->setText(2, qs(Fmt::cpu(row.cpu, cores)));
-        item->setText(3, qs(Fmt::memory(row.memory)));
-        for (int column = 1; column < 4; ++column)
-            item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    }
+    showProcesses(app, model);
     m_mainPid = app.mainPID.value_or(app.processes.empty() ? 0 : app.processes.front().pid);
     m_sampleCommand->setText(qs(PageTexts::sampleCommand(platform, m_mainPid)));
     m_reportCommand->setText(qs(PageTexts::fullerReportCommand(platform, m_mainPid)));
     m_reportNote->setText(PageTexts::fullerReportNote(platform));
+}
+
+void AppInspector::showProcesses(const AppGroup& app, const AppModel& model)
+{
+    const auto cores = model.cpuScaleCores();
+    std::vector<KeyedRows::Row> rows;
+    m_stoppable.clear();
+    for (const auto& row : app.processes) {
+        const QString name = row.zombie ? Vexel::tr("%1 (zombie)").arg(qs(row.name)) : qs(row.name);
+        rows.push_back({QString::number(row.pid),
+            {{name, name.toLower()}, {QString::number(row.pid), row.pid}, {qs(Fmt::cpu(row.cpu, cores)), row.cpu},
+                {qs(Fmt::memory(row.memory)), QVariant::fromValue(row.memory)}}});
+        if (model.canStop(row))
+            m_stoppable.push_back(row.pid);
+    }
+    // Another app's processes replace the list; the same app's are updated where they stand.
+    if (m_shownApp != app.id) {
+        m_rows->setRows({});
+        m_shownApp = app.id;
+    }
+    m_rows->setRows(std::move(rows));
+    followSelectedProcess();
 }
 
 bool AppInspector::offersQuit() const
@@ -165,7 +228,7 @@ QStringList AppInspector::notes() const
 
 int AppInspector::processRows() const
 {
-    return m_processes->topLevelItemCount();
+    return m_sorted->rowCount();
 }
 
 } // namespace vexel

@@ -146,6 +146,11 @@ QString neuralEngineNote(Platform platform)
                            : QString();
 }
 
+QString thisMachine(Platform platform)
+{
+    return onMac(platform) ? Vexel::tr("This Mac") : Vexel::tr("This computer");
+}
+
 QString mainsPower(Platform platform)
 {
     return onMac(platform) ? Vexel::tr("This Mac runs on mains power — no battery to report.")

@@ -41,6 +41,7 @@ namespace vexel::PageTexts {
 // Absent on Linux: it has no Neural Engine to leave out.
 [[nodiscard]] QString neuralEngineNote(Platform platform);
 [[nodiscard]] QString mainsPower(Platform platform);
+[[nodiscard]] QString thisMachine(Platform platform); // "This Mac", "This computer"
 // Where the energy per app comes from: measured by the system, estimated from CPU use, or some of each.
 enum class EnergySource { measured, estimated, mixed };
 [[nodiscard]] QString energyNote(Platform platform, EnergySource source);

@@ -11,9 +11,12 @@
 #include "pages/OverviewPage.h"
 #include "pages/PowerPage.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <gtest/gtest.h>
 
 using namespace vexel;
@@ -79,7 +82,7 @@ TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
     // Selecting a row selects its app in the model and opens the inspector.
     const AppGroup& iterm = appNamed(model, "iTerm2");
     const int row = static_cast<int>(page.rowNames().indexOf("iTerm2"));
-    page.list()->setCurrentItem(page.list()->topLevelItem(row));
+    page.list()->setCurrentIndex(page.list()->model()->index(row, 0));
     EXPECT_EQ(model.selectedApp, iterm.id);
     ASSERT_TRUE(page.inspectorShown());
     EXPECT_EQ(page.inspector()->offersQuit(), model.canQuit(iterm));
@@ -97,6 +100,91 @@ TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
     EXPECT_FALSE(page.inspector()->offersQuit());
     EXPECT_TRUE(page.inspector()->notes().contains(
         QStringLiteral("macOS manages these processes itself; Vexel doesn't offer to quit them.")));
+}
+
+// Rows keep their identity: as the figures change and the list reorders
+// under them, the app selected stays selected, the list and the inspector's
+// process list stay scrolled where they were, and a sort chosen by a click
+// is the settings' own.
+TEST(AppsPage, SelectionAndScrollSurviveTicksThatReorderTheList)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    const auto shown = follow<AppsPage>(model);
+    auto& page = *shown;
+    page.resize(960, 520);
+    page.show();
+    const QString chrome = QStringLiteral("Google Chrome");
+    const std::string browser = appNamed(model, "Google Chrome").id;
+    page.list()->setCurrentIndex(page.list()->model()->index(static_cast<int>(page.rowNames().indexOf(chrome)), 0));
+    ASSERT_EQ(model.selectedApp, browser);
+    QCoreApplication::processEvents(); // lays out the inspector just shown
+    auto* listBar = page.list()->verticalScrollBar();
+    auto* processBar = page.inspector()->processList()->verticalScrollBar();
+    ASSERT_GT(listBar->maximum(), 0) << "the list must scroll for this test to mean anything";
+    ASSERT_GT(processBar->maximum(), 0);
+    listBar->setValue(listBar->maximum() / 2);
+    processBar->setValue(processBar->maximum());
+    const int listAt = listBar->value();
+    const int processesAt = processBar->value();
+
+    QStringList orders{page.rowNames().join('|')};
+    for (int tick = 0; tick < 10; ++tick) {
+        demo->world.strained = tick >= 5; // the renderers and the language service leap ahead
+        demo->ticks(1);
+        orders << page.rowNames().join('|');
+        EXPECT_EQ(model.selectedApp, browser) << tick;
+        EXPECT_EQ(page.list()->currentIndex().data().toString(), chrome) << tick;
+        EXPECT_EQ(listBar->value(), listAt) << tick;
+        EXPECT_EQ(processBar->value(), processesAt) << tick;
+    }
+    orders.removeDuplicates();
+    EXPECT_GT(orders.size(), 2) << "the list reordered under the selection";
+
+    // A click on a figure's header is the settings' sort, saved for the next run.
+    page.list()->header()->sectionClicked(2);
+    EXPECT_EQ(model.settings.appSort, AppSort::memory);
+    EXPECT_TRUE(page.shownColumns().contains(QStringLiteral("Memory")));
+    demo->settle();
+    EXPECT_EQ(VexelSettings::load(VexelPaths(demo->folder.path()).settings()).appSort, AppSort::memory);
+    EXPECT_EQ(model.selectedApp, browser);
+}
+
+// Any one of the user's own processes can be force-stopped from the
+// inspector, through the question every stop asks; another user's can't.
+TEST(AppsPage, TheInspectorForceStopsOneOfTheUsersProcessesAfterAsking)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    const auto shown = follow<AppsPage>(model);
+    auto& page = *shown;
+    const AppGroup& iterm = appNamed(model, "iTerm2");
+    model.selectApp(iterm.id);
+    auto* processes = page.inspector()->processList();
+    const auto rowOf = [processes](const QString& name) {
+        for (int row = 0; row < processes->model()->rowCount(); ++row)
+            if (processes->model()->index(row, 0).data().toString() == name)
+                return processes->model()->index(row, 0);
+        return QModelIndex();
+    };
+    const auto python = std::ranges::find(iterm.processes, std::string("python3"), &ProcRow::name);
+    const auto login = std::ranges::find_if(iterm.processes, [](const ProcRow& row) { return row.uid == 0; });
+    ASSERT_NE(python, iterm.processes.end());
+    ASSERT_NE(login, iterm.processes.end());
+
+    processes->setCurrentIndex(rowOf(QString::fromStdString(login->name)));
+    EXPECT_FALSE(page.inspector()->offersStop()) << "root's login shell is not the user's to stop";
+    processes->setCurrentIndex(rowOf(QStringLiteral("python3")));
+    ASSERT_TRUE(page.inspector()->offersStop());
+    demo->fake->alive.insert(python->pid);
+    for (auto* button : page.inspector()->findChildren<QPushButton*>())
+        if (button->text() == QStringLiteral("Force Stop Process…"))
+            button->click();
+    ASSERT_TRUE(model.confirm);
+    EXPECT_EQ(model.confirm->title.english(), "Force stop python3?");
+    EXPECT_TRUE(demo->fake->alive.contains(python->pid)) << "nothing is sent before the answer";
+    model.confirmPending();
+    EXPECT_FALSE(demo->fake->alive.contains(python->pid));
 }
 
 TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
