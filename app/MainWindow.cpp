@@ -95,16 +95,16 @@ void MainWindow::bind(AppModel& model)
     for (auto* page : m_routePages)
         page->attach(model);
     showRoute(model.route);
-    page(model.route)->showModel(model);
+    page(model.route)->present(model);
     connect(this, &MainWindow::routeChanged, &model, [this, &model](Route route) {
         model.setRoute(route);
         if (route == Route::history)
             model.loadHistory();
-        page(route)->showModel(model);
+        page(route)->present(model);
     });
     connect(&model, &AppModel::changed, this, [this, &model](unsigned what) {
         if (auto* shown = page(currentRoute()); what & shown->shows())
-            shown->showModel(model);
+            shown->present(model);
         if (what & AppModel::confirmChanged)
             m_sheet->show(model.confirm ? &*model.confirm : nullptr);
         if (what & AppModel::toastChanged)

@@ -36,6 +36,10 @@ public:
     [[nodiscard]] QStringList awayLines() const;
     void dismissAway();
 
+protected:
+    // The Overview says it beside its away card and notices.
+    [[nodiscard]] bool waitsForFrames() const override { return false; }
+
 private:
     void showToday(const AppModel& model);
     void showAway(const AppModel& model);

@@ -1,6 +1,8 @@
 #include "pages/Page.h"
 
 #include "look/Labels.h"
+#include "model/AppModel.h"
+#include "texts/Vexel.h"
 
 #include <QLabel>
 #include <QScrollArea>
@@ -11,6 +13,38 @@ namespace vexel {
 Page::Page(QWidget* parent)
     : QWidget(parent)
 {
+}
+
+void Page::present(const AppModel& model)
+{
+    const bool waiting = !model.frame && waitsForFrames();
+    if (waiting && m_waiting == nullptr) {
+        m_waiting = Look::centredNote(Vexel::tr("Taking the first reading…"), this);
+        m_waiting->setAutoFillBackground(true);
+        m_waiting->setGeometry(rect());
+    }
+    if (m_waiting != nullptr) {
+        m_waiting->setVisible(waiting);
+        m_waiting->raise();
+    }
+    showModel(model);
+}
+
+bool Page::waitingShown() const
+{
+    return m_waiting != nullptr && !m_waiting->isHidden();
+}
+
+bool Page::waitsForFrames() const
+{
+    return (shows() & AppModel::frameChanged) != 0;
+}
+
+void Page::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_waiting != nullptr)
+        m_waiting->setGeometry(rect());
 }
 
 QVBoxLayout* Page::scrollingColumn(const QString& title)

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QVBoxLayout;
 
 namespace vexel {
@@ -22,8 +23,17 @@ public:
     [[nodiscard]] virtual unsigned shows() const = 0;
     // The model the page's buttons act on.
     void attach(AppModel& model) { m_model = &model; }
+    // Shows the model as the window does: a page of the machine's readings
+    // says "Taking the first reading…" until the first frame is in.
+    void present(const AppModel& model);
+    [[nodiscard]] bool waitingShown() const;
 
 protected:
+    // Whether the page shows nothing until the first frame; a page that says
+    // it in its own way, or shows what needs no frame, answers false.
+    [[nodiscard]] virtual bool waitsForFrames() const;
+    void resizeEvent(QResizeEvent* event) override;
+
     [[nodiscard]] AppModel* model() const { return m_model; }
     // A scrolling column under the page's title, for pages taller than the window.
     QVBoxLayout* scrollingColumn(const QString& title);
@@ -32,6 +42,7 @@ protected:
 
 private:
     AppModel* m_model = nullptr;
+    QLabel* m_waiting = nullptr; // over the whole page until the first frame
 };
 
 } // namespace vexel

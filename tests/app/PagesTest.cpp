@@ -187,6 +187,32 @@ TEST(AppsPage, TheInspectorForceStopsOneOfTheUsersProcessesAfterAsking)
     EXPECT_FALSE(demo->fake->alive.contains(python->pid));
 }
 
+// Until the first frame is in, every page of the machine's readings says
+// so rather than showing zeros; the ones that read other things (history,
+// servers) show their own states.
+TEST(Pages, EveryPageSaysItIsTakingTheFirstReading)
+{
+    DemoModel demo;
+    auto& model = *demo.model;
+    MainWindow window;
+    window.bind(model);
+    std::vector<Route> waiting;
+    for (const Route route : allRoutes) {
+        window.showRoute(route);
+        if (window.page(route)->waitingShown())
+            waiting.push_back(route);
+    }
+    EXPECT_EQ(waiting, (std::vector<Route>{Route::apps, Route::cpu, Route::memory, Route::disk, Route::network,
+                           Route::gpu, Route::power}));
+    EXPECT_TRUE(window.overview()->waitingForFirstReading());
+    demo.ticks(1, true);
+    for (const Route route : allRoutes) {
+        window.showRoute(route);
+        EXPECT_FALSE(window.page(route)->waitingShown()) << static_cast<int>(route);
+    }
+    EXPECT_FALSE(window.overview()->waitingForFirstReading());
+}
+
 TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
 {
     auto demo = readModel(Platform::linux);
