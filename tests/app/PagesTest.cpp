@@ -202,8 +202,9 @@ TEST(Pages, EveryPageSaysItIsTakingTheFirstReading)
         if (window.page(route)->waitingShown())
             waiting.push_back(route);
     }
-    EXPECT_EQ(waiting, (std::vector<Route>{Route::apps, Route::cpu, Route::memory, Route::disk, Route::network,
-                           Route::gpu, Route::power}));
+    EXPECT_EQ(waiting,
+        (std::vector<Route>{
+            Route::apps, Route::cpu, Route::memory, Route::disk, Route::network, Route::gpu, Route::power}));
     EXPECT_TRUE(window.overview()->waitingForFirstReading());
     demo.ticks(1, true);
     for (const Route route : allRoutes) {
