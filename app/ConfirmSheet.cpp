@@ -4,10 +4,14 @@
 #include "look/FollowAppearance.h"
 #include "texts/Vexel.h"
 
+#include "look/Buttons.h"
+
 #include <QEvent>
+#include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -17,6 +21,27 @@ namespace {
 
 constexpr int sheetWidth = 420;
 constexpr int toastHeight = 40;
+
+// The window behind a question: dimmed, and catching every click meant for it.
+class Backdrop final : public QWidget {
+public:
+    explicit Backdrop(QWidget* parent)
+        : QWidget(parent)
+    {
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        // Darker on a dark window, so that the dimming still shows.
+        const bool dark = appearanceOf(palette()) == Appearance::dark;
+        painter.fillRect(rect(), QColor(0, 0, 0, dark ? 150 : 90));
+    }
+    void mousePressEvent(QMouseEvent*) override { }
+    void wheelEvent(QWheelEvent*) override { }
+};
 
 } // namespace
 
@@ -36,8 +61,14 @@ bool OverlayFrame::eventFilter(QObject*, QEvent* event)
 ConfirmSheet::ConfirmSheet(QWidget* parent)
     : OverlayFrame(parent)
 {
+    m_backdrop = new Backdrop(parent);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
+    auto* shadow = new QGraphicsDropShadowEffect(this);
+    shadow->setBlurRadius(28);
+    shadow->setOffset(0, 8);
+    shadow->setColor(QColor(0, 0, 0, 120));
+    setGraphicsEffect(shadow);
     // Lifted off the page: the base colour, a step brighter (or darker) than the window.
     Look::followAppearance(this, [](QWidget* sheet, Appearance) {
         QPalette palette = sheet->palette();
@@ -57,9 +88,9 @@ ConfirmSheet::ConfirmSheet(QWidget* parent)
     layout->addWidget(m_message);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
-    m_cancel = new QPushButton(Vexel::tr("Cancel"), this);
+    m_cancel = Look::button(Vexel::tr("Cancel"), this);
     m_cancel->setDefault(true);
-    m_confirm = new QPushButton(this);
+    m_confirm = Look::button({}, this);
     Look::followAppearance(m_confirm, [this](QWidget*, Appearance appearance) { styleConfirm(appearance); });
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_confirm);
@@ -73,6 +104,7 @@ void ConfirmSheet::show(const ConfirmRequest* request)
 {
     if (request == nullptr) {
         hide();
+        holdWindow(false);
         return;
     }
     m_title->setText(Vexel::say(request->title));
@@ -83,10 +115,30 @@ void ConfirmSheet::show(const ConfirmRequest* request)
     m_confirm->setText(Vexel::say(request->button));
     m_destructive = request->destructive;
     styleConfirm(appearanceOf(palette()));
+    holdWindow(true);
     place();
     QFrame::show();
     raise();
     m_cancel->setFocus();
+}
+
+void ConfirmSheet::holdWindow(bool held)
+{
+    if (held && m_held.empty()) {
+        for (auto* sibling : parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            if (sibling != this && sibling != m_backdrop && sibling->isEnabled() && !sibling->isWindow()) {
+                sibling->setEnabled(false);
+                m_held.emplace_back(sibling);
+            }
+    } else if (!held) {
+        for (const auto& sibling : m_held)
+            if (sibling)
+                sibling->setEnabled(true);
+        m_held.clear();
+    }
+    m_backdrop->setVisible(held);
+    if (held)
+        m_backdrop->raise();
 }
 
 void ConfirmSheet::styleConfirm(Appearance appearance)
@@ -112,6 +164,7 @@ void ConfirmSheet::place()
     // As tall as its wrapped message at this width: a longer language takes more lines.
     setFixedSize(width, std::max(sizeHint().height(), layout()->heightForWidth(width)));
     move((parentWidget()->width() - width) / 2, 24);
+    m_backdrop->setGeometry(parentWidget()->rect());
 }
 
 QString ConfirmSheet::titleText() const
@@ -125,9 +178,10 @@ QString ConfirmSheet::messageText() const
 }
 
 ToastBar::ToastBar(QWidget* parent)
-    : OverlayFrame(parent)
+    : QFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
+    setMinimumHeight(toastHeight);
     setAutoFillBackground(true);
     Look::keepColour(this, QPalette::Window, Look::sidebar);
     auto* layout = new QHBoxLayout(this);
@@ -152,18 +206,7 @@ void ToastBar::show(const std::optional<std::string>& text)
         return;
     }
     m_text->setText(QString::fromStdString(*text));
-    place();
     QFrame::show();
-    raise();
-}
-
-void ToastBar::place()
-{
-    const int width = std::max(std::min(parentWidget()->width() - 260, 520), 240);
-    // A longer text wraps onto more lines; the bar grows upwards.
-    const int height = std::max(toastHeight, layout()->heightForWidth(width));
-    setFixedSize(width, height);
-    move(parentWidget()->width() - width - 20, parentWidget()->height() - height - 20);
 }
 
 QString ToastBar::text() const

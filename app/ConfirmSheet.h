@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QPointer>
+#include <vector>
+
 #include "Appearance.h"
 
 #include <QFrame>
@@ -25,6 +28,8 @@ protected:
 // The question asked before anything changes, drawn over the top of the
 // window: title, message, Cancel and the action's own button (red when it
 // destroys something). Cancel is the default, so Return never destroys.
+// While it is asked, the window behind is dimmed and takes no input: the
+// question is answered first.
 class ConfirmSheet final : public OverlayFrame {
     Q_OBJECT
 
@@ -51,7 +56,11 @@ private:
     void place() override;
     // The action's button in the text colour, or the destructive one.
     void styleConfirm(Appearance appearance);
+    // The window behind, dimmed and out of reach, or back as it was.
+    void holdWindow(bool held);
 
+    QWidget* m_backdrop = nullptr;
+    std::vector<QPointer<QWidget>> m_held; // what the sheet disabled, to enable again
     QLabel* m_title = nullptr;
     QLabel* m_message = nullptr;
     QPushButton* m_cancel = nullptr;
@@ -59,9 +68,10 @@ private:
     bool m_destructive = false;
 };
 
-// A short message at the foot of the window with its close button; a longer
-// one wraps.
-class ToastBar final : public OverlayFrame {
+// A short message at the foot of the window's pages with its close button;
+// a longer one wraps. It takes its own room below the page rather than
+// covering any of it.
+class ToastBar final : public QFrame {
     Q_OBJECT
 
 public:
@@ -76,8 +86,6 @@ signals:
     void closed();
 
 private:
-    void place() override;
-
     QLabel* m_text = nullptr;
     QPushButton* m_close = nullptr;
 };

@@ -50,11 +50,12 @@ MainWindow::MainWindow(QWidget* parent)
     m_pages = new QStackedWidget(this);
     buildPages();
     content->addWidget(m_pages, 1);
+    m_toast = new ToastBar(this);
+    content->addWidget(m_toast);
     layout->addLayout(content, 1);
     connect(this, &MainWindow::routeChanged, this,
         [this](Route route) { m_pages->setCurrentIndex(static_cast<int>(route)); });
     m_sheet = new ConfirmSheet(this);
-    m_toast = new ToastBar(this);
     resize(960, 620);
 }
 

@@ -27,7 +27,7 @@ void WindowKeeper::setPanel(Panel panel)
     m_panel = panel;
     if (!panel.host && !m_told) {
         m_told = true;
-        m_model.tell(noPanelText());
+        m_model.tell(noPanelText(), true); // the one way back to the window: it stays until read
     }
     if (!panel.carriesReadings && m_window.isHidden() && m_outOfTheWay) {
         // Hidden with the items as the way back, and the items went: back to the taskbar.

@@ -56,7 +56,7 @@ bool ActionFlow::canQuit(const AppGroup& app, uint32_t myUID, int32_t myPid)
 void ActionFlow::requestQuit(const AppGroup& app, bool force)
 {
     if (!canQuit(app, m_myUID, m_myPid)) {
-        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 can't be quit from Vexel."), {{app.name}}});
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 can't be quit from Vexel."), {{app.name}}}, Told::failed);
         return;
     }
     // The main process first, then its helpers, which a forced quit ends too.
@@ -69,7 +69,7 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
             if (auto process = m_actions.hold(row.pid))
                 held.push_back(std::move(process));
     if (held.empty()) {
-        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 has already quit."), {{app.name}}});
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 has already quit."), {{app.name}}}, Told::done);
         return;
     }
     ConfirmRequest request;
@@ -85,18 +85,19 @@ void ActionFlow::requestQuit(const AppGroup& app, bool force)
 void ActionFlow::performQuit(const AppGroup& app, const std::vector<Held>& processes, bool force)
 {
     if (!m_actions.quit(app, processes, force))
-        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 didn't respond to Quit."), {{app.name}}});
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 didn't respond to Quit."), {{app.name}}}, Told::failed);
     else
         m_hooks.toast(
             {force ? VEXEL_WORDS("vexel::Vexel", "Force quit %1") : VEXEL_WORDS("vexel::Vexel", "Asked %1 to quit."),
-                {{app.name}}});
+                {{app.name}}},
+            Told::done);
 }
 
 void ActionFlow::requestStop(int32_t pid, const std::string& name, const std::vector<Sentence>& context, bool force)
 {
     auto process = m_actions.hold(pid);
     if (!process) {
-        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 (process %2) has already exited."), who(name, pid)});
+        m_hooks.toast({VEXEL_WORDS("vexel::Vexel", "%1 (process %2) has already exited."), who(name, pid)}, Told::done);
         return;
     }
     askStop(process, name, context, force);
@@ -127,12 +128,14 @@ void ActionFlow::performStop(const Held& process, const std::string& name, bool 
     const auto named = who(name, process->pid());
     if (!m_actions.signal(*process, force ? SIGKILL : SIGTERM)) {
         m_hooks.toast(
-            {VEXEL_WORDS("vexel::Vexel", "Couldn't signal %1 (process %2). It may have already exited."), named});
+            {VEXEL_WORDS("vexel::Vexel", "Couldn't signal %1 (process %2). It may have already exited."), named},
+            Told::failed);
         return;
     }
     m_hooks.toast({force ? VEXEL_WORDS("vexel::Vexel", "Sent SIGKILL to %1 (process %2).")
                          : VEXEL_WORDS("vexel::Vexel", "Asked %1 (process %2) to stop."),
-        named});
+                      named},
+        Told::done);
     m_hooks.rescanPortsSoon();
     if (force)
         return;

@@ -28,9 +28,13 @@ struct ConfirmRequest {
 // window, in the demo world and in tests with a clock of their own.
 class ActionFlow {
 public:
+    // What a toast tells: something done (it leaves by itself), or a
+    // failure (it stays until the user closes it).
+    enum class Told { done, failed };
+
     struct Hooks {
         std::function<void(ConfirmRequest)> ask;
-        std::function<void(Sentence)> toast;
+        std::function<void(Sentence, Told)> toast;
         std::function<void()> rescanPortsSoon; // about a second after a stop
         std::function<void(double seconds, std::function<void()>)> after;
     };

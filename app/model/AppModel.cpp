@@ -56,7 +56,7 @@ AppModel::AppModel(Setup setup)
     , m_actions(std::move(setup.actions))
 {
     ActionFlow::Hooks hooks{[this](ConfirmRequest request) { ask(std::move(request)); },
-        [this](const Sentence& said) { tell(said); },
+        [this](const Sentence& said, ActionFlow::Told told) { tell(said, told == ActionFlow::Told::failed); },
         [this] {
             // The stopped server leaves the list at the next scan, about a second on.
             QTimer::singleShot(1000, this, [this] {
@@ -81,6 +81,9 @@ AppModel::AppModel(Setup setup)
     });
     setStoreError(m_openError);
     m_timer.callOnTimeout(this, [this] { refresh(false); });
+    m_toastTimer.setSingleShot(true);
+    m_toastTimer.setInterval(toastMilliseconds);
+    m_toastTimer.callOnTimeout(this, [this] { dismissToast(); });
 }
 
 AppModel::~AppModel()
@@ -142,7 +145,7 @@ void AppModel::saveSettings(SettingsFile::Saving saving)
     onSampler<Paragraph>([saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
         [this](const Paragraph& said) {
             if (!said.empty())
-                tell(Vexel::say(said));
+                tell(Vexel::say(said), true);
         });
 }
 
@@ -230,7 +233,7 @@ void AppModel::apply(TickResult result)
     }
     if (result.notice) {
         qCInfo(historyLog) << result.notice->english().c_str();
-        tell(*result.notice);
+        tell(*result.notice, true);
     }
     // A history that could not be opened stays said; a tick's failure lasts until a tick goes well.
     setStoreError(result.error ? result.error : m_openError);
@@ -323,7 +326,8 @@ void AppModel::eraseHistory()
     request.confirm = [this] {
         onSampler<std::optional<Sentence>>([](Sampler& sampler) { return sampler.erase(); },
             [this](const std::optional<Sentence>& failed) {
-                tell(failed ? Vexel::say(*failed) : Vexel::tr("History erased. New samples start now."));
+                tell(failed ? Vexel::say(*failed) : Vexel::tr("History erased. New samples start now."),
+                    failed.has_value());
                 loadHistory();
             });
     };
@@ -367,19 +371,25 @@ void AppModel::cancelPending()
     nextQuestion();
 }
 
-void AppModel::tell(const QString& text)
+void AppModel::tell(const QString& text, bool lasting)
 {
     toast = text.toStdString();
+    toastLasts = lasting;
+    if (lasting)
+        m_toastTimer.stop();
+    else
+        m_toastTimer.start();
     notify(toastChanged);
 }
 
-void AppModel::tell(const Sentence& said)
+void AppModel::tell(const Sentence& said, bool lasting)
 {
-    tell(Vexel::say(said));
+    tell(Vexel::say(said), lasting);
 }
 
 void AppModel::dismissToast()
 {
+    m_toastTimer.stop();
     toast.reset();
     notify(toastChanged);
 }

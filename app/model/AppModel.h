@@ -86,6 +86,7 @@ public:
     std::optional<int64_t> historyBytes;
     std::optional<ConfirmRequest> confirm;
     std::optional<std::string> toast;
+    bool toastLasts = false; // the toast stays until closed
     std::optional<std::string> storeError;
     // The process that records the history while this window reads it (the headless recorder).
     std::optional<int64_t> otherRecorder;
@@ -126,9 +127,13 @@ public:
     void cancelPending();
     void dismissToast();
     void dismissNotice(size_t index);
-    // Shows a toast of the app's own (what it could not do at start).
-    void tell(const QString& text);
-    void tell(const Sentence& said);
+    // Shows a toast: one that says what was done leaves by itself after
+    // toastMilliseconds; a lasting one (a failure) stays until it is closed.
+    static constexpr int toastMilliseconds = 6000;
+    void tell(const QString& text, bool lasting = false);
+    void tell(const Sentence& said, bool lasting = false);
+    // Whether the toast shown is on its way out by itself.
+    [[nodiscard]] bool toastLeaving() const { return m_toastTimer.isActive(); }
     [[nodiscard]] ActionFlow& actions() { return *m_flow; }
 
     // The Apps page: its search, the app selected in it (by group id) and
@@ -201,6 +206,7 @@ private:
     bool m_observesVisibility;
     Cadence m_cadence;
     QTimer m_timer;
+    QTimer m_toastTimer;
     bool m_busy = false;
     bool m_busyFull = false; // the tick in flight is a full one
     bool m_fullPending = false; // a full refresh asked for while a partial tick ran

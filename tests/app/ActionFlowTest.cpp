@@ -67,7 +67,7 @@ struct Screen {
     ActionFlow::Hooks hooks()
     {
         return {[this](ConfirmRequest request) { sheet = std::move(request); },
-            [this](const Sentence& said) { toasts.push_back(said.english()); }, [this] { ++rescans; },
+            [this](const Sentence& said, ActionFlow::Told) { toasts.push_back(said.english()); }, [this] { ++rescans; },
             [this](double seconds, std::function<void()> work) { timers.emplace(now + seconds, std::move(work)); }};
     }
 

@@ -195,11 +195,13 @@ TEST(AppModel, TheWindowAsksAndToasts)
     ASSERT_TRUE(window.sheet()->isVisible());
     EXPECT_EQ(window.sheet()->titleText().toStdString(), "Force quit " + app->name + "?");
     EXPECT_EQ(window.sheet()->confirmButton()->text(), QStringLiteral("Force Quit"));
+    EXPECT_FALSE(window.overview()->isEnabled()) << "the window behind a question takes no input";
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/confirm-forcequit-light.png"));
     window.sheet()->cancelButton()->click();
     EXPECT_FALSE(demo.model->confirm);
     EXPECT_FALSE(window.sheet()->isVisible());
+    EXPECT_TRUE(window.overview()->isEnabled());
     EXPECT_TRUE(demo.fake->log.empty());
 
     demo.model->actions().requestQuit(*app, false);
@@ -209,6 +211,15 @@ TEST(AppModel, TheWindowAsksAndToasts)
     EXPECT_EQ(window.toast()->text().toStdString(), "Asked " + app->name + " to quit.");
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/toast-light.png"));
+    // What was done leaves by itself; a failure stays until it is closed.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !demo.model->toast; }, AppModel::toastMilliseconds + 5000));
+    EXPECT_FALSE(window.toast()->isVisible());
+    demo.model->actions().requestStop(4242, "node", {}, true); // no such process to signal
+    window.sheet()->confirmButton()->click();
+    ASSERT_TRUE(window.toast()->isVisible());
+    EXPECT_EQ(
+        window.toast()->text(), QStringLiteral("Couldn't signal node (process 4242). It may have already exited."));
+    EXPECT_FALSE(demo.model->toastLeaving());
     window.toast()->closeButton()->click();
     EXPECT_FALSE(demo.model->toast);
     EXPECT_FALSE(window.toast()->isVisible());
@@ -233,8 +244,11 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     EXPECT_EQ(demo.model->tickSeconds(), 2);
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/no-panel-light.png"));
-    window.resize(1200, 800); // the toast keeps to the corner
-    EXPECT_EQ(window.toast()->geometry().bottomRight(), QPoint(1179, 779));
+    window.resize(1200, 800); // the toast takes its own room below the page, covering none of it
+    QCoreApplication::processEvents();
+    const auto* page = window.page(window.currentRoute());
+    EXPECT_LE(page->mapTo(&window, QPoint(0, page->height())).y(), window.toast()->geometry().top());
+    EXPECT_EQ(window.toast()->geometry().bottom(), 799);
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(window.isMinimized());
     EXPECT_FALSE(demo.model->windowVisible);
