@@ -1,9 +1,11 @@
 #include "synth/DemoWorld.h"
 
+#include "grouping/AppGrouper.h"
 #include "grouping/AppIdentity.h"
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace vexel {
 
@@ -174,6 +176,44 @@ const DemoWorld::Proc* DemoWorld::find(const std::string& name) const
     return nullptr;
 }
 
+namespace {
+
+// Each core's share of `load` (the machine's busy fraction), in proportion
+// to its weight but never above a whole core: what a full core can't take
+// goes to the others, so that the cores' mean is the load itself.
+std::vector<double> shareLoad(double load, const std::vector<double>& weights)
+{
+    std::vector<double> cores(weights.size(), 0.0);
+    double left = load * static_cast<double>(weights.size());
+    std::vector<size_t> open(weights.size());
+    std::iota(open.begin(), open.end(), size_t{0});
+    while (left > 1e-12 && !open.empty()) {
+        double weight = 0;
+        for (const size_t core : open)
+            weight += weights[core];
+        const double given = left;
+        std::vector<size_t> still;
+        for (const size_t core : open) {
+            const double share = given * weights[core] / weight;
+            const double taken = std::min(share, 1.0 - cores[core]);
+            cores[core] += taken;
+            left -= taken;
+            if (cores[core] < 1.0)
+                still.push_back(core);
+        }
+        if (still.size() == open.size())
+            break;
+        open = std::move(still);
+    }
+    return cores;
+}
+
+// The whole battery, and what the machine draws besides its apps (screen, radios).
+constexpr double batteryWattHours = 72;
+constexpr double baseWatts = 5;
+
+} // namespace
+
 SystemSnapshot DemoWorld::systemSnapshot() const
 {
     constexpr int coreCount = 12;
@@ -198,11 +238,11 @@ SystemSnapshot DemoWorld::systemSnapshot() const
     snapshot.cpu.user = load * 0.72;
     snapshot.cpu.system = load * 0.28;
     // Performance cores first and busiest; the efficiency cores carry the background work.
-    for (int core = 0; core < coreCount; ++core) {
-        const double weight = core < 6 ? 1.25 - 0.06 * core : 0.55;
-        snapshot.cpu.cores.push_back(
-            std::clamp(load * weight * (0.9 + 0.2 * noise(m_tick, static_cast<size_t>(core))), 0.0, 1.0));
-    }
+    std::vector<double> weights;
+    for (int core = 0; core < coreCount; ++core)
+        weights.push_back(
+            (core < 6 ? 1.25 - 0.06 * core : 0.55) * (0.9 + 0.2 * noise(m_tick, static_cast<size_t>(core))));
+    snapshot.cpu.cores = shareLoad(load, weights);
     snapshot.cpu.load1 = busy * 1.15;
     snapshot.cpu.load5 = busy * 1.05;
     snapshot.cpu.load15 = busy;
@@ -227,8 +267,10 @@ SystemSnapshot DemoWorld::systemSnapshot() const
     snapshot.net = {in, out};
     snapshot.gpu = GPUStats{strained ? 0.86 : 0.18, "Apple M3 Pro"};
     BatteryStats battery{.percent = 78};
-    battery.minutesLeft = strained ? 96 : 312;
-    battery.powerW = strained ? -38.5 : -11.4;
+    // The apps' estimated watts and the rest of the machine: the total is never less than its parts.
+    const double drawn = std::round((baseWatts + busy * AppGrouper::estimateWattsPerCore) * 10) / 10;
+    battery.powerW = -drawn;
+    battery.minutesLeft = static_cast<int>(batteryWattHours * battery.percent / 100 / drawn * 60);
     battery.cycles = 212;
     battery.designCapacity = 6075;
     battery.maxCapacity = 5890;

@@ -38,6 +38,38 @@ TEST(DemoWorld, TwoWorldsAdvancedAlikeAreIdentical)
     EXPECT_NE(c.procs()[40].rec.cpuTime, a.procs()[40].rec.cpuTime);
 }
 
+// The demo world is a machine whose figures add up, strained or not, at
+// every tick of an hour: no app takes more than the whole machine, the apps
+// together draw no more power than the machine does, and the cores' mean is
+// the machine's CPU figure.
+TEST(DemoWorld, ItsSumsHoldAtEveryTickOfAnHour)
+{
+    DemoWorld world;
+    auto monitor = world.monitor();
+    (void)monitor->sample(world.now(), {.everyone = true});
+    for (int tick = 0; tick < 1800; ++tick) {
+        world.strained = tick >= 900;
+        world.advance(2);
+        const Frame frame = monitor->sample(world.now(), {.everyone = true});
+        const auto& cpu = frame.system.cpu;
+        const double cores = frame.system.coreCount();
+        double appWatts = 0;
+        for (const auto& app : frame.apps) {
+            ASSERT_LE(app.cpu, cores) << app.name << " at tick " << tick;
+            ASSERT_GT(app.memory, 0u) << app.name;
+            appWatts += app.energyW.value_or(0);
+        }
+        ASSERT_TRUE(frame.system.battery);
+        ASSERT_LE(appWatts, -*frame.system.battery->powerW) << "tick " << tick;
+        double coreSum = 0;
+        for (const double core : cpu.cores) {
+            ASSERT_LE(core, 1.0);
+            coreSum += core;
+        }
+        ASSERT_NEAR(coreSum / cores, cpu.user + cpu.system, 1e-9) << "tick " << tick;
+    }
+}
+
 TEST(Monitor, IntervalsNetworkTicksAndTheSourcesItAsks)
 {
     DemoWorld world;
@@ -88,7 +120,7 @@ TEST(Frame, HistoryPointsTurnRatesIntoAmountsOverTheInterval)
     EXPECT_DOUBLE_EQ(sys.cpu, frame.system.cpu.user + frame.system.cpu.system);
     EXPECT_DOUBLE_EQ(sys.diskW, frame.system.disk.writeRate * 2);
     EXPECT_EQ(sys.battery, 78);
-    EXPECT_EQ(sys.power, -11.4);
+    EXPECT_EQ(sys.power, frame.system.battery->powerW);
     EXPECT_EQ(sys.gpu, 0.18);
     ASSERT_EQ(apps.size(), frame.apps.size());
     const auto& chrome = apps.front();
