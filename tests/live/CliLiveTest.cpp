@@ -317,9 +317,16 @@ namespace {
 
 // `vexel top --json` as the user nobody, in a mount namespace of its own
 // whose /proc is a fresh instance mounted with `procOptions`. Runs in a forked
-// child; its standard output comes back.
+// child; its standard output comes back. The program is a copy in `data`, a
+// folder nobody can reach: the build folder may sit where nobody can't (a
+// build in root's home).
 std::string topAsNobodyWithProc(const std::filesystem::path& data, const char* procOptions)
 {
+    const auto program = data / "vexel";
+    std::filesystem::copy_file(vexelBinary, program, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::permissions(program,
+        std::filesystem::perms::owner_all | std::filesystem::perms::group_read | std::filesystem::perms::group_exec
+            | std::filesystem::perms::others_read | std::filesystem::perms::others_exec);
     const auto run = runForked([&] {
         constexpr uid_t nobody = 65534;
         const bool ready = ::unshare(CLONE_NEWNS) == 0
@@ -330,7 +337,7 @@ std::string topAsNobodyWithProc(const std::filesystem::path& data, const char* p
             ::_exit(125);
         const std::string dataVariable = "VEXEL_DATA_DIR=" + data.string();
         char* argv[]
-            = {const_cast<char*>(vexelBinary.c_str()), const_cast<char*>("top"), const_cast<char*>("--json"), nullptr};
+            = {const_cast<char*>(program.c_str()), const_cast<char*>("top"), const_cast<char*>("--json"), nullptr};
         char* envp[] = {const_cast<char*>(dataVariable.c_str()), const_cast<char*>("HOME=/nonexistent"), nullptr};
         ::execve(argv[0], argv, envp);
     });
