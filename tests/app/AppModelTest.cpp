@@ -76,7 +76,7 @@ TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
     }
 }
 
-TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
+TEST(AppModel, ErasingIsAskedFirstAndSaysItIsDone)
 {
     DemoModel demo;
     demo.ticks(41, true);
@@ -94,17 +94,8 @@ TEST(AppModel, ErasingIsAskedFirstAndQuittingGoesThroughTheSheet)
     demo.model->confirmPending();
     demo.model->loadHistorySync();
     EXPECT_TRUE(demo.model->history->points.empty());
-
-    const auto apps = demo.model->apps(AppSort::memory, 100);
-    const auto quittable = std::find_if(
-        apps.begin(), apps.end(), [](const AppGroup& app) { return ActionFlow::canQuit(app, 501, 99999); });
-    ASSERT_NE(quittable, apps.end());
-    demo.model->actions().requestQuit(*quittable, false);
-    ASSERT_TRUE(demo.model->confirm);
-    EXPECT_TRUE(demo.fake->log.empty()); // asked, not done
-    demo.model->confirmPending();
-    EXPECT_EQ(demo.fake->log, std::vector<std::string>{"quit " + quittable->name});
-    EXPECT_EQ(demo.model->toast, "Asked " + quittable->name + " to quit.");
+    demo.settle();
+    EXPECT_EQ(demo.model->toast, "History erased. New samples start now.");
 }
 
 // A question that comes while the user reads another (the force offered
