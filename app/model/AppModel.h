@@ -7,12 +7,14 @@
 #include "model/Cadence.h"
 #include "model/RecentRing.h"
 #include "model/SamplerThread.h"
+#include "platform/Environment.h"
 #include "platform/Platform.h"
 #include "settings/MenuItemConfig.h"
 #include "settings/VexelPaths.h"
 #include "settings/VexelSettings.h"
 #include "spikes/Strain.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QTimer>
 
@@ -59,6 +61,10 @@ public:
         int32_t myPid = 0;
         bool observesVisibility = true; // false in snapshot mode: the window's visibility leaves the cadence alone
         Platform platform = livePlatform(); // whose words the texts use: the demo world is a Mac
+        // The places and time the pages show things in: the user's, or the demo world's.
+        std::string home = homeFolder();
+        std::string programFolder = QCoreApplication::applicationDirPath().toStdString();
+        TimeZone zone = TimeZone::current();
     };
 
     explicit AppModel(Setup setup);
@@ -66,6 +72,9 @@ public:
 
     // Published state.
     const Platform platform;
+    const std::string home; // paths under it are shown as ~/…
+    const std::string programFolder; // where this program and the vexel command are
+    const TimeZone zone; // whose days and hours the pages mark
     VexelSettings settings;
     std::optional<Frame> frame;
     Route route = Route::overview;

@@ -7,6 +7,7 @@
 #include "pages/CommandLine.h"
 #include "pages/KeyedRows.h"
 #include "platform/Environment.h"
+#include "text/HomePath.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
@@ -95,6 +96,7 @@ void AppInspector::buildProcessList(QVBoxLayout* layout)
     m_processes->setAccessibleName(Vexel::tr("Processes"));
     m_processes->setRootIsDecorated(false);
     m_processes->setUniformRowHeights(true);
+    m_processes->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_processes->setFont(Look::font(11));
     m_processes->header()->setStretchLastSection(false);
     m_processes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -166,8 +168,7 @@ void AppInspector::showApp(const AppGroup& app, const AppModel& model)
     const size_t count = app.processes.size();
     m_summary->setText(Vexel::tr("CPU %1  ·  Memory %2  ·  %n process(es)", nullptr, static_cast<int>(count))
                            .arg(qs(Fmt::cpu(app.cpu, cores)), qs(Fmt::memory(app.memory))));
-    m_where->setText(
-        kindWord(app) + (app.path ? qs("  ·  " + PageTexts::shownPath(*app.path, homeFolder())) : QString()));
+    m_where->setText(kindWord(app) + (app.path ? qs("  ·  " + shownPath(*app.path, model.home)) : QString()));
     m_reveal->setText(PageTexts::revealInFiles(platform));
     m_reveal->setVisible(app.path.has_value());
     const bool quittable = model.canQuit(app);

@@ -109,6 +109,7 @@ AppsPage::AppsPage(QWidget* parent)
     m_list->setRootIsDecorated(false);
     m_list->setFont(Look::font(12));
     m_list->setUniformRowHeights(true);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -9,6 +9,7 @@
 #include "pages/CommandLine.h"
 #include "pages/ServerRow.h"
 #include "platform/Environment.h"
+#include "text/HomePath.h"
 #include "texts/PageTexts.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
@@ -27,11 +28,11 @@ namespace vexel {
 namespace {
 
 // Where the vexel command lives: beside the app, or in the Mac app's bundle.
-std::string vexelPath(Platform platform)
+std::string vexelPath(const AppModel& model)
 {
-    if (platform == Platform::macOS)
+    if (model.platform == Platform::macOS)
         return "/Applications/Vexel.app/Contents/MacOS/vexel";
-    return QCoreApplication::applicationDirPath().toStdString() + "/vexel";
+    return model.programFolder + "/vexel";
 }
 
 } // namespace
@@ -103,7 +104,7 @@ void DevelopersPage::showModel(const AppModel& model)
     showServers(model);
     showDocker(model);
     m_installNote->setText(PageTexts::installInTerminal(model.platform));
-    m_installCommand->setText(qs(PageTexts::installCommand(model.platform, vexelPath(model.platform))));
+    m_installCommand->setText(qs(PageTexts::installCommand(model.platform, vexelPath(model))));
     m_mcpCommand->setText(qs(PageTexts::mcpAddCommand(model.platform)));
 }
 
@@ -133,7 +134,7 @@ void DevelopersPage::showServers(const AppModel& model)
         m_serversHeading->setText(Vexel::tr("Servers"));
         m_serversNote->hide();
     }
-    const std::string home = homeFolder();
+    const std::string& home = model.home;
     std::set<int32_t> serverPids;
     for (const auto& group : model.serversLoaded ? model.servers : std::vector<ProjectGroup>{}) {
         auto* project = new QWidget(this);
@@ -143,7 +144,7 @@ void DevelopersPage::showServers(const AppModel& model)
         auto* name = Look::line(project, qs(group.project.name));
         name->setFont(Look::font(13, QFont::DemiBold));
         layout->addWidget(name);
-        layout->addWidget(Look::explanation(qs(PageTexts::shownPath(group.project.path, home)), project));
+        layout->addWidget(Look::explanation(qs(shownPath(group.project.path, home)), project));
         for (const auto& server : group.servers) {
             auto* row = new ServerRow(server, model, project);
             if (auto* acting = Page::model())

@@ -75,10 +75,10 @@ Chart rateChart(const std::vector<SysPoint>& points, Chart chart,
     return chart;
 }
 
-std::string spikeTime(const Spike& spike)
+std::string spikeTime(const Spike& spike, const TimeZone& zone)
 {
     int weekday = 0;
-    const CivilTime civil = TimeZone::current().civil(spike.start, &weekday);
+    const CivilTime civil = zone.civil(spike.start, &weekday);
     return cformat("%d/%d %02d:%02d", civil.day, civil.month, civil.hour, civil.minute);
 }
 
@@ -214,7 +214,7 @@ void HistoryPage::showCharts(const AppModel& model)
     frame.from = history.from;
     frame.to = history.to;
     frame.gapAfter = gap;
-    frame.times = timeTicks(history.from, history.to, model.historyRange, TimeZone::current());
+    frame.times = timeTicks(history.from, history.to, model.historyRange, model.zone);
     const std::array<Chart, chartsShown> charts{
         shareChart(points, frame, {{Vexel::tr("Average"), &SysPoint::cpu}, {Vexel::tr("Peak"), &SysPoint::cpuMax}}),
         shareChart(points, frame, {{Vexel::tr("In use"), &SysPoint::mem}}),
@@ -252,7 +252,8 @@ void HistoryPage::showSpikes(const AppModel& model)
             culprit = Vexel::tr("mostly %1 (%2)").arg(qs(*spike.culprit), qs(Fmt::percent(*spike.share)));
         else if (spike.culprit)
             culprit = Vexel::tr("mostly %1").arg(qs(*spike.culprit));
-        rows.emplace_back(qs(spikeTime(spike)) + QStringLiteral("   ") + Vexel::say(spike.summary), culprit);
+        rows.emplace_back(
+            qs(spikeTime(spike, model.zone)) + QStringLiteral("   ") + Vexel::say(spike.summary), culprit);
     }
     m_spikes->setRows(rows);
     m_noSpikes->setVisible(rows.empty());

@@ -13,8 +13,10 @@
 #include "synth/DemoWorld.h"
 #include "texts/PseudoLocale.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -35,7 +37,7 @@ void settle(AppModel& model)
 }
 
 // The demo world's model in a data folder of its own: nothing of the user's is read or written.
-std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::path& folder)
+std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::path& folder, Platform platform)
 {
     const VexelPaths paths(folder);
     return std::make_unique<AppModel>(AppModel::Setup{paths,
@@ -46,7 +48,29 @@ std::unique_ptr<AppModel> demoModel(DemoWorld& world, const std::filesystem::pat
             sampler->beforeSample = [&world](double) { world.advance(2); };
             return sampler;
         },
-        std::make_unique<FakeActions>(), [&world] { return world.now(); }, 501, 0, false, Platform::macOS});
+        std::make_unique<FakeActions>(), [&world] { return world.now(); }, 501, 0, false, platform, world.home(),
+        platform == Platform::macOS ? "/Applications/Vexel.app/Contents/MacOS" : "/usr/bin"});
+}
+
+// The tallest a page's picture grows to show all of it.
+constexpr int tallest = 4000;
+
+// Grows the window until nothing on `page` scrolls, so that its picture
+// shows the whole page; gives back the size it had.
+QSize showWhole(QWidget& window, QWidget& page)
+{
+    const QSize was = window.size();
+    for (int pass = 0; pass < 4; ++pass) {
+        (void)picture(window); // lets the layouts settle at this size
+        int hidden = 0;
+        for (const auto* area : page.findChildren<QAbstractScrollArea*>())
+            if (area->isVisible())
+                hidden = std::max(hidden, area->verticalScrollBar()->maximum());
+        if (hidden == 0 || window.height() >= tallest)
+            break;
+        window.resize(window.width(), std::min(tallest, window.height() + hidden));
+    }
+    return was;
 }
 
 void save(QWidget& window, const SnapshotOptions& options, const std::string& name)
@@ -145,8 +169,9 @@ void writeDropdowns(const AppModel& model, const SnapshotOptions& options, const
 // Each settings tab, with the demo Mac's places.
 void writeSettings(AppModel& model, const SnapshotOptions& options, const std::string& suffix)
 {
-    SettingsWindow settings(
-        {"/Applications/Vexel.app/Contents/MacOS/vexel", "/Users/alex", [] { return std::nullopt; }});
+    const bool mac = options.platform == Platform::macOS;
+    SettingsWindow settings({mac ? "/Applications/Vexel.app/Contents/MacOS/vexel" : "/usr/bin/vexel",
+        mac ? "/Users/alex" : "/home/alex", [] { return std::nullopt; }});
     settings.bind(model);
     settings.show();
     const std::array<std::pair<SettingsWindow::Tab, const char*>, 5> tabs{{{SettingsWindow::Tab::general, "general"},
@@ -188,7 +213,9 @@ void writePictures(AppModel& model, const SnapshotOptions& options, const std::s
             if (!options.wants(prefix + identifier(route) + "-" + suffix))
                 continue;
             window.showRoute(route);
+            const QSize was = showWhole(window, *window.page(route));
             save(window, options, prefix + identifier(route) + "-" + suffix);
+            window.resize(was);
         }
         if (prefix.empty() && options.wantsAny("apps-"))
             writeAppsStates(window, model, options, suffix);
@@ -246,6 +273,8 @@ std::optional<SnapshotOptions> SnapshotOptions::from(
     const auto stay = getenv("VEXEL_SNAPSHOT_STAY");
     options.stay = stay && !stay->empty() && *stay != "0";
     options.pseudoLocale = getenv("VEXEL_SNAPSHOT_LOCALE") == std::optional<std::string>("pseudo");
+    if (getenv("VEXEL_SNAPSHOT_PLATFORM") == std::optional<std::string>("linux"))
+        options.platform = Platform::linux;
     return options;
 }
 
@@ -286,7 +315,7 @@ int runSnapshotMode(const SnapshotOptions& options)
     }
     DemoWorld world;
     const VexelPaths paths(data.path().toStdString());
-    auto model = demoModel(world, paths.dir);
+    auto model = demoModel(world, paths.dir, options.platform);
     for (int tick = 0; tick < 3; ++tick) {
         model->refresh(tick == 0);
         settle(*model);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Platform.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -14,14 +16,17 @@ namespace vexel {
 // Pictures of the app on the demo world, for the README and for looking at
 // what a change did: VEXEL_SNAPSHOT_DIR names the folder, VEXEL_SNAPSHOT_ONLY
 // the pictures wanted (names or name prefixes, separated by commas or
-// blanks), VEXEL_SNAPSHOT_STAY keeps the app open afterwards, and
+// blanks), VEXEL_SNAPSHOT_STAY keeps the app open afterwards,
 // VEXEL_SNAPSHOT_LOCALE=pseudo draws them in the pseudo-language, every
-// translatable sentence wrapped and a third longer.
+// translatable sentence wrapped and a third longer, and
+// VEXEL_SNAPSHOT_PLATFORM=linux says in Linux's words what the demo Mac shows.
+// A page is drawn at its whole height, as tall as its content.
 struct SnapshotOptions {
     std::filesystem::path folder;
     std::set<std::string> only; // empty: every picture
     bool stay = false;
     bool pseudoLocale = false;
+    Platform platform = Platform::macOS; // whose words the texts use
 
     // The options of this environment; nothing without VEXEL_SNAPSHOT_DIR.
     [[nodiscard]] static std::optional<SnapshotOptions> from(

@@ -60,7 +60,4 @@ enum class EnergySource { measured, estimated, mixed };
 // "Menu Bar Settings…" or "Panel Settings…".
 [[nodiscard]] QString panelSettings(Platform platform);
 
-// A path as shown: under the home folder, "~" takes the home folder's place.
-[[nodiscard]] std::string shownPath(const std::string& path, std::string home);
-
 } // namespace vexel::PageTexts

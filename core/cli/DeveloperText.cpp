@@ -3,6 +3,7 @@
 #include "cli/TextColumns.h"
 #include "format/CFormat.h"
 #include "format/Fmt.h"
+#include "text/HomePath.h"
 
 #include <algorithm>
 #include <vector>
@@ -82,7 +83,7 @@ std::string portsText(const json& report)
     return TextColumns::joinLines(lines);
 }
 
-std::string serversText(const json& report, const TimeZone& zone)
+std::string serversText(const json& report, const std::string& home, const TimeZone& zone)
 {
     const json& projects = list(report, "projects");
     if (projects.empty())
@@ -91,7 +92,7 @@ std::string serversText(const json& report, const TimeZone& zone)
     std::vector<std::string> lines;
     for (const auto& project : projects) {
         std::string heading = value<std::string>(project, "name").value_or("?") + "  "
-            + value<std::string>(project, "path").value_or("");
+            + shownPath(value<std::string>(project, "path").value_or(""), home);
         if (value<bool>(project, "all_idle").value_or(false))
             heading += "  (idle)";
         lines.push_back(heading);

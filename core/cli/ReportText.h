@@ -17,7 +17,9 @@ namespace vexel::VexelCLI {
 [[nodiscard]] std::string appsText(const nlohmann::json& report);
 [[nodiscard]] std::string appText(const nlohmann::json& report);
 [[nodiscard]] std::string portsText(const nlohmann::json& report);
-[[nodiscard]] std::string serversText(const nlohmann::json& report, const TimeZone& zone = TimeZone::current());
+// Project folders under `home` are shown from ~.
+[[nodiscard]] std::string serversText(
+    const nlohmann::json& report, const std::string& home, const TimeZone& zone = TimeZone::current());
 [[nodiscard]] std::string dockerText(const nlohmann::json& report);
 [[nodiscard]] std::string historyText(const nlohmann::json& report, const TimeZone& zone = TimeZone::current());
 [[nodiscard]] std::string spikesText(const nlohmann::json& report, const TimeZone& zone = TimeZone::current());

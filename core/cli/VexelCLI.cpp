@@ -128,7 +128,8 @@ int run(
     if (command == "ports")
         return report([&] { return service.portsReport(); }, portsText);
     if (command == "servers" || command == "dev")
-        return report([&] { return service.serversReport(); }, [](const json& r) { return serversText(r); });
+        return report([&] { return service.serversReport(); },
+            [&service](const json& r) { return serversText(r, service.home()); });
     if (command == "docker")
         return report([&] { return service.dockerReport(); }, dockerText);
     if (command == "history") {

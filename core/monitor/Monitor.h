@@ -58,6 +58,8 @@ public:
     [[nodiscard]] std::optional<double> lastNetRun() const { return m_lastNetRun; }
     [[nodiscard]] std::optional<double> lastEveryoneRun() const { return m_lastEveryoneRun; }
     [[nodiscard]] ProcessSource& processes() { return *m_sources.processes; }
+    // The home folder of the user whose machine this is.
+    [[nodiscard]] const std::string& home() const { return m_sources.home; }
 
 private:
     MonitorSources m_sources;

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] static nlohmann::json appRow(const AppGroup& group, int cores);
 
     [[nodiscard]] Platform platform() const { return m_platform; }
+    // The home folder, for paths shown as ~/… in tables.
+    [[nodiscard]] std::string home() { return monitor().home(); }
 
 private:
     [[nodiscard]] std::unique_ptr<HistoryStore> requireStore() const;

@@ -57,7 +57,8 @@ struct DemoModel {
                 };
                 return sampler;
             },
-            std::move(actions), [this] { return now; }, 501, 99999, true, platform});
+            std::move(actions), [this] { return now; }, 501, 99999, true, platform, world.home(), "/usr/bin",
+            TimeZone::fixed(0)});
     }
 
     // Waits for the work in flight (a tick, a history read, a save) to come back.

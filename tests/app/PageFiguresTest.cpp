@@ -5,6 +5,8 @@
 #include "pages/TimeTicks.h"
 #include "texts/PageTexts.h"
 
+#include "text/HomePath.h"
+
 #include <gtest/gtest.h>
 
 using namespace vexel;
@@ -67,14 +69,14 @@ TEST(PageTexts, LinuxSentencesAreTrueOnLinux)
     EXPECT_NE(PageTexts::fullerReportCommand(Platform::linux, 386).find("-p 386 "), std::string::npos);
 }
 
-TEST(PageTexts, PathsUnderHomeShowATilde)
+TEST(HomePath, PathsUnderHomeShowATilde)
 {
-    EXPECT_EQ(PageTexts::shownPath("/home/ann/code/site", "/home/ann"), "~/code/site");
-    EXPECT_EQ(PageTexts::shownPath("/home/ann/code", "/home/ann/"), "~/code");
-    EXPECT_EQ(PageTexts::shownPath("/home/ann", "/home/ann"), "~");
-    EXPECT_EQ(PageTexts::shownPath("/home/anna/code", "/home/ann"), "/home/anna/code");
-    EXPECT_EQ(PageTexts::shownPath("/srv/site", "/"), "/srv/site");
-    EXPECT_EQ(PageTexts::shownPath("/srv/site", ""), "/srv/site");
+    EXPECT_EQ(shownPath("/home/ann/code/site", "/home/ann"), "~/code/site");
+    EXPECT_EQ(shownPath("/home/ann/code", "/home/ann/"), "~/code");
+    EXPECT_EQ(shownPath("/home/ann", "/home/ann"), "~");
+    EXPECT_EQ(shownPath("/home/anna/code", "/home/ann"), "/home/anna/code");
+    EXPECT_EQ(shownPath("/srv/site", "/"), "/srv/site");
+    EXPECT_EQ(shownPath("/srv/site", ""), "/srv/site");
 }
 
 TEST(TimeTicks, RoundLocalTimesForEachRange)

@@ -12,6 +12,7 @@
 #include "pages/PowerPage.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -280,6 +281,11 @@ TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
     EXPECT_EQ(rows.filter("Idle for ").size(), rows.filter("Idle for 4 days").size());
     EXPECT_FALSE(rows.filter("Idle for ").isEmpty()) << rows.join('|').toStdString();
     EXPECT_FALSE(rows.filter("Reachable from other devices on your network").isEmpty());
+    // Project folders under the home folder the model knows, shown from ~.
+    QStringList shown;
+    for (const auto* label : page.findChildren<QLabel*>())
+        shown << label->text();
+    EXPECT_TRUE(shown.contains(QStringLiteral("~/code/atlas-api"))) << shown.join('|').toStdString();
     // Listeners that are no server's are listed beside them.
     for (const auto& port : page.otherPorts())
         for (const auto& group : model.servers)

@@ -68,7 +68,7 @@ TEST(TextRenderers, EmptyAndStateSentences)
     EXPECT_EQ(spikesText({{"hours", 2.0}, {"spikes", json::array()}}), "Nothing unusual in the last 2 hours.");
     EXPECT_EQ(spikesText({{"hours", 0.5}, {"spikes", json::array()}}), "Nothing unusual in the last 0.5 hours.");
     EXPECT_EQ(portsText({{"listening", json::array()}}), "Nothing of yours is listening on a TCP port.");
-    EXPECT_EQ(serversText({{"projects", json::array()}}), "No dev servers running.");
+    EXPECT_EQ(serversText({{"projects", json::array()}}, "/home/dev"), "No dev servers running.");
     EXPECT_EQ(dockerText({{"state", "running"}, {"containers", json::array()}}), "No containers.");
     EXPECT_EQ(
         dockerText({{"state", "not_installed"}, {"message", "Docker isn't installed (no docker command found)."}}),
@@ -80,8 +80,8 @@ TEST(TextRenderers, ALongRuntimeLabelKeepsItsGapBeforeThePid)
     const json server = {{"runtime", "next-server"}, {"pid", 6325}, {"ports", {3000}}};
     const json other = {{"runtime", "node"}, {"pid", 12}, {"ports", {5173, 5174}}};
     const json report = {{"projects", {{{"name", "site"}, {"path", "/home/dev/site"}, {"servers", {server, other}}}}}};
-    EXPECT_EQ(serversText(report),
-        "site  /home/dev/site\n"
+    EXPECT_EQ(serversText(report, "/home/dev"),
+        "site  ~/site\n"
         "  next-server  pid 6325    port 3000\n"
         "  node         pid 12      ports 5173, 5174");
 }
