@@ -48,10 +48,13 @@ started=$SECONDS
 echo "test: the CTest suites took $((SECONDS - started)) s"
 if ((fuzz)); then # the plain build's programs, not the sanitizers'
   scripts/check-install.sh "$build"
-  # The window drawn on the demo world for a reviewer: every page and tab in
-  # light and dark, and again in the pseudo-locale (each translatable sentence
-  # wrapped and a third longer), beside the live photographs the tests left.
+  # The window drawn on the demo world for a reviewer: every page, whole, and
+  # every tab in light and dark, again in Linux's words, and in the
+  # pseudo-locale (each translatable sentence wrapped and a third longer),
+  # beside the live photographs the tests left.
   TZ=UTC QT_QPA_PLATFORM=offscreen VEXEL_SNAPSHOT_DIR="$build/pictures/demo" "$build/src/vexel-app" >/dev/null 2>&1
+  TZ=UTC QT_QPA_PLATFORM=offscreen VEXEL_SNAPSHOT_PLATFORM=linux VEXEL_SNAPSHOT_DIR="$build/pictures/linux" \
+    "$build/src/vexel-app" >/dev/null 2>&1
   TZ=UTC QT_QPA_PLATFORM=offscreen VEXEL_SNAPSHOT_LOCALE=pseudo VEXEL_SNAPSHOT_DIR="$build/pictures/pseudo" \
     "$build/src/vexel-app" >/dev/null 2>&1
   echo "test: pictures of the window are in $build/pictures"
