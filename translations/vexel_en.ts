@@ -1852,5 +1852,14 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>This computer</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a weekday and a time</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -10,11 +10,19 @@
 
 namespace vexel {
 
+namespace {
+
+// A bar no wider than this: two cores are two bars, not two slabs.
+constexpr double widestBar = 28;
+
+} // namespace
+
 QRectF BarBank::barRect(size_t index, const QRectF& area) const
 {
     const auto count = static_cast<double>(std::max<size_t>(fractions.size(), 1));
-    // Gaps a third of a bar wide, none after the last.
-    const double pitch = area.width() / (count - 1.0 / 3.0);
+    // Gaps a third of a bar wide, none after the last; a bank of few cores
+    // keeps its bars narrow and stands at the left.
+    const double pitch = std::min(area.width() / (count - 1.0 / 3.0), widestBar * 3 / 2);
     const double width = pitch * 2 / 3;
     return {area.left() + pitch * static_cast<double>(index), area.top(), width, area.height()};
 }

@@ -66,13 +66,13 @@ void Dial::paint(QPainter& painter, const QRectF& area, const QPalette& palette)
         painter.drawArc(ring, static_cast<int>(startAngle * 16), static_cast<int>(-sweep * filled * 16));
     }
     if (peak) {
-        // A short tick across the ring, in the text colour, where the needle last stood highest.
+        // A mark on the ring where the reading last stood highest, in the strain's colour.
         const double angle = angleOf(*peak);
         const double radius = ring.width() / 2;
-        QPen tick(palette.color(QPalette::WindowText), std::max(1.5, thickness / 4));
+        QPen tick(Look::strainColour(palette, strain), std::max(2.0, thickness / 3), Qt::SolidLine, Qt::FlatCap);
         painter.setPen(tick);
-        painter.drawLine(onCircle(ring.center(), radius - thickness * 0.75, angle),
-            onCircle(ring.center(), radius + thickness * 0.75, angle));
+        painter.drawLine(onCircle(ring.center(), radius - thickness / 2, angle),
+            onCircle(ring.center(), radius + thickness / 2, angle));
     }
 
     painter.setPen(palette.color(QPalette::WindowText));

@@ -51,6 +51,15 @@ PaintedView::PaintedView(const QString& name, QSize preferred, QWidget* parent)
     setMinimumHeight(preferred.height());
 }
 
+void PaintedView::setPreferred(QSize preferred)
+{
+    if (preferred == m_preferred)
+        return;
+    m_preferred = preferred;
+    setMinimumHeight(preferred.height());
+    updateGeometry();
+}
+
 void PaintedView::setDrawing(Drawing drawing, const QString& value)
 {
     m_drawing = std::move(drawing);

@@ -32,6 +32,8 @@ public:
     // What the drawing shows now, in words: "15 percent".
     [[nodiscard]] const QString& value() const { return m_value; }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
+    // The size the view asks for, and the least height it takes.
+    void setPreferred(QSize preferred);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -9,6 +9,7 @@
 #include "look/Sparkline.h"
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
+#include "pages/TimeTicks.h"
 #include "pages/TopApps.h"
 #include "pages/Traces.h"
 #include "texts/QtText.h"
@@ -27,6 +28,9 @@ namespace vexel {
 namespace {
 
 constexpr size_t busiestCount = 5;
+
+constexpr int fullDial = 132;
+constexpr int compactDial = 76;
 
 } // namespace
 
@@ -49,7 +53,7 @@ OverviewPage::OverviewPage(QWidget* parent)
     auto* grid = new QGridLayout;
     grid->setSpacing(8);
     for (size_t i = 0; i < m_dials.size(); ++i) {
-        m_dials[i] = new PaintedView(QString(), QSize(132, 132), m_content);
+        m_dials[i] = new PaintedView(QString(), QSize(fullDial, fullDial), m_content);
         grid->addWidget(m_dials[i], static_cast<int>(i / 3), static_cast<int>(i % 3));
     }
     content->addLayout(grid);
@@ -148,6 +152,8 @@ QWidget* OverviewPage::buildAwayCard()
     connect(dismiss, &QPushButton::clicked, this, &OverviewPage::dismissAway);
     top->addWidget(dismiss);
     layout->addLayout(top);
+    m_awaySpan = Look::explanation({}, card);
+    layout->addWidget(m_awaySpan);
     m_awayLines = Look::line(card);
     layout->addWidget(m_awayLines);
     card->hide();
@@ -157,9 +163,15 @@ QWidget* OverviewPage::buildAwayCard()
 void OverviewPage::showAway(const AppModel& model)
 {
     m_away->setVisible(model.awaySince.has_value());
+    // With the card, the dials step down a size, so that the page still fits its window.
+    const int side = model.awaySince ? compactDial : fullDial;
+    for (auto* dial : m_dials)
+        dial->setPreferred({side, side});
     if (!model.awaySince)
         return;
     m_awayTitle->setText(Vexel::tr("While you were away"));
+    m_awaySpan->setText(Vexel::tr("From %1 to %2")
+                            .arg(momentText(*model.awaySince, model.zone), momentText(model.frame->time, model.zone)));
     QStringList lines;
     for (const auto& spike : model.awaySpikes)
         lines << Vexel::say(spike.summary); // it names the app behind it
@@ -180,6 +192,11 @@ QStringList OverviewPage::awayLines() const
     if (m_away->isHidden())
         return {};
     return m_awayLines->text().split('\n');
+}
+
+QString OverviewPage::awaySpan() const
+{
+    return m_away->isHidden() ? QString() : m_awaySpan->text();
 }
 
 QStringList OverviewPage::busiestRows() const

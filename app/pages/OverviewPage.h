@@ -34,6 +34,8 @@ public:
     [[nodiscard]] QString todayText() const;
     // The "While you were away" card's lines, empty when it is not shown.
     [[nodiscard]] QStringList awayLines() const;
+    // "From Tue 19:06 to Wed 11:06": the time away the card covers.
+    [[nodiscard]] QString awaySpan() const;
     void dismissAway();
 
 protected:
@@ -55,6 +57,7 @@ private:
     TopApps* m_busiest = nullptr;
     QWidget* m_away = nullptr;
     QLabel* m_awayTitle = nullptr;
+    QLabel* m_awaySpan = nullptr;
     QLabel* m_awayLines = nullptr;
 };
 

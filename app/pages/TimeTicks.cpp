@@ -106,4 +106,13 @@ std::vector<std::pair<double, QString>> timeTicks(double from, double to, Histor
     return {};
 }
 
+QString momentText(double t, const TimeZone& zone)
+{
+    int weekday = 0;
+    const CivilTime civil = zone.civil(t, &weekday);
+    return Vexel::tr("%1 %2", "a weekday and a time")
+        .arg(Vexel::tr(weekdays.at(static_cast<size_t>(weekday) % weekdays.size())),
+            QString::fromStdString(cformat("%02d:%02d", civil.hour, civil.minute)));
+}
+
 } // namespace vexel

@@ -18,4 +18,7 @@ namespace vexel {
 [[nodiscard]] std::vector<std::pair<double, QString>> timeTicks(
     double from, double to, HistoryRange range, const TimeZone& zone);
 
+// A moment in local time by its weekday and hour: "Sun 18:40".
+[[nodiscard]] QString momentText(double t, const TimeZone& zone);
+
 } // namespace vexel

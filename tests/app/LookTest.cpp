@@ -61,9 +61,10 @@ TEST(Dial, FilledToTheReadingInItsStrainsColour)
     EXPECT_EQ(onRing(warm, 0.6), Look::strainColour(Appearance::dark, Strain::elevated));
     EXPECT_EQ(onRing(warm, 0.8), Look::track(Appearance::dark));
 
-    // The peak stands where the needle was highest, past the value.
-    const QImage peaked = draw({0.3, 0.8, Strain::calm, "30%", "CPU"});
-    EXPECT_EQ(onRing(peaked, 0.8), Look::palette(light).color(QPalette::WindowText));
+    // The peak is marked on the ring where the reading was highest, past
+    // the value, in the strain's colour.
+    const QImage peaked = draw({0.3, 0.8, Strain::elevated, "30%", "CPU"});
+    EXPECT_EQ(onRing(peaked, 0.8), Look::strainColour(light, Strain::elevated));
     EXPECT_EQ(onRing(peaked, 0.6), Look::track(light));
 
     // Readings off the scale: clamped, and a nonsense one drawn empty.
@@ -115,7 +116,8 @@ TEST(BarBank, EachBarToItsValueInItsOwnStrain)
     EXPECT_EQ(at(1, 90), Look::strainColour(dark, Strain::strained));
     EXPECT_EQ(at(2, 5), Look::track(dark)); // a nonsense reading: empty
     EXPECT_EQ(at(3, 97), Look::strainColour(dark, Strain::strained)); // clamped to full
-    EXPECT_LE(bank.barRect(3, area).right(), 200.5); // the last bar ends at the edge
+    EXPECT_LE(bank.barRect(3, area).right(), 200.5); // within the bank
+    EXPECT_LE(bank.barRect(0, area).width(), 28.0); // four cores are four bars, not four slabs
 }
 
 // A chart draws each series in its colour where its points are, and breaks

@@ -378,6 +378,15 @@ TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
         Sentence{"%1 kept the processor busy for %2 min", {{"Xcode"}, {"10"}}}}};
     page.showModel(model);
     EXPECT_EQ(page.awayLines(), QStringList{"Xcode kept the processor busy for 10 min"});
+    // From when the user left to the reading now, in the model's zone.
+    const auto clock = [](double t) {
+        const CivilTime civil = TimeZone::fixed(0).civil(t);
+        return QString::asprintf("%02d:%02d", civil.hour, civil.minute);
+    };
+    EXPECT_TRUE(page.awaySpan().startsWith(QStringLiteral("From ")));
+    EXPECT_TRUE(page.awaySpan().contains(clock(*model.awaySince) + QStringLiteral(" to ")))
+        << page.awaySpan().toStdString();
+    EXPECT_TRUE(page.awaySpan().endsWith(clock(model.frame->time))) << page.awaySpan().toStdString();
     model.awaySpikes.clear();
     page.showModel(model);
     EXPECT_EQ(page.awayLines(),
