@@ -1685,14 +1685,6 @@ Or paste this into your assistant&apos;s MCP settings:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Each reading is its own item, shown left to right in this order. Use the arrows to reorder. A reading turns amber or red in the menu bar when it&apos;s under strain; thresholds are in Alerts.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Each reading is its own item, shown left to right in this order. Use the arrows to reorder. A reading turns amber or red in the panel when it&apos;s under strain; thresholds are in Alerts.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>With no menu bar items, Vexel keeps its Dock icon so you can always get back to it.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1859,6 +1851,18 @@ Or paste this into your assistant&apos;s MCP settings:
     <message>
         <source>%1 %2</source>
         <comment>a weekday and a time</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag to reorder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each reading is its own item, shown left to right in this order. Drag a reading by its grip, or use the arrows, to reorder. A reading turns amber or red in the menu bar when it&apos;s under strain; thresholds are in Alerts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each reading is its own item, shown left to right in this order. Drag a reading by its grip, or use the arrows, to reorder. A reading turns amber or red in the panel when it&apos;s under strain; thresholds are in Alerts.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

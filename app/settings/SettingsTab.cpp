@@ -39,10 +39,26 @@ QFormLayout* SettingsTab::section(const QString& heading, const QString& explana
     form->setLabelAlignment(Qt::AlignLeft);
     form->setHorizontalSpacing(14);
     m_column->addLayout(form);
+    m_forms.push_back(form);
     if (!explanation.isEmpty())
         m_column->addWidget(Look::explanation(explanation, this));
     m_column->addSpacing(8);
     return form;
+}
+
+void SettingsTab::showEvent(QShowEvent* event)
+{
+    int widest = 0;
+    std::vector<QWidget*> names;
+    for (auto* form : m_forms)
+        for (int row = 0; row < form->rowCount(); ++row)
+            if (auto* item = form->itemAt(row, QFormLayout::LabelRole); item && item->widget()) {
+                names.push_back(item->widget());
+                widest = std::max(widest, item->widget()->sizeHint().width());
+            }
+    for (auto* name : names)
+        name->setMinimumWidth(widest);
+    Page::showEvent(event);
 }
 
 QLabel* SettingsTab::label(const QString& text)

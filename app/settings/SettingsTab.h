@@ -4,6 +4,7 @@
 #include "settings/VexelSettings.h"
 
 #include <functional>
+#include <vector>
 
 class QFormLayout;
 class QLabel;
@@ -30,10 +31,15 @@ protected:
     // A form row's name, on one line.
     QLabel* label(const QString& text);
 
+    // The forms of the tab line up as one: each one's names take the width
+    // of the widest name on the tab.
+    void showEvent(QShowEvent* event) override;
+
     bool m_filling = false;
 
 private:
     QVBoxLayout* m_column = nullptr;
+    std::vector<QFormLayout*> m_forms;
 };
 
 } // namespace vexel

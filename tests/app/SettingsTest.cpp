@@ -19,6 +19,9 @@
 #include "texts/QtText.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -100,6 +103,22 @@ TEST(Settings, PanelItemsReorderSwitchAndRestore)
     panel.move(6, 1); // nor the last down
     EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::memory);
     EXPECT_EQ(model.settings.menuItems[6].kind, MenuItemKind::gpu);
+    // Dropped on the fifth row, the first reading takes its place and the others close up.
+    settings.show();
+    settings.showTab(SettingsWindow::Tab::panel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the rows the moves replaced
+    QCoreApplication::processEvents();
+    QMimeData dragged;
+    dragged.setData(QString::fromLatin1(PanelTab::rowMime), QByteArray("0"));
+    const auto* fifthRow = panel.findChildren<QCheckBox*>().at(4);
+    const QPoint at = fifthRow->mapTo(&panel, fifthRow->rect().center());
+    QDragEnterEvent enter(at, Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&panel, &enter);
+    ASSERT_TRUE(enter.isAccepted()) << "the tab takes a dragged row";
+    QDropEvent drop(QPointF(at), Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&panel, &drop);
+    EXPECT_EQ(model.settings.menuItems[4].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::cpu);
     panel.restoreDefaults();
     EXPECT_EQ(model.settings.menuItems, defaultMenuItems());
 }
