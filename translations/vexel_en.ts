@@ -1865,5 +1865,9 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>Each reading is its own item, shown left to right in this order. Drag a reading by its grip, or use the arrows, to reorder. A reading turns amber or red in the panel when it&apos;s under strain; thresholds are in Alerts.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>under a minute</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

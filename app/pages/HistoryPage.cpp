@@ -28,7 +28,6 @@ namespace vexel {
 
 namespace {
 
-constexpr size_t coreTimeCount = 12;
 constexpr int chartsShown = 4;
 
 // The longest pause between readings that still counts as one stretch: a
@@ -234,11 +233,12 @@ void HistoryPage::showCharts(const AppModel& model)
 
     const SysPoint whole = Downsample::rollup(points, history.from, 0);
     FigureRows::Rows rows;
-    for (const auto& app : Downsample::rollupApps(history.apps, history.from, whole.dur, coreTimeCount)) {
+    for (const auto& app : Downsample::busiestApps(history.apps, history.from, whole.dur)) {
         const double hours = app.cpu * whole.dur / 3600;
-        rows.emplace_back(qs(app.name), qs(hours >= 1 ? cformat("%.1f h", hours) : cformat("%.0f min", hours * 60)));
-        if (rows.size() == coreTimeCount)
-            break;
+        // Under half a minute is still some: never "0 min" for an app that was busy.
+        rows.emplace_back(qs(app.name),
+            hours >= 1 ? qs(cformat("%.1f h", hours))
+                       : (hours * 60 >= 0.5 ? qs(cformat("%.0f min", hours * 60)) : Vexel::tr("under a minute")));
     }
     m_coreTime->setRows(rows);
 }

@@ -134,6 +134,16 @@ std::vector<AppPoint> rollupApps(const std::vector<AppPoint>& apps, double t, do
     return select(merged, keep);
 }
 
+std::vector<AppPoint> busiestApps(const std::vector<AppPoint>& apps, double t, double covered, size_t count)
+{
+    auto merged = rollupApps(apps, t, covered, count);
+    std::stable_sort(merged.begin(), merged.end(), [](const AppPoint& a, const AppPoint& b) { return a.cpu > b.cpu; });
+    std::erase_if(merged, [](const AppPoint& app) { return !(app.cpu > 0); });
+    if (merged.size() > count)
+        merged.resize(count);
+    return merged;
+}
+
 std::vector<AppPoint> regroupApps(
     const std::vector<AppPoint>& apps, const std::vector<SysPoint>& sys, double size, size_t keep)
 {

@@ -28,6 +28,15 @@ namespace vexel::Downsample {
 [[nodiscard]] std::vector<AppPoint> rollupApps(
     const std::vector<AppPoint>& apps, double t, double covered, size_t keep);
 
+// How many apps a history names by their core time.
+inline constexpr size_t busiestAppCount = 10;
+
+// The apps that kept the processor busiest over `covered` seconds from `t`,
+// highest first, at most `count` and none that used none: what both the
+// History page and `vexel history` list as core time by app.
+[[nodiscard]] std::vector<AppPoint> busiestApps(
+    const std::vector<AppPoint>& apps, double t, double covered, size_t count = busiestAppCount);
+
 // App points in buckets of `size`, each bucket's covered time taken from the system points.
 [[nodiscard]] std::vector<AppPoint> regroupApps(
     const std::vector<AppPoint>& apps, const std::vector<SysPoint>& sys, double size, size_t keep);

@@ -13,8 +13,6 @@ namespace {
 using nlohmann::json;
 using namespace ReportValues;
 
-constexpr size_t busiestCount = 10;
-
 // The finest tier that keeps a look-back of `hours` (minutes up to 49 hours,
 // ten minutes up to 35 days, hours beyond), so that recent samples not yet
 // rolled up count too.
@@ -30,10 +28,9 @@ HistoryTier spikeTier(double hours)
 // first, each named by its latest point.
 json busiestApps(const std::vector<AppPoint>& points, double start, double covered)
 {
-    const auto merged = Downsample::rollupApps(points, start, covered, busiestCount);
     json apps = json::array();
-    for (size_t i = 0; i < merged.size() && i < busiestCount; ++i)
-        apps.push_back({{"name", merged[i].name}, {"cpu_core_hours", rounded(merged[i].cpu * covered / 3600, 2)}});
+    for (const auto& app : Downsample::busiestApps(points, start, covered))
+        apps.push_back({{"name", app.name}, {"cpu_core_hours", rounded(app.cpu * covered / 3600, 2)}});
     return apps;
 }
 

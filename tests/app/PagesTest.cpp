@@ -3,6 +3,7 @@
 
 #include "DemoModel.h"
 #include "MainWindow.h"
+#include "history/Downsample.h"
 #include "pages/AppInspector.h"
 #include "pages/AppsPage.h"
 #include "pages/DevelopersPage.h"
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTreeView>
@@ -349,7 +351,12 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
     EXPECT_TRUE(page.emptyState().isEmpty());
     EXPECT_EQ(page.chartCount(), 4);
     EXPECT_TRUE(page.spikeRows().isEmpty());
-    EXPECT_FALSE(page.coreTimeRows().isEmpty());
+    // Core time names the apps `vexel history` names: at most ten, none said to be idle.
+    const QStringList coreTime = page.coreTimeRows();
+    EXPECT_FALSE(coreTime.isEmpty());
+    EXPECT_LE(coreTime.size(), static_cast<int>(Downsample::busiestAppCount));
+    EXPECT_TRUE(coreTime.filter(QRegularExpression(QStringLiteral("\\b0 min$"))).isEmpty())
+        << coreTime.join('|').toStdString();
 }
 
 TEST(HistoryPage, PickingARangeReadsThatRange)
