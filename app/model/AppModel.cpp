@@ -230,6 +230,9 @@ void AppModel::apply(TickResult result)
         todaySeries = std::move(*result.todaySeries);
     if (result.historyBytes)
         historyBytes = result.historyBytes;
+    // Each minute's batch reaches the file with the totals: History, when in view, reads it again.
+    if (result.today && route == Route::history && !historyLoading)
+        loadHistory();
     if (result.otherRecorder != otherRecorder) {
         otherRecorder = result.otherRecorder;
         what |= storeErrorChanged;

@@ -359,6 +359,20 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
         << coreTime.join('|').toStdString();
 }
 
+// History in view follows the recording: each minute's batch is read again.
+TEST(HistoryPage, InViewItRefreshesWithEachMinutesBatch)
+{
+    auto demo = readModel();
+    auto& model = *demo->model;
+    model.setRoute(Route::history);
+    model.loadHistorySync();
+    const double readTo = model.history->to;
+    demo->ticks(31); // past the next minute's compaction
+    demo->settle();
+    ASSERT_TRUE(model.history);
+    EXPECT_GT(model.history->to, readTo + 50);
+}
+
 TEST(HistoryPage, PickingARangeReadsThatRange)
 {
     auto demo = readModel();
