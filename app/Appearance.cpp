@@ -2,7 +2,10 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QStringList>
+
+#include <cmath>
 
 namespace vexel {
 
@@ -66,6 +69,21 @@ QFont font(double pointSize, QFont::Weight weight)
     result.setWeight(weight);
     result.setHintingPreference(QFont::PreferNoHinting);
     return result;
+}
+
+QFont fitted(QFont font, const QString& text, double width)
+{
+    const bool pixels = font.pixelSize() > 0;
+    const double largest = pixels ? font.pixelSize() : font.pointSizeF();
+    for (double size = largest; size > 5; size -= 0.5) {
+        if (pixels)
+            font.setPixelSize(static_cast<int>(std::lround(size)));
+        else
+            font.setPointSizeF(size);
+        if (QFontMetricsF(font).horizontalAdvance(text) <= width)
+            break;
+    }
+    return font;
 }
 
 QPalette palette(Appearance appearance)

@@ -26,6 +26,11 @@ bool installFont();
 // The font at a point size, in the app's face.
 [[nodiscard]] QFont font(double pointSize, QFont::Weight weight = QFont::Normal);
 
+// `font`, or smaller by half steps (of pixels or points, as it is set)
+// until `text` is no wider than `width`: a figure or a translated word stays
+// inside its box whatever its length.
+[[nodiscard]] QFont fitted(QFont font, const QString& text, double width);
+
 // Vexel's own palette of an appearance: the pictures', and the live window's
 // where the system's palette is of the other appearance than the desktop asks.
 [[nodiscard]] QPalette palette(Appearance appearance);

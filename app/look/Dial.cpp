@@ -2,7 +2,6 @@
 
 #include "look/StrainColours.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -26,19 +25,6 @@ QPointF onCircle(const QPointF& centre, double radius, double angle)
 {
     const double radians = angle * std::numbers::pi / 180;
     return {centre.x() + radius * std::cos(radians), centre.y() - radius * std::sin(radians)};
-}
-
-// The font at `pointSize`, or smaller until `text` is no wider than `width`:
-// a value or a translated word stays inside the ring whatever its length.
-QFont fitted(const QString& text, double width, double pointSize, QFont::Weight weight)
-{
-    QFont font = Look::font(pointSize, weight);
-    for (double size = pointSize; size > 5; size -= 0.5) {
-        font.setPointSizeF(size);
-        if (QFontMetricsF(font).horizontalAdvance(text) <= width)
-            break;
-    }
-    return font;
 }
 
 } // namespace
@@ -77,11 +63,11 @@ void Dial::paint(QPainter& painter, const QRectF& area, const QPalette& palette)
 
     painter.setPen(palette.color(QPalette::WindowText));
     // Widths of the ring's inside at the two lines' heights, less a margin.
-    painter.setFont(fitted(value, side * 0.72, std::max(8.0, side * 0.13), QFont::DemiBold));
+    painter.setFont(Look::fitted(Look::font(std::max(8.0, side * 0.13), QFont::DemiBold), value, side * 0.72));
     const QRectF middle(square.left(), square.top() + side * 0.30, side, side * 0.28);
     painter.drawText(middle, Qt::AlignCenter, value);
     painter.setPen(palette.color(QPalette::PlaceholderText));
-    painter.setFont(fitted(title, side * 0.62, std::max(7.0, side * 0.075), QFont::Normal));
+    painter.setFont(Look::fitted(Look::font(std::max(7.0, side * 0.075)), title, side * 0.62));
     const QRectF below(square.left(), square.top() + side * 0.58, side, side * 0.16);
     painter.drawText(below, Qt::AlignCenter, title);
     painter.restore();

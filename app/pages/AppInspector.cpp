@@ -86,26 +86,16 @@ AppInspector::AppInspector(QWidget* parent)
 
 void AppInspector::buildProcessList(QVBoxLayout* layout)
 {
-    m_rows = new KeyedRows({Vexel::tr("Process"), Vexel::tr("PID"), Vexel::tr("CPU"), Vexel::tr("Memory")}, this);
-    m_sorted = new QSortFilterProxyModel(this);
-    m_sorted->setSourceModel(m_rows);
-    m_sorted->setSortRole(KeyedRows::orderRole);
-    m_sorted->setDynamicSortFilter(true);
-    m_processes = new QTreeView(this);
-    m_processes->setModel(m_sorted);
-    m_processes->setAccessibleName(Vexel::tr("Processes"));
-    m_processes->setRootIsDecorated(false);
-    m_processes->setUniformRowHeights(true);
-    m_processes->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    const auto table = sortedTable(
+        {Vexel::tr("Process"), Vexel::tr("PID"), Vexel::tr("CPU"), Vexel::tr("Memory")}, Vexel::tr("Processes"), this);
+    m_rows = table.rows;
+    m_sorted = table.sorted;
+    m_processes = table.view;
     m_processes->setFont(Look::font(11));
-    m_processes->header()->setStretchLastSection(false);
-    m_processes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int column = 1; column < 4; ++column)
         m_processes->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     m_processes->setSortingEnabled(true);
     m_processes->sortByColumn(2, Qt::DescendingOrder);
-    m_processes->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_processes->setSelectionMode(QAbstractItemView::SingleSelection);
     m_processes->setMinimumHeight(150);
     layout->addWidget(m_processes, 1);
     connect(m_processes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

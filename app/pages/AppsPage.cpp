@@ -96,25 +96,14 @@ AppsPage::AppsPage(QWidget* parent)
     auto* body = new QHBoxLayout;
     body->setSpacing(besideSpacing);
     auto* listColumn = new QVBoxLayout;
-    m_rows = new KeyedRows({Vexel::tr("App"), Vexel::tr("CPU"), Vexel::tr("Memory"), Vexel::tr("Energy"),
-                               Vexel::tr("Disk"), Vexel::tr("Network")},
-        this);
-    m_sorted = new QSortFilterProxyModel(this);
-    m_sorted->setSourceModel(m_rows);
-    m_sorted->setSortRole(KeyedRows::orderRole);
-    m_sorted->setDynamicSortFilter(true);
-    m_list = new QTreeView(this);
-    m_list->setModel(m_sorted);
-    m_list->setAccessibleName(Vexel::tr("Apps"));
-    m_list->setRootIsDecorated(false);
+    const auto table = sortedTable({Vexel::tr("App"), Vexel::tr("CPU"), Vexel::tr("Memory"), Vexel::tr("Energy"),
+                                       Vexel::tr("Disk"), Vexel::tr("Network")},
+        Vexel::tr("Apps"), this);
+    m_rows = table.rows;
+    m_sorted = table.sorted;
+    m_list = table.view;
     m_list->setFont(Look::font(12));
-    m_list->setUniformRowHeights(true);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->header()->setStretchLastSection(false);
-    m_list->header()->setSectionResizeMode(Column::name, QHeaderView::Stretch);
     m_list->header()->setSectionsClickable(true);
     m_list->header()->setSortIndicatorShown(true);
     connect(m_list->header(), &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
@@ -144,6 +133,12 @@ AppsPage::AppsPage(QWidget* parent)
     layout->addLayout(body, 1);
 }
 
+void AppsPage::attach(AppModel& model)
+{
+    Page::attach(model);
+    m_inspector->attach(model); // the inspector's buttons act on the same model
+}
+
 unsigned AppsPage::shows() const
 {
     return AppModel::frameChanged | AppModel::selectionChanged | AppModel::settingsChanged;
@@ -160,8 +155,6 @@ void AppsPage::showModel(const AppModel& model)
     showSelection(model);
     const AppGroup* selected = model.selected();
     m_side->setCurrentIndex(selected ? 1 : 0);
-    if (Page::model() != nullptr)
-        m_inspector->attach(*Page::model());
     if (selected)
         m_inspector->showApp(*selected, model);
     else

@@ -24,6 +24,7 @@ class AppsPage final : public Page {
 public:
     explicit AppsPage(QWidget* parent);
 
+    void attach(AppModel& model) override;
     void showModel(const AppModel& model) override;
     [[nodiscard]] unsigned shows() const override;
 

@@ -1,6 +1,9 @@
 #include "pages/KeyedRows.h"
 
+#include <QHeaderView>
 #include <QSet>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
 
 #include <unordered_map>
 
@@ -104,6 +107,27 @@ QVariant KeyedRows::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(section == 0 ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
     return {};
+}
+
+SortedTable sortedTable(const QStringList& headers, const QString& name, QWidget* parent)
+{
+    SortedTable table;
+    table.rows = new KeyedRows(headers, parent);
+    table.sorted = new QSortFilterProxyModel(parent);
+    table.sorted->setSourceModel(table.rows);
+    table.sorted->setSortRole(KeyedRows::orderRole);
+    table.sorted->setDynamicSortFilter(true);
+    table.view = new QTreeView(parent);
+    table.view->setModel(table.sorted);
+    table.view->setAccessibleName(name);
+    table.view->setRootIsDecorated(false);
+    table.view->setUniformRowHeights(true);
+    table.view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table.view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.view->setSelectionMode(QAbstractItemView::SingleSelection);
+    table.view->header()->setStretchLastSection(false);
+    table.view->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    return table;
 }
 
 } // namespace vexel

@@ -3,6 +3,9 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
+class QSortFilterProxyModel;
+class QTreeView;
+
 #include <vector>
 
 namespace vexel {
@@ -45,5 +48,14 @@ private:
     QStringList m_headers;
     std::vector<Row> m_rows;
 };
+
+// Keyed rows under a list that sorts them: a row is picked whole, the first
+// column takes the width left over, and the list scrolls by pixels.
+struct SortedTable {
+    KeyedRows* rows = nullptr;
+    QSortFilterProxyModel* sorted = nullptr;
+    QTreeView* view = nullptr;
+};
+[[nodiscard]] SortedTable sortedTable(const QStringList& headers, const QString& name, QWidget* parent);
 
 } // namespace vexel

@@ -40,9 +40,6 @@ OverviewPage::OverviewPage(QWidget* parent)
     // Scrolls when the away card makes the page taller than the window.
     QWidget* inner = nullptr;
     auto* layout = scrollingColumn(&inner);
-    m_waiting = Look::centredNote(Vexel::tr("Taking the first reading…"), inner);
-    layout->addWidget(m_waiting, 1);
-
     m_content = new QWidget(inner);
     auto* content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
@@ -83,16 +80,13 @@ OverviewPage::OverviewPage(QWidget* parent)
     lower->addLayout(busiest, 2);
     content->addLayout(lower, 1);
     layout->addWidget(m_content, 1);
-    m_content->hide();
 }
 
 void OverviewPage::showModel(const AppModel& model)
 {
-    const bool waiting = !model.frame;
-    m_waiting->setVisible(waiting);
-    m_content->setVisible(!waiting);
-    if (waiting)
-        return;
+    if (!model.frame)
+        return; // "Taking the first reading…" covers the page
+
     m_shown = overviewDials(model);
     for (size_t i = 0; i < m_shown.size(); ++i) {
         m_dials[i]->setAccessibleName(m_shown[i].title);
@@ -202,11 +196,6 @@ QString OverviewPage::awaySpan() const
 QStringList OverviewPage::busiestRows() const
 {
     return m_busiest->rows();
-}
-
-bool OverviewPage::waitingForFirstReading() const
-{
-    return !m_waiting->isHidden();
 }
 
 } // namespace vexel

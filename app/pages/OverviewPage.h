@@ -29,7 +29,6 @@ public:
     [[nodiscard]] const std::array<Dial, 6>& dials() const { return m_shown; }
     // The busiest apps' rows as shown ("Google Chrome  12%").
     [[nodiscard]] QStringList busiestRows() const;
-    [[nodiscard]] bool waitingForFirstReading() const;
     // Today's totals as shown; empty until the history has been read.
     [[nodiscard]] QString todayText() const;
     // The "While you were away" card's lines, empty when it is not shown.
@@ -38,16 +37,11 @@ public:
     [[nodiscard]] QString awaySpan() const;
     void dismissAway();
 
-protected:
-    // The Overview says it beside its away card and notices.
-    [[nodiscard]] bool waitsForFrames() const override { return false; }
-
 private:
     void showToday(const AppModel& model);
     void showAway(const AppModel& model);
     QWidget* buildAwayCard();
 
-    QLabel* m_waiting = nullptr;
     QWidget* m_content = nullptr;
     std::array<PaintedView*, 6> m_dials{};
     std::array<Dial, 6> m_shown;

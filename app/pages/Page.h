@@ -22,7 +22,7 @@ public:
     // The model's changes (AppModel::Change bits) that this page shows.
     [[nodiscard]] virtual unsigned shows() const = 0;
     // The model the page's buttons act on.
-    void attach(AppModel& model) { m_model = &model; }
+    virtual void attach(AppModel& model) { m_model = &model; }
     // Shows the model as the window does: a page of the machine's readings
     // says "Taking the first reading…" until the first frame is in.
     void present(const AppModel& model);

@@ -16,18 +16,14 @@ namespace {
 constexpr double inset = 1;
 
 // The largest font (in pixels, at most `largest`) in which `text` fits `width`.
-QFont fitted(const QString& text, double width, double largest, QFont::Weight weight)
+QFont fitted(const QString& text, double width, int largest, QFont::Weight weight)
 {
     QFont font = Look::font(8, weight);
-    for (double size = largest; size > 5; size -= 0.5) {
-        font.setPixelSize(static_cast<int>(std::lround(size)));
-        if (QFontMetricsF(font).horizontalAdvance(text) <= width)
-            return font;
-    }
-    return font;
+    font.setPixelSize(largest);
+    return Look::fitted(font, text, width);
 }
 
-void drawText(QPainter& painter, const QRectF& box, const QString& text, double largest, QFont::Weight weight)
+void drawText(QPainter& painter, const QRectF& box, const QString& text, int largest, QFont::Weight weight)
 {
     painter.setFont(fitted(text, box.width(), largest, weight));
     painter.drawText(box, Qt::AlignCenter, text);

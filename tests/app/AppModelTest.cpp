@@ -177,7 +177,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
     MainWindow window;
     window.bind(*demo.model);
     window.show();
-    EXPECT_FALSE(window.overview()->waitingForFirstReading());
+    EXPECT_FALSE(window.overview()->waitingShown());
     const auto apps = demo.model->apps(AppSort::memory, 100);
     const auto app = std::find_if(
         apps.begin(), apps.end(), [](const AppGroup& group) { return ActionFlow::canQuit(group, 501, 99999); });
@@ -290,11 +290,11 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
 {
     DemoModel demo;
     OverviewPage page(nullptr);
-    page.showModel(*demo.model);
-    EXPECT_TRUE(page.waitingForFirstReading());
+    page.present(*demo.model);
+    EXPECT_TRUE(page.waitingShown());
     demo.ticks(2, true); // the second frame has rates
-    page.showModel(*demo.model);
-    EXPECT_FALSE(page.waitingForFirstReading());
+    page.present(*demo.model);
+    EXPECT_FALSE(page.waitingShown());
     const auto& system = demo.model->frame->system;
     EXPECT_DOUBLE_EQ(page.dials()[0].fraction, system.cpu.user + system.cpu.system);
     EXPECT_EQ(page.dials()[1].strain, demo.model->strain(MenuItemKind::memory));
