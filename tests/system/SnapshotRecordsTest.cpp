@@ -4,15 +4,6 @@
 
 using namespace vexel;
 
-TEST(SnapshotRecords, LevelsAndTheirRawValues)
-{
-    EXPECT_EQ(memoryPressureFromRaw(2), MemoryPressure::critical);
-    EXPECT_FALSE(memoryPressureFromRaw(3));
-    EXPECT_LT(ThermalLevel::fair, ThermalLevel::serious);
-    EXPECT_EQ(title(ThermalLevel::serious), "Hot");
-    EXPECT_EQ(title(MemoryPressure::warning), "Warning");
-}
-
 TEST(SnapshotRecords, DerivedValuesGuardTheirEdges)
 {
     EXPECT_EQ(SystemSnapshot::empty(0).coreCount(), 1);
