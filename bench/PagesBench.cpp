@@ -43,7 +43,7 @@ struct Demo {
             },
             std::make_unique<FakeActions>(), [this] { return world.now(); }, 501, 0, false, Platform::macOS});
         tick(true);
-        fillDemoHistory(paths, world.now(), model->apps(AppSort::cpu, 6), model->cores);
+        fillDemoHistory(paths, *model->frame, model->zone, model->apps(AppSort::cpu, 6), model->cores);
         tick(true);
         tick(false);
         model->loadHistorySync();

@@ -1869,5 +1869,17 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>under a minute</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "look/BarBank.h"
 
+#include "look/ChartScale.h"
 #include "look/StrainColours.h"
 
 #include <QPainter>
@@ -17,8 +18,9 @@ constexpr double widestBar = 28;
 
 } // namespace
 
-QRectF BarBank::barRect(size_t index, const QRectF& area) const
+QRectF BarBank::barRect(size_t index, const QRectF& frame) const
 {
+    const QRectF area = labelled ? frame.adjusted(0, 0, 0, -ChartScale::wordsHeight) : frame;
     const auto count = static_cast<double>(std::max<size_t>(fractions.size(), 1));
     // Gaps a third of a bar wide, none after the last; a bank of few cores
     // keeps its bars narrow and stands at the left.
@@ -30,6 +32,15 @@ QRectF BarBank::barRect(size_t index, const QRectF& area) const
 void BarBank::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     painter.save();
+    if (labelled) {
+        painter.setFont(Look::font(10));
+        painter.setPen(palette.color(QPalette::PlaceholderText));
+        for (size_t i = 0; i < fractions.size(); ++i) {
+            const QRectF bar = barRect(i, area);
+            const QRectF under(bar.center().x() - 20, bar.bottom(), 40, ChartScale::wordsHeight);
+            painter.drawText(under, Qt::AlignHCenter | Qt::AlignBottom, nameOf(i));
+        }
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     for (size_t i = 0; i < fractions.size(); ++i) {
@@ -47,15 +58,35 @@ void BarBank::paint(QPainter& painter, const QRectF& area, const QPalette& palet
     painter.restore();
 }
 
+QString BarBank::nameOf(size_t index) const
+{
+    return index < names.size() ? names[index] : QString::number(index + 1);
+}
+
+QString BarBank::describeBar(size_t index) const
+{
+    if (index < values.size())
+        return QStringLiteral("%1: %2").arg(nameOf(index), values[index]);
+    const double fraction = std::isfinite(fractions[index]) ? std::clamp(fractions[index], 0.0, 1.0) : 0;
+    return QStringLiteral("%1: %2%").arg(nameOf(index)).arg(std::lround(fraction * 100));
+}
+
 QString BarBank::describe() const
 {
     QStringList parts;
-    for (size_t i = 0; i < fractions.size(); ++i) {
-        const QString name = i < names.size() ? names[i] : QString::number(i + 1);
-        const double fraction = std::isfinite(fractions[i]) ? std::clamp(fractions[i], 0.0, 1.0) : 0;
-        parts << QStringLiteral("%1: %2%").arg(name).arg(std::lround(fraction * 100));
-    }
+    for (size_t i = 0; i < fractions.size(); ++i)
+        parts << describeBar(i);
     return parts.join(QStringLiteral(", "));
+}
+
+QString BarBank::describeAt(const QPointF& point, const QRectF& area) const
+{
+    for (size_t i = 0; i < fractions.size(); ++i) {
+        const QRectF bar = barRect(i, area);
+        if (point.x() >= bar.left() && point.x() <= bar.right())
+            return describeBar(i);
+    }
+    return {};
 }
 
 } // namespace vexel

@@ -1,5 +1,6 @@
 #include "look/Chart.h"
 
+#include "look/ChartScale.h"
 #include "look/StrainColours.h"
 #include "texts/Vexel.h"
 
@@ -8,20 +9,41 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 namespace vexel {
 
 namespace {
 
-constexpr double legendHeight = 20;
-constexpr double timesHeight = 18;
+// Readings closer than this share a column.
+constexpr double columnPixels = 5;
+
+void drawLegend(
+    QPainter& painter, const QRectF& area, const std::vector<Chart::Series>& series, const QPalette& palette)
+{
+    painter.save();
+    painter.setFont(Look::font(10));
+    double x = area.left();
+    for (size_t i = 0; i < series.size(); ++i) {
+        if (series[i].name.isEmpty())
+            continue;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Look::seriesColour(palette, i));
+        painter.drawRoundedRect(QRectF(x, area.top() + 4, 10, 10), 2, 2);
+        painter.setPen(palette.color(QPalette::WindowText));
+        QRectF used;
+        painter.drawText(QRectF(x + 14, area.top(), 200, ChartScale::wordsHeight), Qt::AlignLeft | Qt::AlignVCenter,
+            series[i].name, &used);
+        x = used.right() + 16;
+    }
+    painter.restore();
+}
 
 } // namespace
 
 QRectF Chart::plotOf(const QRectF& area)
 {
-    return area.adjusted(0, legendHeight, 0, -timesHeight);
+    return area.adjusted(0, ChartScale::wordsHeight + 2, 0, -ChartScale::wordsHeight);
 }
 
 QPointF Chart::place(const QPointF& point, const QRectF& plot) const
@@ -32,87 +54,96 @@ QPointF Chart::place(const QPointF& point, const QRectF& plot) const
     return {x, y};
 }
 
+std::vector<std::vector<Chart::Column>> Chart::columnsOf(
+    const std::vector<QPointF>& points, double width, double pixels) const
+{
+    const double span = to > from ? to - from : 1;
+    const double perColumn = span * std::max(pixels, 1.0) / std::max(width, 1.0);
+    std::vector<std::vector<Column>> runs;
+    Column column;
+    double sum = 0;
+    int count = 0;
+    double timeSum = 0;
+    double bin = NAN;
+    double previous = NAN;
+    const auto close = [&] {
+        if (count == 0)
+            return;
+        column.mean = sum / count;
+        column.t = timeSum / count;
+        runs.back().push_back(column);
+        count = 0;
+    };
+    for (const auto& point : points) {
+        if (!std::isfinite(point.x()) || !std::isfinite(point.y()))
+            continue;
+        const bool gap = runs.empty() || (gapAfter > 0 && point.x() - previous > gapAfter);
+        const double here = std::floor((point.x() - from) / perColumn);
+        if (gap || here != bin) {
+            close();
+            if (gap)
+                runs.emplace_back();
+            bin = here;
+            column = {0, point.y(), point.y(), 0};
+            sum = timeSum = 0;
+        }
+        column.low = std::min(column.low, point.y());
+        column.high = std::max(column.high, point.y());
+        sum += point.y();
+        timeSum += point.x();
+        ++count;
+        previous = point.x();
+    }
+    close();
+    return runs;
+}
+
 void Chart::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF plot = plotOf(area);
-    const QColor secondary = palette.color(QPalette::PlaceholderText);
-    painter.setFont(Look::font(10));
+    drawLegend(painter, area, series, palette);
+    ChartScale::drawTopValue(painter, plot, valueText(top), palette);
+    ChartScale::drawGrid(painter, plot, top, palette);
+    std::vector<ChartScale::Mark> marks;
+    for (const double t : minorTimes)
+        marks.push_back({place({t, 0}, plot).x(), {}});
+    for (const auto& [t, label] : times)
+        marks.push_back({place({t, 0}, plot).x(), label});
+    ChartScale::drawMarks(painter, plot, marks, palette);
 
-    // The legend: a swatch and the name of each series, then the top value at the right.
-    double x = area.left();
-    for (size_t i = 0; i < series.size(); ++i) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Look::seriesColour(palette, i));
-        painter.drawRoundedRect(QRectF(x, area.top() + 5, 10, 10), 2, 2);
-        painter.setPen(palette.color(QPalette::WindowText));
-        const QRectF name(x + 14, area.top(), 200, legendHeight);
-        QRectF used;
-        painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter, series[i].name, &used);
-        x = used.right() + 16;
-    }
-    painter.setPen(secondary);
-    painter.drawText(
-        QRectF(area.left(), area.top(), area.width(), legendHeight), Qt::AlignRight | Qt::AlignVCenter, valueText(top));
-
-    // The floor, the top line and the times under the plot.
-    painter.setPen(QPen(Look::track(palette), 1));
-    painter.drawLine(plot.bottomLeft(), plot.bottomRight());
-    painter.drawLine(plot.topLeft(), plot.topRight());
-    painter.setPen(secondary);
-    const QFontMetricsF metrics(painter.font());
-    for (const auto& [t, label] : times) {
-        // Centred under its time, kept inside the chart at either end.
-        const double width = metrics.horizontalAdvance(label) + 2;
-        const double centre = place({t, 0}, plot).x();
-        const double left = std::clamp(centre - width / 2, area.left(), area.right() - width);
-        painter.drawLine(QPointF(centre, plot.bottom()), QPointF(centre, plot.bottom() + 3));
-        painter.drawText(QRectF(left, plot.bottom() + 3, width, timesHeight - 3), Qt::AlignCenter, label);
-    }
-
-    // The lines, each broken where the readings stop; the first series filled under.
+    // The first series last, over the others.
     for (size_t i = series.size(); i-- > 0;) {
-        const auto& points = series[i].points;
-        QPainterPath line;
-        QPainterPath fill;
-        bool open = false;
-        QPointF start;
-        QPointF last;
-        for (size_t p = 0; p < points.size(); ++p) {
-            const QPointF at = place(points[p], plot);
-            const bool gap = p > 0 && gapAfter > 0 && points[p].x() - points[p - 1].x() > gapAfter;
-            if (open && gap) {
-                fill.lineTo(last.x(), plot.bottom());
-                fill.lineTo(start.x(), plot.bottom());
-                fill.closeSubpath();
-                open = false;
+        const QColor colour = Look::seriesColour(palette, i);
+        QColor soft = colour;
+        soft.setAlphaF(0.18F);
+        QColor band = colour;
+        band.setAlphaF(0.3F);
+        for (const auto& run : columnsOf(series[i].points, plot.width(), columnPixels)) {
+            QPainterPath line;
+            QPainterPath spread;
+            for (size_t c = 0; c < run.size(); ++c) {
+                const QPointF at = place({run[c].t, run[c].mean}, plot);
+                c == 0 ? line.moveTo(at) : line.lineTo(at);
+                const QPointF high = place({run[c].t, run[c].high}, plot);
+                c == 0 ? spread.moveTo(high) : spread.lineTo(high);
             }
-            if (!open) {
-                line.moveTo(at);
-                fill.moveTo(at);
-                start = at;
-                open = true;
-            } else {
-                line.lineTo(at);
-                fill.lineTo(at);
+            for (size_t c = run.size(); c-- > 0;)
+                spread.lineTo(place({run[c].t, run[c].low}, plot));
+            spread.closeSubpath();
+            if (i == 0) {
+                QPainterPath under = line;
+                under.lineTo(place({run.back().t, 0}, plot));
+                under.lineTo(place({run.front().t, 0}, plot));
+                under.closeSubpath();
+                painter.fillPath(under, soft);
             }
-            last = at;
+            painter.fillPath(spread, band);
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(QPen(colour, 1.5));
+            painter.drawPath(line);
         }
-        if (open) {
-            fill.lineTo(last.x(), plot.bottom());
-            fill.lineTo(start.x(), plot.bottom());
-            fill.closeSubpath();
-        }
-        QColor colour = Look::seriesColour(palette, i);
-        if (i == 0) {
-            QColor soft = colour;
-            soft.setAlphaF(0.18F);
-            painter.fillPath(fill, soft);
-        }
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colour, 1.5));
-        painter.drawPath(line);
     }
     painter.restore();
 }
@@ -131,9 +162,10 @@ QString Chart::describe() const
             peak = count == 0 ? point.y() : std::max(peak, point.y());
             ++count;
         }
+        const QString name = one.name.isEmpty() ? Vexel::tr("Readings") : one.name;
         parts << (count == 0
-                ? Vexel::tr("%1: no readings").arg(one.name)
-                : Vexel::tr("%1: average %2, highest %3").arg(one.name, valueText(sum / count), valueText(peak)));
+                ? Vexel::tr("%1: no readings").arg(name)
+                : Vexel::tr("%1: average %2, highest %3").arg(name, valueText(sum / count), valueText(peak)));
     }
     return parts.join(QStringLiteral("; "));
 }

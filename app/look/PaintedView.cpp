@@ -4,7 +4,9 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <mutex>
 
@@ -60,9 +62,10 @@ void PaintedView::setPreferred(QSize preferred)
     updateGeometry();
 }
 
-void PaintedView::setDrawing(Drawing drawing, const QString& value)
+void PaintedView::setDrawing(Drawing drawing, const QString& value, Hover hover)
 {
     m_drawing = std::move(drawing);
+    m_hover = std::move(hover);
     if (QString words = spoken(value); words != m_value) {
         m_value = std::move(words);
         if (QAccessible::isActive()) {
@@ -79,6 +82,24 @@ void PaintedView::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     m_drawing(painter, QRectF(rect()), palette());
+}
+
+QString PaintedView::valueAt(const QPointF& point) const
+{
+    return m_hover ? m_hover(point, QRectF(rect())) : QString();
+}
+
+bool PaintedView::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QString words = valueAt(help->pos());
+    if (words.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), words, this);
+    return true;
 }
 
 QString spoken(QString text)

@@ -15,20 +15,28 @@ class PaintedView final : public QWidget {
 public:
     // Draws in the area with the colours of the palette the view is shown in.
     using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
+    // What the drawing shows under a point of the area, in words; nothing where it shows nothing.
+    using Hover = std::function<QString(const QPointF&, const QRectF&)>;
 
     PaintedView(const QString& name, QSize preferred, QWidget* parent);
 
-    // Shows a drawing, and what it shows now in words.
-    void setDrawing(Drawing drawing, const QString& value);
+    // Shows a drawing, and what it shows now in words, as a whole and (as a
+    // tool tip) under the pointer.
+    void setDrawing(Drawing drawing, const QString& value, Hover hover = {});
     // Shows one of the house look's drawings (anything with
-    // paint(painter, area, palette) and describe()).
+    // paint(painter, area, palette) and describe(), and perhaps describeAt(point, area)).
     template <typename Drawable> void draw(Drawable drawable)
     {
         const QString value = drawable.describe();
+        Hover hover;
+        if constexpr (requires { drawable.describeAt(QPointF(), QRectF()); })
+            hover = [drawable](const QPointF& point, const QRectF& area) { return drawable.describeAt(point, area); };
         setDrawing([drawable = std::move(drawable)](QPainter& painter, const QRectF& area,
                        const QPalette& palette) { drawable.paint(painter, area, palette); },
-            value);
+            value, std::move(hover));
     }
+    // What the drawing shows under `point`, as its tool tip says it.
+    [[nodiscard]] QString valueAt(const QPointF& point) const;
     // What the drawing shows now, in words: "15 percent".
     [[nodiscard]] const QString& value() const { return m_value; }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
@@ -37,10 +45,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     QSize m_preferred;
     Drawing m_drawing;
+    Hover m_hover;
     QString m_value;
 };
 

@@ -1,5 +1,6 @@
 #include "look/Sparkline.h"
 
+#include "look/ChartScale.h"
 #include "look/StrainColours.h"
 #include "texts/Vexel.h"
 
@@ -12,15 +13,29 @@
 
 namespace vexel {
 
-double Sparkline::heightOf(double value, double areaHeight) const
+double Sparkline::heightOf(double value, double plotHeight) const
 {
     if (!(top > 0) || !std::isfinite(value))
         return 0;
-    return std::clamp(value / top, 0.0, 1.0) * areaHeight;
+    return std::clamp(value / top, 0.0, 1.0) * plotHeight;
 }
 
-void Sparkline::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const
+QRectF Sparkline::plotOf(const QRectF& area) const
 {
+    return scaled ? area.adjusted(0, ChartScale::wordsHeight + 2, 0, -ChartScale::wordsHeight) : area;
+}
+
+void Sparkline::paint(QPainter& painter, const QRectF& frame, const QPalette& palette) const
+{
+    const QRectF area = plotOf(frame);
+    if (scaled) {
+        ChartScale::drawGrid(painter, area, top, palette);
+        ChartScale::drawTopValue(painter, area, valueText(top), palette);
+        std::vector<ChartScale::Mark> ticks;
+        for (const auto& [fraction, label] : marks)
+            ticks.push_back({area.left() + area.width() * std::clamp(fraction, 0.0, 1.0), label});
+        ChartScale::drawMarks(painter, area, ticks, palette);
+    }
     if (values.size() < 2)
         return;
     const double step = area.width() / static_cast<double>(values.size() - 1);

@@ -39,7 +39,7 @@ CpuPage::CpuPage(QWidget* parent)
     column->addWidget(m_total);
     m_split = Look::line(this);
     column->addWidget(m_split);
-    m_trace = new PaintedView(Vexel::tr("CPU, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("CPU, last few minutes"), QSize(480, 110), this);
     column->addWidget(m_trace);
     m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);

@@ -32,10 +32,10 @@ DiskPage::DiskPage(QWidget* parent)
     m_rates = Look::figure(this);
     column->addWidget(m_rates);
     column->addWidget(Look::explanation(Vexel::tr("Read"), this));
-    m_readTrace = new PaintedView(Vexel::tr("Disk reads, last few minutes"), QSize(480, 60), this);
+    m_readTrace = new PaintedView(Vexel::tr("Disk reads, last few minutes"), QSize(480, 84), this);
     column->addWidget(m_readTrace);
     column->addWidget(Look::explanation(Vexel::tr("Write"), this));
-    m_writeTrace = new PaintedView(Vexel::tr("Disk writes, last few minutes"), QSize(480, 60), this);
+    m_writeTrace = new PaintedView(Vexel::tr("Disk writes, last few minutes"), QSize(480, 84), this);
     column->addWidget(m_writeTrace);
     column->addSpacing(6);
     column->addWidget(Look::heading(Vexel::tr("Volumes"), this));

@@ -22,7 +22,7 @@ GpuPage::GpuPage(QWidget* parent)
     column->addWidget(m_use);
     m_name = Look::explanation({}, this);
     column->addWidget(m_name);
-    m_trace = new PaintedView(Vexel::tr("GPU, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("GPU, last few minutes"), QSize(480, 110), this);
     column->addWidget(m_trace);
     m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);

@@ -59,7 +59,7 @@ Chart shareChart(
 Chart rateChart(const std::vector<SysPoint>& points, Chart chart,
     std::vector<std::pair<QString, double SysPoint::*>> fields, Fmt::RateUnit unit)
 {
-    double top = 1000;
+    double top = 0;
     for (const auto& [name, field] : fields) {
         Chart::Series series{name, {}};
         for (const auto& point : points) {
@@ -69,7 +69,7 @@ Chart rateChart(const std::vector<SysPoint>& points, Chart chart,
         }
         chart.series.push_back(std::move(series));
     }
-    chart.top = top;
+    chart.top = rateTop(top, unit);
     chart.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
     return chart;
 }
@@ -214,6 +214,7 @@ void HistoryPage::showCharts(const AppModel& model)
     frame.to = history.to;
     frame.gapAfter = gap;
     frame.times = timeTicks(history.from, history.to, model.historyRange, model.zone);
+    frame.minorTimes = minorTicks(history.from, history.to, model.historyRange, model.zone);
     const std::array<Chart, chartsShown> charts{
         shareChart(points, frame, {{Vexel::tr("Average"), &SysPoint::cpu}, {Vexel::tr("Peak"), &SysPoint::cpuMax}}),
         shareChart(points, frame, {{Vexel::tr("In use"), &SysPoint::mem}}),
@@ -247,13 +248,16 @@ void HistoryPage::showSpikes(const AppModel& model)
 {
     FigureRows::Rows rows;
     for (const auto& spike : model.history->spikes) {
+        const QString summary = Vexel::say(spike.summary);
+        // A summary that names the app already leaves only its share to say.
         QString culprit;
-        if (spike.culprit && spike.share)
+        if (spike.culprit && summary.contains(qs(*spike.culprit)))
+            culprit = spike.share ? Vexel::tr("%1 of it").arg(qs(Fmt::percent(*spike.share))) : QString();
+        else if (spike.culprit && spike.share)
             culprit = Vexel::tr("mostly %1 (%2)").arg(qs(*spike.culprit), qs(Fmt::percent(*spike.share)));
         else if (spike.culprit)
             culprit = Vexel::tr("mostly %1").arg(qs(*spike.culprit));
-        rows.emplace_back(
-            qs(spikeTime(spike, model.zone)) + QStringLiteral("   ") + Vexel::say(spike.summary), culprit);
+        rows.emplace_back(qs(spikeTime(spike, model.zone)) + QStringLiteral("   ") + summary, culprit);
     }
     m_spikes->setRows(rows);
     m_noSpikes->setVisible(rows.empty());

@@ -25,7 +25,7 @@ MemoryPage::MemoryPage(QWidget* parent)
     column->addWidget(m_used);
     m_pressure = Look::line(this);
     column->addWidget(m_pressure);
-    m_trace = new PaintedView(Vexel::tr("Memory in use, last few minutes"), QSize(480, 90), this);
+    m_trace = new PaintedView(Vexel::tr("Memory in use, last few minutes"), QSize(480, 110), this);
     column->addWidget(m_trace);
     m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     column->addWidget(m_traceCaption);

@@ -23,10 +23,10 @@ NetworkPage::NetworkPage(QWidget* parent)
     column->addWidget(m_rates);
     column->addWidget(Look::explanation(Vexel::tr("Wi-Fi, Ethernet and cellular; VPN traffic counted once."), this));
     column->addWidget(Look::explanation(Vexel::tr("Download"), this));
-    m_inTrace = new PaintedView(Vexel::tr("Download, last few minutes"), QSize(480, 60), this);
+    m_inTrace = new PaintedView(Vexel::tr("Download, last few minutes"), QSize(480, 84), this);
     column->addWidget(m_inTrace);
     column->addWidget(Look::explanation(Vexel::tr("Upload"), this));
-    m_outTrace = new PaintedView(Vexel::tr("Upload, last few minutes"), QSize(480, 60), this);
+    m_outTrace = new PaintedView(Vexel::tr("Upload, last few minutes"), QSize(480, 84), this);
     column->addWidget(m_outTrace);
     column->addSpacing(6);
     m_top = new TopApps(Vexel::tr("Moving most"), this);
@@ -48,8 +48,8 @@ void NetworkPage::showModel(const AppModel& model)
     m_rates->setText(
         Vexel::tr("Down %1  ·  Up %2").arg(qs(Fmt::rate(net.inRate, unit)), qs(Fmt::rate(net.outRate, unit))));
     const Strain strain = model.strain(MenuItemKind::network);
-    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain));
-    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain));
+    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain, unit));
+    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain, unit));
     m_top->show(
         model, AppSort::network, 8, [unit](const AppGroup& app) { return Fmt::rate(app.netIn + app.netOut, unit); });
     m_top->setNote(PageTexts::networkPerAppNote(model.platform));

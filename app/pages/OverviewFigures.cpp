@@ -1,6 +1,9 @@
 #include "pages/OverviewFigures.h"
 
 #include "format/Fmt.h"
+#include "format/RoundSteps.h"
+#include "pages/TimeTicks.h"
+#include "pages/Traces.h"
 #include "texts/Vexel.h"
 
 #include <algorithm>
@@ -29,17 +32,46 @@ QString todayLine(const HistoryStore::Totals& today)
             text(Fmt::bytes(today.netOut)));
 }
 
-std::vector<double> weekShares(const std::vector<DayTotal>& week)
+BarBank weekBank(const std::vector<DayTotal>& week, const TimeZone& zone)
 {
+    BarBank bank;
+    bank.labelled = true;
     std::vector<double> moved;
     for (const auto& day : week) {
         const auto& t = day.totals;
         moved.push_back(t.diskR + t.diskW + t.netIn + t.netOut);
+        // Midday names the day even where a day has 23 or 25 hours.
+        bank.names.push_back(weekdayText(day.day + 43200, zone));
+        bank.values.push_back(text(Fmt::bytes(moved.back())));
     }
     const double busiest = moved.empty() ? 0 : *std::max_element(moved.begin(), moved.end());
-    for (auto& value : moved)
-        value = busiest > 0 ? value / busiest : 0;
-    return moved;
+    for (const double value : moved)
+        bank.fractions.push_back(busiest > 0 ? value / busiest : 0);
+    return bank;
+}
+
+Chart todayChart(const AppModel& model)
+{
+    Chart chart;
+    if (!model.frame)
+        return chart;
+    chart.to = model.frame->time;
+    chart.from = start(HistoryRange::today, chart.to, model.zone);
+    Chart::Series cpu{{}, {}};
+    double peak = 0;
+    double step = 0;
+    for (const auto& point : model.todaySeries) {
+        cpu.points.emplace_back(point.t + point.dur / 2, point.cpu * 100);
+        peak = std::max(peak, point.cpu * 100);
+        step = std::max(step, std::min(point.dur, 3600.0));
+    }
+    chart.series.push_back(std::move(cpu));
+    chart.top = std::min(RoundSteps::roundUp(std::max(peak, 1.0)), 100.0);
+    chart.gapAfter = std::max(step, 60.0) * 3;
+    chart.valueText = shareText;
+    chart.times = timeTicks(chart.from, chart.to, HistoryRange::today, model.zone);
+    chart.minorTimes = minorTicks(chart.from, chart.to, HistoryRange::today, model.zone);
+    return chart;
 }
 
 double rateFraction(double bytesPerSecond)

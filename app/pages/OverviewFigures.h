@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/BarBank.h"
+#include "look/Chart.h"
 #include "look/Dial.h"
 #include "model/AppModel.h"
 
@@ -21,8 +23,13 @@ namespace vexel {
 // down, 120 MB up".
 [[nodiscard]] QString todayLine(const HistoryStore::Totals& today);
 
-// Each day's data moved (disk and network together), as a share of the
-// busiest day of the week: the week strip's bars, oldest first.
-[[nodiscard]] std::vector<double> weekShares(const std::vector<DayTotal>& week);
+// The week strip: each day's data moved (disk and network together) as a
+// bar against the busiest day, oldest first, named by its weekday and
+// saying its amount ("Tue: 1.2 GB").
+[[nodiscard]] BarBank weekBank(const std::vector<DayTotal>& week, const TimeZone& zone);
+
+// Today's CPU from local midnight to the newest reading, against the round
+// step over its peak, with the hours marked.
+[[nodiscard]] Chart todayChart(const AppModel& model);
 
 } // namespace vexel

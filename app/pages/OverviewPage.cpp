@@ -64,11 +64,11 @@ OverviewPage::OverviewPage(QWidget* parent)
     m_today->setFont(Look::font(11));
     m_today->setWordWrap(true);
     today->addWidget(m_today);
-    m_todayTrace = new PaintedView(Vexel::tr("CPU since midnight"), QSize(300, 56), m_content);
+    m_todayTrace = new PaintedView(Vexel::tr("CPU since midnight"), QSize(300, 84), m_content);
     today->addWidget(m_todayTrace);
     today->addWidget(Look::explanation(Vexel::tr("CPU since midnight"), m_content));
     m_week = new PaintedView(
-        Vexel::tr("Data moved each day this week, as a share of the busiest day"), QSize(300, 40), m_content);
+        Vexel::tr("Data moved each day this week, as a share of the busiest day"), QSize(300, 56), m_content);
     today->addWidget(m_week);
     today->addWidget(Look::explanation(Vexel::tr("Data moved each day this week, today at the right"), m_content));
     today->addStretch(1);
@@ -109,15 +109,8 @@ void OverviewPage::showToday(const AppModel& model)
     m_today->setText(model.today
             ? todayLine(*model.today).replace(QRegularExpression(QStringLiteral("\\s*·\\s*")), QStringLiteral("\n"))
             : QString());
-    Sparkline trace;
-    for (const auto& point : model.todaySeries)
-        trace.values.push_back(point.cpu);
-    trace.strain = model.strain(MenuItemKind::cpu);
-    trace.valueText = [](double share) { return shareText(share * 100); };
-    m_todayTrace->draw(trace);
-    BarBank week;
-    week.fractions = weekShares(model.week);
-    m_week->draw(week);
+    m_todayTrace->draw(todayChart(model));
+    m_week->draw(weekBank(model.week, model.zone));
 }
 
 QString OverviewPage::todayText() const

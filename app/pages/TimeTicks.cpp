@@ -3,6 +3,7 @@
 #include "format/CFormat.h"
 #include "texts/Vexel.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
@@ -106,13 +107,44 @@ std::vector<std::pair<double, QString>> timeTicks(double from, double to, Histor
     return {};
 }
 
+std::vector<double> minorTicks(double from, double to, HistoryRange range, const TimeZone& zone)
+{
+    if (!(to > from) || !std::isfinite(from) || !std::isfinite(to) || to - from > 400 * day)
+        return {};
+    std::vector<std::pair<double, QString>> ticks;
+    const auto everyDay = [](const CivilTime&, int) { return true; };
+    const auto unnamed = [](const CivilTime&, int) { return QString(); };
+    switch (range) {
+    case HistoryRange::today: ticks = hourTicks(from, to, 1, zone); break;
+    case HistoryRange::week: ticks = hourTicks(from, to, 12, zone); break;
+    case HistoryRange::month: ticks = dayTicks(from, to, zone, everyDay, unnamed); break;
+    case HistoryRange::year:
+        ticks = dayTicks(
+            from, to, zone, [](const CivilTime& civil, int) { return civil.day == 1; }, unnamed);
+        break;
+    }
+    // The named marks stand where they are; the rest fall between them.
+    const auto named = timeTicks(from, to, range, zone);
+    std::vector<double> between;
+    for (const auto& [t, label] : ticks)
+        if (std::none_of(named.begin(), named.end(), [t = t](const auto& mark) { return mark.first == t; }))
+            between.push_back(t);
+    return between;
+}
+
+QString weekdayText(double t, const TimeZone& zone)
+{
+    int weekday = 0;
+    (void)zone.civil(t, &weekday);
+    return Vexel::words(weekdays.at(static_cast<size_t>(weekday) % weekdays.size()));
+}
+
 QString momentText(double t, const TimeZone& zone)
 {
     int weekday = 0;
     const CivilTime civil = zone.civil(t, &weekday);
     return Vexel::tr("%1 %2", "a weekday and a time")
-        .arg(Vexel::tr(weekdays.at(static_cast<size_t>(weekday) % weekdays.size())),
-            QString::fromStdString(cformat("%02d:%02d", civil.hour, civil.minute)));
+        .arg(weekdayText(t, zone), QString::fromStdString(cformat("%02d:%02d", civil.hour, civil.minute)));
 }
 
 } // namespace vexel

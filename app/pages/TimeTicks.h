@@ -18,6 +18,13 @@ namespace vexel {
 [[nodiscard]] std::vector<std::pair<double, QString>> timeTicks(
     double from, double to, HistoryRange range, const TimeZone& zone);
 
+// The ticks between those marks, unnamed: each hour of a day, each noon
+// of a week, each day of a month and the first of each month of a year.
+[[nodiscard]] std::vector<double> minorTicks(double from, double to, HistoryRange range, const TimeZone& zone);
+
+// The weekday of a moment in local time: "Tue".
+[[nodiscard]] QString weekdayText(double t, const TimeZone& zone);
+
 // A moment in local time by its weekday and hour: "Sun 18:40".
 [[nodiscard]] QString momentText(double t, const TimeZone& zone);
 

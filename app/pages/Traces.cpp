@@ -1,6 +1,7 @@
 #include "pages/Traces.h"
 
-#include "format/Fmt.h"
+#include "format/RoundSteps.h"
+#include "texts/Vexel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +11,15 @@ namespace vexel {
 namespace {
 
 constexpr double quietRate = 1000; // bytes per second
+
+Sparkline scaledTrace(const RecentRing& ring, Strain strain)
+{
+    Sparkline trace;
+    trace.strain = strain;
+    trace.scaled = true;
+    trace.marks = minuteMarks(ring);
+    return trace;
+}
 
 } // namespace
 
@@ -23,12 +33,37 @@ QString rateText(double bytesPerSecond)
     return QString::fromStdString(Fmt::rate(bytesPerSecond, Fmt::RateUnit::bytes));
 }
 
+double rateTop(double peak, Fmt::RateUnit unit)
+{
+    const double perByte = unit == Fmt::RateUnit::bits ? 8 : 1;
+    return RoundSteps::roundUp(std::max(peak, quietRate) * perByte) / perByte;
+}
+
+std::vector<std::pair<double, QString>> minuteMarks(const RecentRing& ring)
+{
+    const auto& samples = ring.samples();
+    if (samples.size() < 2)
+        return {};
+    const double newest = samples.back().t;
+    const auto last = static_cast<double>(samples.size() - 1);
+    std::vector<std::pair<double, QString>> marks{{1.0, Vexel::tr("now")}};
+    size_t at = samples.size() - 1;
+    for (int minutes = 1; newest - 60.0 * minutes >= samples.front().t; ++minutes) {
+        const double moment = newest - 60.0 * minutes;
+        while (at > 0 && samples[at - 1].t >= moment)
+            --at;
+        marks.emplace_back(static_cast<double>(at) / last, QString());
+    }
+    if (marks.size() > 1)
+        marks.back().second = Vexel::tr("%1 min ago").arg(marks.size() - 1);
+    return marks;
+}
+
 Sparkline shareTrace(const RecentRing& ring, double RingSample::*field, Strain strain)
 {
-    Sparkline trace;
+    Sparkline trace = scaledTrace(ring, strain);
     trace.top = 100;
     trace.valueText = shareText;
-    trace.strain = strain;
     for (const auto& sample : ring.samples())
         trace.values.push_back(sample.*field);
     return trace;
@@ -36,21 +71,19 @@ Sparkline shareTrace(const RecentRing& ring, double RingSample::*field, Strain s
 
 Sparkline shareTrace(const RecentRing& ring, std::optional<double> RingSample::*field, Strain strain)
 {
-    Sparkline trace;
+    Sparkline trace = scaledTrace(ring, strain);
     trace.top = 100;
     trace.valueText = shareText;
-    trace.strain = strain;
     for (const auto& sample : ring.samples())
         trace.values.push_back((sample.*field).value_or(NAN));
     return trace;
 }
 
-Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain strain)
+Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain strain, Fmt::RateUnit unit)
 {
-    Sparkline trace;
-    trace.strain = strain;
-    trace.top = std::max(ring.peak(field).value_or(0), quietRate);
-    trace.valueText = rateText;
+    Sparkline trace = scaledTrace(ring, strain);
+    trace.top = rateTop(ring.peak(field).value_or(0), unit);
+    trace.valueText = [unit](double value) { return QString::fromStdString(Fmt::rate(value, unit)); };
     for (const auto& sample : ring.samples())
         trace.values.push_back(sample.*field);
     return trace;

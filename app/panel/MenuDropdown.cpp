@@ -130,7 +130,7 @@ MenuDropdown::MenuDropdown(const AppModel& model, MenuItemKind kind, Actions act
     m_readouts = new FigureRows(this);
     top->addWidget(m_readouts, 1);
     layout->addLayout(top);
-    m_trace = new PaintedView(Vexel::tr("%1, last few minutes").arg(Vexel::words(title(kind))), QSize(308, 44), this);
+    m_trace = new PaintedView(Vexel::tr("%1, last few minutes").arg(Vexel::words(title(kind))), QSize(308, 72), this);
     layout->addWidget(m_trace);
     m_traceCaption = Look::explanation(Vexel::tr("Last few minutes"), this);
     layout->addWidget(m_traceCaption);
@@ -160,9 +160,11 @@ void MenuDropdown::showModel(const AppModel& model)
     m_dial->draw(dialOf(model, m_kind));
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
-    Sparkline trace{reading.trace, reading.traceTop, reading.strain, {}};
-    const bool rate = m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk;
-    trace.valueText = rate ? rateText : shareText;
+    Sparkline trace{reading.trace, reading.traceTop, reading.strain, shareText, true, minuteMarks(model.ring)};
+    if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk) {
+        const auto unit = m_kind == MenuItemKind::network ? model.networkUnit() : Fmt::RateUnit::bytes;
+        trace.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
+    }
     m_trace->draw(trace);
     m_trace->setVisible(canGraph(m_kind));
     m_traceCaption->setVisible(canGraph(m_kind));

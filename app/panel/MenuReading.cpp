@@ -3,6 +3,7 @@
 #include "format/CFormat.h"
 #include "format/Fmt.h"
 #include "model/AppModel.h"
+#include "pages/Traces.h"
 #include "texts/Vexel.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ namespace vexel {
 namespace {
 
 constexpr std::array<const char*, 4> suffixes{"", "K", "M", "G"};
-constexpr double quietRate = 1000; // a rate graph's smallest top, bytes per second
 
 std::vector<double> traceOf(const RecentRing& ring, const std::function<double(const RingSample&)>& value)
 {
@@ -83,13 +83,14 @@ MenuReading menuReading(const AppModel& model, const MenuItemConfig& config)
         break;
     case MenuItemKind::thermal: reading.text = Vexel::words(title(system.thermal)).toStdString(); break;
     }
-    // Rates have no natural top: their graph reaches its own peak.
+    // Rates have no natural top: their graph reaches the round step over its own peak.
     if (config.kind == MenuItemKind::network || config.kind == MenuItemKind::disk) {
-        double top = quietRate;
+        double peak = 0;
         for (const double value : reading.trace)
             if (std::isfinite(value))
-                top = std::max(top, value);
-        reading.traceTop = top;
+                peak = std::max(peak, value);
+        const bool inBits = config.kind == MenuItemKind::network && bits;
+        reading.traceTop = rateTop(peak, inBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes);
     }
     return reading;
 }

@@ -1,8 +1,10 @@
 #include "snapshot/DemoHistoryFill.h"
 
+#include "history/FramePoints.h"
 #include "history/HistoryStore.h"
 #include "synth/DemoHistory.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -46,12 +48,34 @@ std::vector<AppPoint> appPoints(const SysPoint& sys, const std::vector<AppGroup>
     return points;
 }
 
+// The curve bent over its last hour to meet the live world's reading, so
+// that the history and the live pages agree where they join.
+SysPoint meeting(SysPoint point, const SysPoint& end, const SysPoint& live, double now)
+{
+    const double weight = std::exp(-(now - point.t) / 1200);
+    const auto bend
+        = [weight](double value, double from, double to) { return std::clamp(value + (to - from) * weight, 0.0, 1.0); };
+    point.cpu = bend(point.cpu, end.cpu, live.cpu);
+    point.cpuMax = std::max(point.cpu, bend(point.cpuMax, end.cpuMax, live.cpuMax));
+    point.mem = bend(point.mem, end.mem, live.mem);
+    point.memMax = std::max(point.mem, bend(point.memMax, end.memMax, live.memMax));
+    for (auto field : {&SysPoint::diskR, &SysPoint::diskW, &SysPoint::netIn, &SysPoint::netOut}) {
+        const double rate = point.*field / point.dur;
+        const double change = live.*field / std::max(live.dur, 1.0) - end.*field / end.dur;
+        point.*field = std::max(0.0, rate + change * weight) * point.dur;
+    }
+    return point;
+}
+
 } // namespace
 
-void fillDemoHistory(const VexelPaths& paths, double now, const std::vector<AppGroup>& apps, int cores)
+void fillDemoHistory(
+    const VexelPaths& paths, const Frame& frame, const TimeZone& zone, const std::vector<AppGroup>& apps, int cores)
 {
     HistoryStore store(paths.history(), HistoryAccess::readWrite);
-    const TimeZone zone = TimeZone::current();
+    const double now = frame.time;
+    const SysPoint live = historyPoints(frame).sys;
+    const SysPoint end = DemoHistory::sample(now, zone, now);
     const double minuteStart = std::floor((now - minuteDays * day) / 60) * 60;
     const double tenMinuteStart = std::floor((now - tenMinuteDays * day) / 600) * 600;
     // Written as samples and compacted as a recorder's store is, so that its
@@ -63,7 +87,7 @@ void fillDemoHistory(const VexelPaths& paths, double now, const std::vector<AppG
         }
         // The recorded ticks already hold the last minutes.
         for (double t = minuteStart; t + 120 < now; t += 60) {
-            const SysPoint point = DemoHistory::sample(t, zone, now);
+            const SysPoint point = meeting(DemoHistory::sample(t, zone, now), end, live, now);
             store.append(point, appPoints(point, apps, cores));
         }
     });

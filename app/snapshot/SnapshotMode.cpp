@@ -320,8 +320,14 @@ int runSnapshotMode(const SnapshotOptions& options)
         model->refresh(tick == 0);
         settle(*model);
     }
-    // Weeks of history, so that Today, the week strip and History have something to show.
-    fillDemoHistory(paths, world.now(), model->apps(AppSort::cpu, 6), model->cores);
+    // Weeks of history, so that Today, the week strip and History have
+    // something to show; written before the recorder first thins its own.
+    fillDemoHistory(paths, *model->frame, model->zone, model->apps(AppSort::cpu, 6), model->cores);
+    // A few minutes of readings, so that the live traces have their minutes to mark.
+    for (size_t tick = 3; tick < RecentRing::capacity; ++tick) {
+        model->refresh(false);
+        settle(*model);
+    }
     model->refresh(true);
     settle(*model);
     model->loadHistorySync();

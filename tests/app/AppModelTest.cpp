@@ -310,9 +310,18 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     EXPECT_EQ(dials[4].fraction, 0);
     EXPECT_EQ(dials[5].value, QStringLiteral("Mains"));
 
-    // The week's days as shares of the busiest.
-    EXPECT_EQ(weekShares({{0, {1, 1, 0, 0}}, {1, {0, 0, 4, 0}}, {2, {}}}), (std::vector<double>{0.5, 1, 0}));
-    EXPECT_EQ(weekShares({{0, {}}, {1, {}}}), (std::vector<double>{0, 0})); // a quiet week, no division by zero
+    // The week's days as shares of the busiest, each named by its local weekday.
+    const TimeZone utc = TimeZone::fixed(0);
+    const double monday = 1'794'787'200; // Mon 16 Nov 2026, 00:00 UTC
+    const BarBank week
+        = weekBank({{monday, {1e9, 1e9, 0, 0}}, {monday + 86400, {0, 0, 4e9, 0}}, {monday + 2 * 86400, {}}}, utc);
+    EXPECT_EQ(week.fractions, (std::vector<double>{0.5, 1, 0}));
+    EXPECT_EQ(week.describe(), QStringLiteral("Mon: 2.0 GB, Tue: 4.0 GB, Wed: 0 B"));
+    const QRectF strip(0, 0, 300, 56);
+    EXPECT_EQ(week.describeAt(week.barRect(1, strip).center(), strip), QStringLiteral("Tue: 4.0 GB")); // on hover
+    EXPECT_TRUE(week.describeAt({299, 10}, strip).isEmpty()); // past the bars
+    EXPECT_EQ(
+        weekBank({{0, {}}, {1, {}}}, utc).fractions, (std::vector<double>{0, 0})); // a quiet week, no division by zero
 
     // Rates sit on a scale from 1 KB/s to 1 GB/s.
     EXPECT_EQ(rateFraction(500), 0);

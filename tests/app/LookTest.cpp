@@ -8,6 +8,7 @@
 #include "look/Chart.h"
 #include "look/Dial.h"
 #include "look/LevelScale.h"
+#include "look/PaintedView.h"
 #include "look/Sparkline.h"
 #include "look/StrainColours.h"
 
@@ -78,7 +79,10 @@ TEST(Sparkline, ScaledToItsTopWithGapsWhereReadingsAreMissing)
 {
     const auto light = Appearance::light;
     const QColor page = Look::palette(light).color(QPalette::Window);
-    const Sparkline trace{{0.5, 0.5, 0.5, std::nan(""), 2.0, 2.0, 2.0}, 2.0, Strain::elevated};
+    Sparkline trace;
+    trace.values = {0.5, 0.5, 0.5, std::nan(""), 2.0, 2.0, 2.0};
+    trace.top = 2.0;
+    trace.strain = Strain::elevated;
     QImage image(120, 40, QImage::Format_ARGB32);
     image.fill(page);
     QPainter painter(&image);
@@ -93,14 +97,16 @@ TEST(Sparkline, ScaledToItsTopWithGapsWhereReadingsAreMissing)
 
     EXPECT_EQ(trace.heightOf(-3, 40), 0); // negative on the floor
     EXPECT_EQ(trace.heightOf(9, 40), 40); // above the top clipped to it
-    EXPECT_EQ((Sparkline{{1, 1}, 0, Strain::calm}).heightOf(1, 40), 0); // no scale, no height
+    trace.top = 0;
+    EXPECT_EQ(trace.heightOf(1, 40), 0); // no scale, no height
 }
 
 TEST(BarBank, EachBarToItsValueInItsOwnStrain)
 {
     const auto dark = Appearance::dark;
-    const BarBank bank{
-        {0.25, 0.95, std::nan(""), 3.0}, [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; }, {}};
+    BarBank bank;
+    bank.fractions = {0.25, 0.95, std::nan(""), 3.0};
+    bank.strainOf = [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; };
     QImage image(200, 100, QImage::Format_ARGB32);
     image.fill(Look::palette(dark).color(QPalette::Window));
     QPainter painter(&image);
@@ -118,6 +124,13 @@ TEST(BarBank, EachBarToItsValueInItsOwnStrain)
     EXPECT_EQ(at(3, 97), Look::strainColour(dark, Strain::strained)); // clamped to full
     EXPECT_LE(bank.barRect(3, area).right(), 200.5); // within the bank
     EXPECT_LE(bank.barRect(0, area).width(), 28.0); // four cores are four bars, not four slabs
+
+    // Shown in a view, the bar under the pointer says its value.
+    PaintedView view(QStringLiteral("Cores"), QSize(200, 100), nullptr);
+    view.resize(200, 100);
+    view.draw(bank);
+    EXPECT_EQ(view.valueAt(bank.barRect(1, area).center()), QStringLiteral("2: 95%"));
+    EXPECT_EQ(view.value(), QStringLiteral("1: 25 percent, 2: 95 percent, 3: 0 percent, 4: 100 percent"));
 }
 
 // A chart draws each series in its colour where its points are, and breaks
@@ -159,6 +172,34 @@ TEST(Chart, LinesWhereThePointsAreAndBreaksWhereTheyStop)
     EXPECT_EQ(at(55, 5), page); // the gap: no line and no fill
     EXPECT_NE(at(20, 2), page); // under the line: its soft fill
     EXPECT_EQ(at(55, 2), page);
+}
+
+// More readings than pixels: each column holds the lowest, highest and
+// average of its readings, and a pause in the readings starts a new run.
+TEST(Chart, DenseReadingsBecomeABandAroundTheirAverage)
+{
+    Chart chart;
+    chart.from = 0;
+    chart.to = 1000;
+    chart.gapAfter = 30;
+    std::vector<QPointF> points;
+    for (int t = 0; t < 400; t += 10)
+        points.emplace_back(t, t % 20 == 0 ? 1 : 3); // alternating 1 and 3
+    for (int t = 600; t < 1000; t += 10)
+        points.emplace_back(t, 2);
+    points.emplace_back(650, std::nan("")); // no reading: left out
+    // 100 pixels, columns of 5: each holds 50 seconds, five readings.
+    const auto runs = chart.columnsOf(points, 100, 5);
+    ASSERT_EQ(runs.size(), 2U);
+    ASSERT_EQ(runs[0].size(), 8U);
+    EXPECT_EQ(runs[0][0].low, 1);
+    EXPECT_EQ(runs[0][0].high, 3);
+    EXPECT_DOUBLE_EQ(runs[0][0].mean, 1.8); // 1, 3, 1, 3, 1
+    EXPECT_DOUBLE_EQ(runs[0][0].t, 20);
+    EXPECT_DOUBLE_EQ(runs[1].back().t, 970); // the last column holds what it has
+    EXPECT_EQ(runs[1].back().mean, 2);
+    // Sparse readings keep a column each.
+    EXPECT_EQ(chart.columnsOf(points, 1000, 5)[0].size(), 40U);
 }
 
 // The thermal scale fills its steps up to the current one in that step's

@@ -3,6 +3,7 @@
 
 #include "model/AppSearch.h"
 #include "pages/TimeTicks.h"
+#include "pages/Traces.h"
 #include "texts/PageTexts.h"
 
 #include "text/HomePath.h"
@@ -79,6 +80,35 @@ TEST(HomePath, PathsUnderHomeShowATilde)
     EXPECT_EQ(shownPath("/srv/site", ""), "/srv/site");
 }
 
+// The live traces mark each minute back from the newest reading where the
+// reading of that moment is drawn, even when readings were not evenly spaced.
+TEST(Traces, MinutesMarkedWhereTheirReadingsAreDrawn)
+{
+    RecentRing ring;
+    EXPECT_TRUE(minuteMarks(ring).empty());
+    // Two minutes of readings every 2 s, then a pause of a minute, then 30 s more.
+    RingSample sample;
+    sample.t = 1000;
+    for (int i = 0; i < 60; ++i, sample.t += 2)
+        ring.append(sample);
+    sample.t += 60;
+    for (int i = 0; i < 15; ++i, sample.t += 2)
+        ring.append(sample);
+    const auto marks = minuteMarks(ring);
+    ASSERT_EQ(marks.size(), 4U); // now, and 1, 2 and 3 minutes back
+    EXPECT_EQ(marks.front(), (std::pair<double, QString>{1.0, "now"}));
+    const double last = static_cast<double>(ring.samples().size() - 1);
+    // A minute back falls in the pause: it is marked at the first reading after it.
+    EXPECT_DOUBLE_EQ(marks[1].first, 60 / last);
+    EXPECT_TRUE(marks[1].second.isEmpty());
+    EXPECT_EQ(marks.back().second, QStringLiteral("3 min ago"));
+    EXPECT_LT(marks.back().first, marks[2].first);
+    // Rates reach the round step over their peak, in the unit they are shown in.
+    EXPECT_EQ(rateTop(107e3, Fmt::RateUnit::bytes), 200e3);
+    EXPECT_EQ(rateTop(107e3, Fmt::RateUnit::bits), 1e6 / 8); // 856 kb/s → 1 Mb/s
+    EXPECT_EQ(rateTop(3, Fmt::RateUnit::bytes), 1000); // a quiet link
+}
+
 TEST(TimeTicks, RoundLocalTimesForEachRange)
 {
     // Sunday 1 November 2026, 00:00 UTC.
@@ -106,7 +136,15 @@ TEST(TimeTicks, RoundLocalTimesForEachRange)
     ASSERT_EQ(year.size(), 7U);
     EXPECT_EQ(year[1].second, QStringLiteral("1 Jan"));
     EXPECT_EQ(year.back(), (std::pair<double, QString>{midnight, "1 Nov"}));
+    // Between the named marks, unnamed ticks: the odd hours of the day, the
+    // noons of the week, the other months' firsts of the year; never on a named mark.
+    EXPECT_EQ(minorTicks(midnight, midnight + 11 * 3600 + 360, HistoryRange::today, utc).size(), 6U);
+    const auto noons = minorTicks(midnight - 7 * 86400 + 60, midnight + 60, HistoryRange::week, utc);
+    ASSERT_EQ(noons.size(), 7U);
+    EXPECT_EQ(noons.back(), midnight - 43200);
+    EXPECT_EQ(minorTicks(midnight - 365 * 86400, midnight, HistoryRange::year, utc).size(), 6U);
     // Nonsense spans mark nothing.
+    EXPECT_TRUE(minorTicks(0, 1e300, HistoryRange::month, utc).empty());
     EXPECT_TRUE(timeTicks(midnight, midnight - 1, HistoryRange::today, utc).empty());
     EXPECT_TRUE(timeTicks(0, 1e300, HistoryRange::year, utc).empty());
 }

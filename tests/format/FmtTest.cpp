@@ -1,6 +1,9 @@
 #include "format/Fmt.h"
+#include "format/RoundSteps.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace vexel;
 
@@ -74,4 +77,30 @@ TEST(Fmt, WattsMinutesAndDurations)
     EXPECT_EQ(Fmt::duration(172799), "1 day");
     EXPECT_EQ(Fmt::duration(172800), "2 days");
     EXPECT_EQ(Fmt::duration(3 * 86400 + 5), "3 days");
+}
+
+// A scale's top is the next 1, 2 or 5 × 10ⁿ, never below the value and never
+// a whole step above it; its gridlines fall at least twice under it.
+TEST(RoundSteps, TopsAndGridlinesAtRoundValues)
+{
+    const auto isRound = [](double value) {
+        const double mantissa = value / std::pow(10.0, std::floor(std::log10(value) + 1e-9));
+        return std::abs(mantissa - 1) < 1e-9 || std::abs(mantissa - 2) < 1e-9 || std::abs(mantissa - 5) < 1e-9;
+    };
+    for (double value = 0.0013; value < 5e9; value *= 1.37) {
+        const double top = RoundSteps::roundUp(value);
+        EXPECT_TRUE(isRound(top)) << value;
+        EXPECT_GE(top, value);
+        EXPECT_LT(top, value * 2.5 + 1e-12) << value; // 1 → 2 → 5 → 10: at most 2.5 times
+        const double step = RoundSteps::gridStep(top);
+        EXPECT_TRUE(isRound(step)) << top;
+        EXPECT_GE(top / step, 2 - 1e-9) << top;
+        EXPECT_LE(top / step, 5 + 1e-9) << top;
+    }
+    EXPECT_EQ(RoundSteps::roundUp(107e3), 200e3); // 107 KB/s and 100 MB/s never share a scale
+    EXPECT_EQ(RoundSteps::roundUp(100e6), 100e6);
+    EXPECT_EQ(RoundSteps::gridStep(100), 50);
+    EXPECT_EQ(RoundSteps::gridStep(5), 2);
+    EXPECT_EQ(RoundSteps::roundUp(0), 1);
+    EXPECT_EQ(RoundSteps::roundUp(std::nan("")), 1);
 }
