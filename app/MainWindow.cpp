@@ -2,6 +2,7 @@
 
 #include "ConfirmSheet.h"
 #include "NoticeBanner.h"
+#include "RouteIcon.h"
 #include "SidebarDelegate.h"
 #include "look/FollowAppearance.h"
 #include "look/Labels.h"
@@ -144,7 +145,7 @@ QWidget* MainWindow::buildSidebar()
     m_sidebar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const auto route : allRoutes) {
-        auto* item = new QListWidgetItem(title(route), m_sidebar);
+        auto* item = new QListWidgetItem(routeIcon(route), title(route), m_sidebar);
         item->setToolTip(QString::fromStdString(shortcut(route)));
         item->setData(Qt::UserRole, QString::fromStdString(identifier(route)));
     }

@@ -14,13 +14,13 @@ struct RouteInfo {
 
 constexpr std::array<RouteInfo, 10> routes{{
     {"overview", QT_TRANSLATE_NOOP("vexel::Vexel", "Overview"), "view-grid"},
-    {"apps", QT_TRANSLATE_NOOP("vexel::Vexel", "Apps"), "applications-other"},
+    {"apps", QT_TRANSLATE_NOOP("vexel::Vexel", "Apps"), "view-app-grid"},
     {"cpu", QT_TRANSLATE_NOOP("vexel::Vexel", "CPU"), "cpu"},
     {"memory", QT_TRANSLATE_NOOP("vexel::Vexel", "Memory"), "memory"},
     {"disk", QT_TRANSLATE_NOOP("vexel::Vexel", "Disk"), "drive-harddisk"},
     {"network", QT_TRANSLATE_NOOP("vexel::Vexel", "Network"), "network-transmit-receive"},
     {"gpu", QT_TRANSLATE_NOOP("vexel::Vexel", "GPU"), "video-display"},
-    {"power", QT_TRANSLATE_NOOP("vexel::Vexel", "Power & Heat"), "battery"},
+    {"power", QT_TRANSLATE_NOOP("vexel::Vexel", "Power & Heat"), "battery-full"},
     {"history", QT_TRANSLATE_NOOP("vexel::Vexel", "History"), "document-open-recent"},
     {"developers", QT_TRANSLATE_NOOP("vexel::Vexel", "Developers"), "utilities-terminal"},
 }};

@@ -20,7 +20,8 @@ inline constexpr std::array<Route, 10> allRoutes{Route::overview, Route::apps, R
 [[nodiscard]] std::optional<Route> routeFromIdentifier(std::string_view identifier);
 // The sidebar title ("Overview", "Power & Heat"…).
 [[nodiscard]] QString title(Route route);
-// The freedesktop icon name shown beside the title.
+// The freedesktop icon name shown beside the title (its symbolic form
+// "…-symbolic" is looked for first).
 [[nodiscard]] std::string symbolName(Route route);
 // The keyboard shortcut that opens the page ("Ctrl+1" … "Ctrl+0").
 [[nodiscard]] std::string shortcut(Route route);

@@ -1,5 +1,6 @@
 #include "SidebarDelegate.h"
 
+#include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -11,6 +12,19 @@ constexpr int rowHeight = 34;
 constexpr double inset = 8;
 constexpr double radius = 7;
 constexpr int textIndent = 14;
+constexpr int iconSide = 16;
+constexpr int iconGap = 10;
+
+// A symbol in one colour: its shape, whatever colours its theme drew it in,
+// so that it reads on the sidebar and on the highlight in either appearance.
+QPixmap tinted(const QIcon& icon, const QColor& colour, qreal ratio)
+{
+    QPixmap shape = icon.pixmap(QSize(iconSide, iconSide), ratio);
+    QPainter painter(&shape);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(shape.rect(), colour);
+    return shape;
+}
 
 } // namespace
 
@@ -31,9 +45,16 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         path.addRoundedRect(pill, radius, radius);
         painter->fillPath(path, palette.color(QPalette::Highlight));
     }
+    const QColor ink = palette.color(selected ? QPalette::HighlightedText : QPalette::WindowText);
+    QRectF text = pill.adjusted(textIndent, 0, -textIndent, 0);
+    if (const auto icon = index.data(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
+        const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        const QPointF corner(text.left(), pill.center().y() - iconSide / 2.0);
+        painter->drawPixmap(QRectF(corner, QSizeF(iconSide, iconSide)), tinted(icon, ink, ratio), QRectF());
+        text.setLeft(text.left() + iconSide + iconGap);
+    }
     painter->setFont(Look::font(10.5, selected ? QFont::DemiBold : QFont::Normal));
-    painter->setPen(palette.color(selected ? QPalette::HighlightedText : QPalette::WindowText));
-    const QRectF text = pill.adjusted(textIndent, 0, -textIndent, 0);
+    painter->setPen(ink);
     painter->drawText(text, Qt::AlignVCenter | Qt::AlignLeft, index.data(Qt::DisplayRole).toString());
     painter->restore();
 }

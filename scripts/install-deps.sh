@@ -14,8 +14,8 @@ run_packages=(
   # lrelease compiles the app's English (its plural forms) into it; lupdate
   # checks that the translation source holds every sentence
   qt6-l10n-tools
-  # the desktop app under Wayland compositors
-  qt6-wayland
+  # the desktop app under Wayland compositors, and the icon theme's SVG symbols in its sidebar
+  qt6-wayland libqt6svg6
   # the app's font and the GPU name database
   fonts-inter pci.ids
   # the tools Vexel runs: ss (iproute2), with lsof as the fallback, for listening ports
@@ -37,6 +37,8 @@ test_packages=(
   # the install check validates the desktop entry and the AppStream metadata;
   # scripts/icons.sh renders the icon's sizes
   desktop-file-utils appstream librsvg2-bin
+  # a real icon theme, for the sidebar's symbols
+  adwaita-icon-theme
 )
 
 case "${1:-test}" in

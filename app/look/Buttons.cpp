@@ -8,9 +8,7 @@ namespace vexel::Look {
 
 QPushButton* button(const QString& text, QWidget* parent)
 {
-    auto* button = new QPushButton(text, parent);
-    button->setFont(font(12));
-    return button;
+    return new QPushButton(text, parent);
 }
 
 QPushButton* destructiveButton(const QString& text, QWidget* parent)

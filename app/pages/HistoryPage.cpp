@@ -3,6 +3,7 @@
 #include "format/CFormat.h"
 #include "format/Fmt.h"
 #include "history/Downsample.h"
+#include "look/Buttons.h"
 #include "look/Chart.h"
 #include "look/FigureRows.h"
 #include "look/Labels.h"
@@ -91,9 +92,8 @@ HistoryPage::HistoryPage(QWidget* parent)
     picker->setSpacing(4);
     m_ranges = new QButtonGroup(this);
     for (const auto range : allHistoryRanges) {
-        auto* button = new QPushButton(Vexel::words(title(range)), this);
+        auto* button = Look::button(Vexel::words(title(range)), this);
         button->setCheckable(true);
-        button->setFont(Look::font(12));
         m_ranges->addButton(button, static_cast<int>(range));
         picker->addWidget(button);
     }

@@ -15,6 +15,7 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -303,6 +304,9 @@ int runSnapshotMode(const SnapshotOptions& options)
     // The house style, font and palettes: pictures look the same on every machine.
     QApplication::setStyle(QStringLiteral("Fusion"));
     Look::installFont();
+    // Vexel's own symbols in the sidebar, whatever icon theme this machine has.
+    QIcon::setThemeSearchPaths({});
+    QIcon::setFallbackSearchPaths({});
     PseudoLocale pseudo;
     if (options.pseudoLocale)
         QCoreApplication::installTranslator(&pseudo);

@@ -1,8 +1,10 @@
 #include "MainWindow.h"
 #include "DemoModel.h"
+#include "RouteIcon.h"
 #include "snapshot/SnapshotMode.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <gtest/gtest.h>
 
 using namespace vexel;
@@ -17,6 +19,29 @@ TEST(Routes, IdentifiersRoundTripAndShortcutsAreDistinct)
     shortcuts.removeDuplicates();
     EXPECT_EQ(shortcuts.size(), 10);
     EXPECT_FALSE(routeFromIdentifier("settings"));
+}
+
+// Each route has a symbol on every desktop: the icon theme's symbolic one
+// where the theme draws it (Adwaita has a disk, not a CPU), else Vexel's own.
+TEST(Routes, SymbolsFromTheIconThemeWithVexelsOwnBehind)
+{
+    const QString theme = QIcon::themeName();
+    const QStringList paths = QIcon::themeSearchPaths();
+    QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
+    QIcon::setThemeName(QStringLiteral("Adwaita"));
+    EXPECT_EQ(routeIcon(Route::disk).name(), QStringLiteral("drive-harddisk-symbolic"));
+    EXPECT_EQ(routeIcon(Route::history).name(), QStringLiteral("document-open-recent-symbolic"));
+    const QIcon cpu = routeIcon(Route::cpu);
+    EXPECT_TRUE(cpu.name().isEmpty());
+    EXPECT_FALSE(cpu.pixmap(16).isNull());
+    // No theme at all: every route still has its symbol, sharp on 2× screens.
+    QIcon::setThemeSearchPaths({});
+    for (const auto route : allRoutes) {
+        const QIcon icon = routeIcon(route);
+        EXPECT_EQ(icon.pixmap(QSize(16, 16), 2.0).size(), QSize(32, 32)) << identifier(route);
+    }
+    QIcon::setThemeSearchPaths(paths);
+    QIcon::setThemeName(theme);
 }
 
 // The desktop turning dark while Vexel runs: a window built light then looks
