@@ -127,7 +127,7 @@ int runWindow(SingleInstance& instance, bool hidden)
     const auto paths = VexelPaths::standard();
     AppModel model(liveSetup(paths));
     // What of the settings could not be used goes to the journal too.
-    for (const auto& notice : model.notices)
+    for (const auto& notice : model.notices())
         std::cerr << notice << "\n";
     MainWindow window;
     window.bind(model);

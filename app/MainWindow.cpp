@@ -96,8 +96,8 @@ void MainWindow::bind(AppModel& model)
 {
     for (auto* page : m_routePages)
         page->attach(model);
-    showRoute(model.route);
-    page(model.route)->present(model);
+    showRoute(model.route());
+    page(model.route())->present(model);
     connect(this, &MainWindow::routeChanged, &model, [this, &model](Route route) {
         model.setRoute(route);
         if (route == Route::history)
@@ -108,13 +108,13 @@ void MainWindow::bind(AppModel& model)
         if (auto* shown = page(currentRoute()); what & shown->shows())
             shown->present(model);
         if (what & AppModel::confirmChanged)
-            m_sheet->show(model.confirm ? &*model.confirm : nullptr);
+            m_sheet->show(model.confirm() ? &*model.confirm() : nullptr);
         if (what & AppModel::toastChanged)
-            m_toast->show(model.toast);
+            m_toast->show(model.toast());
         if (what & (AppModel::storeErrorChanged | AppModel::noticesChanged))
-            m_banner->show(model.storeError, model.notices);
+            m_banner->show(model.storeError(), model.notices());
     });
-    m_banner->show(model.storeError, model.notices);
+    m_banner->show(model.storeError(), model.notices());
     connect(m_banner, &NoticeBanner::noticeClosed, &model,
         [&model](int index) { model.dismissNotice(static_cast<size_t>(index)); });
     connect(m_sheet, &ConfirmSheet::confirmed, &model, &AppModel::confirmPending);

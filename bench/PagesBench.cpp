@@ -43,7 +43,7 @@ struct Demo {
             },
             std::make_unique<FakeActions>(), [this] { return world.now(); }, 501, 0, false, Platform::macOS});
         tick(true);
-        fillDemoHistory(paths, *model->frame, model->zone, model->apps(AppSort::cpu, 6), model->cores);
+        fillDemoHistory(paths, *model->frame(), model->zone, model->apps(AppSort::cpu, 6), model->cores());
         tick(true);
         tick(false);
         model->loadHistorySync();
@@ -112,7 +112,7 @@ BENCHMARK(BM_OverviewTickRepaint)->Unit(benchmark::kMillisecond);
 void BM_PanelUpdateSevenItems(benchmark::State& state)
 {
     auto& model = *demo().model;
-    auto settings = model.settings;
+    auto settings = model.settings();
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);

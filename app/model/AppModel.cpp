@@ -74,11 +74,11 @@ AppModel::AppModel(Setup setup)
     m_sampler = std::make_unique<SamplerThread>(std::move(setup.buildSampler));
     // The settings are read on the sampler's thread, with the sampler, before the window shows.
     m_sampler->run([this](Sampler& sampler) {
-        settings = sampler.settingsFile().settings();
+        m_settings = sampler.settingsFile().settings();
         for (const auto& message : sampler.settingsFile().messages())
-            notices.push_back(Vexel::say(message).toStdString());
+            m_notices.push_back(Vexel::say(message).toStdString());
         std::error_code missing;
-        openAtLogin = std::filesystem::exists(autostartFile(), missing);
+        m_openAtLogin = std::filesystem::exists(autostartFile(), missing);
         if (sampler.openError())
             m_openError = *sampler.openError();
     });
@@ -97,9 +97,9 @@ AppModel::~AppModel()
 
 void AppModel::start()
 {
-    if (!settings.onboarded) {
-        firstLaunch = true;
-        settings.onboarded = true;
+    if (!m_settings.onboarded) {
+        m_firstLaunch = true;
+        m_settings.onboarded = true;
         saveSettings(SettingsFile::Saving::automatic);
     }
     refresh(true);
@@ -113,15 +113,15 @@ void AppModel::schedule()
 
 void AppModel::setWindowVisible(bool visible)
 {
-    if (!m_observesVisibility || visible == windowVisible)
+    if (!m_observesVisibility || visible == m_windowVisible)
         return;
-    windowVisible = visible;
+    m_windowVisible = visible;
     notify(visibilityChanged);
     if (visible) {
         prepareAway();
         refresh(true);
     } else {
-        settings.lastSeen = m_clock();
+        m_settings.lastSeen = m_clock();
         saveSettings(SettingsFile::Saving::automatic);
     }
     schedule();
@@ -129,7 +129,7 @@ void AppModel::setWindowVisible(bool visible)
 
 void AppModel::changeSettings(const VexelSettings& changed)
 {
-    settings = changed;
+    m_settings = changed;
     saveSettings(SettingsFile::Saving::userChange);
     notify(settingsChanged);
     schedule();
@@ -138,14 +138,14 @@ void AppModel::changeSettings(const VexelSettings& changed)
 void AppModel::shutdown()
 {
     m_timer.stop();
-    settings.lastSeen = m_clock();
+    m_settings.lastSeen = m_clock();
     // Written before the sampler's thread stops: its work runs in order.
     saveSettings(SettingsFile::Saving::automatic);
 }
 
 void AppModel::saveSettings(SettingsFile::Saving saving)
 {
-    onSampler<Paragraph>([saved = settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
+    onSampler<Paragraph>([saved = m_settings, saving](Sampler& sampler) { return sampler.saveSettings(saved, saving); },
         [this](const Paragraph& said) {
             if (!said.empty())
                 tell(Vexel::say(said), true);
@@ -154,25 +154,25 @@ void AppModel::saveSettings(SettingsFile::Saving saving)
 
 void AppModel::dismissNotice(size_t index)
 {
-    if (index >= notices.size())
+    if (index >= m_notices.size())
         return;
-    notices.erase(notices.begin() + static_cast<long>(index));
+    m_notices.erase(m_notices.begin() + static_cast<long>(index));
     notify(noticesChanged);
 }
 
 void AppModel::setRoute(Route next)
 {
-    if (next == route)
+    if (next == m_route)
         return;
-    route = next;
+    m_route = next;
     notify(routeChanged);
 }
 
 void AppModel::setHistoryRange(HistoryRange range)
 {
-    if (range == historyRange)
+    if (range == m_historyRange)
         return;
-    historyRange = range;
+    m_historyRange = range;
     loadHistory();
 }
 
@@ -187,54 +187,54 @@ void AppModel::refresh(bool full)
         return;
     }
     const double now = m_clock();
-    const auto plan = m_cadence.plan(now, full, {windowVisible, route}, settings);
+    const auto plan = m_cadence.plan(now, full, {m_windowVisible, m_route}, m_settings);
     m_busy = true;
     m_busyFull = full;
     onSampler<TickResult>([now, plan](Sampler& sampler) { return sampler.tick(now, plan); },
         [this](TickResult result) {
-            apply(std::move(result));
+            receive(std::move(result));
             m_busy = false;
             if (std::exchange(m_fullPending, false))
                 refresh(true);
         });
 }
 
-void AppModel::apply(TickResult result)
+void AppModel::receive(TickResult result)
 {
     unsigned what = 0;
     // A reading that failed outright leaves the last one in place.
     if (result.frame.time > 0) {
         what |= frameChanged;
-        ring.append(RingSample::of(result.frame));
-        cores = result.frame.system.coreCount();
-        frame = std::move(result.frame);
+        m_ring.append(RingSample::of(result.frame));
+        m_cores = result.frame.system.coreCount();
+        m_frame = std::move(result.frame);
     }
     if (result.servers) {
-        servers = std::move(*result.servers);
-        serversLoaded = true;
+        m_servers = std::move(*result.servers);
+        m_serversLoaded = true;
         what |= serversChanged;
     }
     if (result.listeners)
-        listeners = std::move(*result.listeners);
+        m_listeners = std::move(*result.listeners);
     if (result.docker) {
-        docker = std::move(result.docker);
+        m_docker = std::move(result.docker);
         what |= dockerChanged;
     }
     if (result.today || result.week || result.todaySeries || result.historyBytes)
         what |= totalsChanged;
     if (result.today)
-        today = result.today;
+        m_today = result.today;
     if (result.week)
-        week = std::move(*result.week);
+        m_week = std::move(*result.week);
     if (result.todaySeries)
-        todaySeries = std::move(*result.todaySeries);
+        m_todaySeries = std::move(*result.todaySeries);
     if (result.historyBytes)
-        historyBytes = result.historyBytes;
+        m_historyBytes = result.historyBytes;
     // Each minute's batch reaches the file with the totals: History, when in view, reads it again.
-    if (result.today && route == Route::history && !historyLoading)
+    if (result.today && m_route == Route::history && !m_historyLoading)
         loadHistory();
-    if (result.otherRecorder != otherRecorder) {
-        otherRecorder = result.otherRecorder;
+    if (result.otherRecorder != m_otherRecorder) {
+        m_otherRecorder = result.otherRecorder;
         what |= storeErrorChanged;
     }
     if (result.notice) {
@@ -258,67 +258,75 @@ void AppModel::setStoreError(const std::optional<Sentence>& failure)
                     .arg(said, historyAdvice(english, m_paths.dir))
                     .toStdString();
     }
-    if (error == storeError)
+    if (error == m_storeError)
         return;
     if (error)
         qCWarning(historyLog) << error->c_str();
-    storeError = std::move(error);
+    m_storeError = std::move(error);
     notify(storeErrorChanged);
 }
 
 void AppModel::loadHistory()
 {
-    historyLoading = true;
+    m_historyLoading = true;
     notify(historyChanged);
     const double now = m_clock();
-    onSampler<Sampler::HistoryResult>([range = historyRange, now, rules = settings.spikes](
+    onSampler<Sampler::HistoryResult>([range = m_historyRange, now, rules = m_settings.spikes](
                                           Sampler& sampler) { return sampler.history(range, now, rules); },
-        [this](Sampler::HistoryResult result) {
-            if (result.error)
-                setStoreError(result.error);
-            history = std::move(result);
-            historyLoading = false;
-            notify(historyChanged);
-        });
+        [this](Sampler::HistoryResult result) { receive(std::move(result)); });
+}
+
+void AppModel::receive(Sampler::HistoryResult result)
+{
+    if (result.error)
+        setStoreError(result.error);
+    m_history = std::move(result);
+    m_historyLoading = false;
+    notify(historyChanged);
 }
 
 void AppModel::loadHistorySync()
 {
     const double now = m_clock();
-    m_sampler->run([&](Sampler& sampler) { history = sampler.history(historyRange, now, settings.spikes); });
-    historyLoading = false;
+    m_sampler->run([&](Sampler& sampler) { m_history = sampler.history(m_historyRange, now, m_settings.spikes); });
+    m_historyLoading = false;
     notify(historyChanged);
 }
 
 void AppModel::prepareAway()
 {
     const double now = m_clock();
-    if (!settings.lastSeen || now - *settings.lastSeen <= awayAfter) {
-        awaySince.reset();
-        awaySpikes.clear();
-        notify(awayChanged);
-        return;
-    }
-    const double since = *settings.lastSeen;
-    onSampler<Sampler::HistoryResult>(
-        [now, rules = settings.spikes](Sampler& sampler) { return sampler.history(HistoryRange::week, now, rules); },
+    if (!m_settings.lastSeen || now - *m_settings.lastSeen <= awayAfter)
+        showAway(std::nullopt, {});
+    else
+        lookBackTo(*m_settings.lastSeen);
+}
+
+void AppModel::lookBackTo(double since)
+{
+    onSampler<Sampler::HistoryResult>([now = m_clock(), rules = m_settings.spikes](
+                                          Sampler& sampler) { return sampler.history(HistoryRange::week, now, rules); },
         [this, since](Sampler::HistoryResult range) {
             if (range.error)
                 setStoreError(range.error);
-            awaySince = since;
-            awaySpikes.clear();
+            std::vector<Spike> spikes;
             for (auto& spike : range.spikes)
                 if (spike.end >= since)
-                    awaySpikes.push_back(std::move(spike));
-            notify(awayChanged);
+                    spikes.push_back(std::move(spike));
+            showAway(since, std::move(spikes));
         });
+}
+
+void AppModel::showAway(std::optional<double> since, std::vector<Spike> spikes)
+{
+    m_awaySince = since;
+    m_awaySpikes = std::move(spikes);
+    notify(awayChanged);
 }
 
 void AppModel::dismissAway()
 {
-    awaySince.reset();
-    awaySpikes.clear();
-    notify(awayChanged);
+    showAway(std::nullopt, {});
 }
 
 void AppModel::eraseHistory()
@@ -345,18 +353,18 @@ void AppModel::ask(ConfirmRequest request)
     qCInfo(actionsLog) << "asks:" << request.title.english().c_str();
     // A question the user is reading is never swapped for another (the
     // force offered four seconds after a stop): the new one waits its turn.
-    if (confirm) {
+    if (m_confirm) {
         m_questions.push_back(std::move(request));
         return;
     }
-    confirm = std::move(request);
+    m_confirm = std::move(request);
     notify(confirmChanged);
 }
 
 void AppModel::nextQuestion()
 {
-    if (!confirm && !m_questions.empty()) {
-        confirm = std::move(m_questions.front());
+    if (!m_confirm && !m_questions.empty()) {
+        m_confirm = std::move(m_questions.front());
         m_questions.pop_front();
     }
     notify(confirmChanged);
@@ -364,8 +372,8 @@ void AppModel::nextQuestion()
 
 void AppModel::confirmPending()
 {
-    auto request = std::move(confirm);
-    confirm.reset();
+    auto request = std::move(m_confirm);
+    m_confirm.reset();
     if (request && request->confirm)
         request->confirm();
     nextQuestion();
@@ -373,14 +381,14 @@ void AppModel::confirmPending()
 
 void AppModel::cancelPending()
 {
-    confirm.reset();
+    m_confirm.reset();
     nextQuestion();
 }
 
 void AppModel::tell(const QString& text, bool lasting)
 {
-    toast = text.toStdString();
-    toastLasts = lasting;
+    m_toast = text.toStdString();
+    m_toastLasts = lasting;
     if (lasting)
         m_toastTimer.stop();
     else
@@ -396,16 +404,16 @@ void AppModel::tell(const Sentence& said, bool lasting)
 void AppModel::dismissToast()
 {
     m_toastTimer.stop();
-    toast.reset();
+    m_toast.reset();
     notify(toastChanged);
 }
 
 Strain AppModel::strain(MenuItemKind kind) const
 {
-    if (!frame)
+    if (!m_frame)
         return Strain::calm;
-    const auto& rules = settings.strain;
-    const auto& system = frame->system;
+    const auto& rules = m_settings.strain;
+    const auto& system = m_frame->system;
     switch (kind) {
     case MenuItemKind::cpu: return rules.cpu(system.cpu.user + system.cpu.system);
     case MenuItemKind::memory: return rules.memory(system.memory);
@@ -420,9 +428,9 @@ Strain AppModel::strain(MenuItemKind kind) const
 
 std::vector<AppGroup> AppModel::apps(AppSort by, size_t limit) const
 {
-    if (!frame)
+    if (!m_frame)
         return {};
-    std::vector<AppGroup> sorted = frame->apps;
+    std::vector<AppGroup> sorted = m_frame->apps;
     std::stable_sort(sorted.begin(), sorted.end(), [by](const AppGroup& a, const AppGroup& b) {
         return AppGrouper::sortValue(a, by) > AppGrouper::sortValue(b, by);
     });
@@ -433,40 +441,40 @@ std::vector<AppGroup> AppModel::apps(AppSort by, size_t limit) const
 
 void AppModel::setAppSearch(std::string text)
 {
-    if (text == appSearch)
+    if (text == m_appSearch)
         return;
-    appSearch = std::move(text);
+    m_appSearch = std::move(text);
     notify(selectionChanged);
 }
 
 void AppModel::selectApp(std::optional<std::string> id)
 {
-    if (id == selectedApp)
+    if (id == m_selectedApp)
         return;
-    selectedApp = std::move(id);
+    m_selectedApp = std::move(id);
     notify(selectionChanged);
 }
 
 const AppGroup* AppModel::selected() const
 {
-    if (!frame || !selectedApp)
+    if (!m_frame || !m_selectedApp)
         return nullptr;
-    const auto found = std::ranges::find(frame->apps, *selectedApp, &AppGroup::id);
-    return found == frame->apps.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(m_frame->apps, *m_selectedApp, &AppGroup::id);
+    return found == m_frame->apps.end() ? nullptr : &*found;
 }
 
 void AppModel::setAppSort(AppSort sort)
 {
-    if (sort == settings.appSort)
+    if (sort == m_settings.appSort)
         return;
-    auto changed = settings;
+    auto changed = m_settings;
     changed.appSort = sort;
     changeSettings(changed);
 }
 
 std::vector<AppGroup> AppModel::searchedApps() const
 {
-    return searchApps(apps(settings.appSort, std::numeric_limits<size_t>::max()), appSearch);
+    return searchApps(apps(m_settings.appSort, std::numeric_limits<size_t>::max()), m_appSearch);
 }
 
 void AppModel::quitSelected()
@@ -518,9 +526,9 @@ void AppModel::setOpenAtLogin(bool open)
             }
         },
         [this, open](const std::optional<Sentence>& failed) {
-            loginItemError = failed ? std::optional(Vexel::say(*failed).toStdString()) : std::nullopt;
-            if (!loginItemError)
-                openAtLogin = open;
+            m_loginItemError = failed ? std::optional(Vexel::say(*failed).toStdString()) : std::nullopt;
+            if (!m_loginItemError)
+                m_openAtLogin = open;
             notify(loginItemChanged);
         });
 }

@@ -70,44 +70,50 @@ public:
     explicit AppModel(Setup setup);
     ~AppModel() override;
 
-    // Published state.
+    // Where and for whom it runs, fixed for its life.
     const Platform platform;
     const std::string home; // paths under it are shown as ~/…
     const std::string programFolder; // where this program and the vexel command are
     const TimeZone zone; // whose days and hours the pages mark
-    VexelSettings settings;
-    std::optional<Frame> frame;
-    Route route = Route::overview;
-    std::optional<std::string> selectedApp;
-    std::string appSearch;
-    HistoryRange historyRange = HistoryRange::today;
-    std::optional<Sampler::HistoryResult> history;
-    bool historyLoading = false;
-    std::vector<Spike> awaySpikes;
-    std::optional<double> awaySince;
-    std::vector<ProjectGroup> servers;
-    std::vector<ListenSocket> listeners;
-    bool serversLoaded = false;
-    std::optional<DockerState> docker;
-    std::optional<HistoryStore::Totals> today;
-    std::vector<DayTotal> week;
-    std::vector<SysPoint> todaySeries;
-    std::optional<int64_t> historyBytes;
-    std::optional<ConfirmRequest> confirm;
-    std::optional<std::string> toast;
-    bool toastLasts = false; // the toast stays until closed
-    std::optional<std::string> storeError;
+    // Published state: what the pages show, read here and changed only through the methods below.
+    [[nodiscard]] const VexelSettings& settings() const { return m_settings; }
+    [[nodiscard]] const std::optional<Frame>& frame() const { return m_frame; }
+    [[nodiscard]] Route route() const { return m_route; }
+    [[nodiscard]] const std::optional<std::string>& selectedApp() const { return m_selectedApp; }
+    [[nodiscard]] const std::string& appSearch() const { return m_appSearch; }
+    [[nodiscard]] HistoryRange historyRange() const { return m_historyRange; }
+    [[nodiscard]] const std::optional<Sampler::HistoryResult>& history() const { return m_history; }
+    [[nodiscard]] bool historyLoading() const { return m_historyLoading; }
+    [[nodiscard]] const std::vector<Spike>& awaySpikes() const { return m_awaySpikes; }
+    [[nodiscard]] const std::optional<double>& awaySince() const { return m_awaySince; }
+    [[nodiscard]] const std::vector<ProjectGroup>& servers() const { return m_servers; }
+    [[nodiscard]] const std::vector<ListenSocket>& listeners() const { return m_listeners; }
+    [[nodiscard]] bool serversLoaded() const { return m_serversLoaded; }
+    [[nodiscard]] const std::optional<DockerState>& docker() const { return m_docker; }
+    [[nodiscard]] const std::optional<HistoryStore::Totals>& today() const { return m_today; }
+    [[nodiscard]] const std::vector<DayTotal>& week() const { return m_week; }
+    [[nodiscard]] const std::vector<SysPoint>& todaySeries() const { return m_todaySeries; }
+    [[nodiscard]] const std::optional<int64_t>& historyBytes() const { return m_historyBytes; }
+    [[nodiscard]] const std::optional<ConfirmRequest>& confirm() const { return m_confirm; }
+    [[nodiscard]] const std::optional<std::string>& toast() const { return m_toast; }
+    [[nodiscard]] bool toastLasts() const { return m_toastLasts; } // the toast stays until closed
+    [[nodiscard]] const std::optional<std::string>& storeError() const { return m_storeError; }
     // The process that records the history while this window reads it (the headless recorder).
-    std::optional<int64_t> otherRecorder;
+    [[nodiscard]] const std::optional<int64_t>& otherRecorder() const { return m_otherRecorder; }
     // What the app has to say until the user closes it: the values of the
     // settings file it could not use, or why it could not read the file.
-    std::vector<std::string> notices;
-    RecentRing ring;
-    bool windowVisible = false;
-    int cores = 1;
-    bool openAtLogin = false; // the autostart entry is there
-    std::optional<std::string> loginItemError; // shown under "Open Vexel at login"
-    bool firstLaunch = false; // no earlier run was marked onboarded: this one may introduce Vexel
+    [[nodiscard]] const std::vector<std::string>& notices() const { return m_notices; }
+    [[nodiscard]] const RecentRing& ring() const { return m_ring; }
+    [[nodiscard]] bool windowVisible() const { return m_windowVisible; }
+    [[nodiscard]] int cores() const { return m_cores; }
+    [[nodiscard]] const std::optional<std::string>& loginItemError() const
+    {
+        return m_loginItemError;
+    } // shown under "Open Vexel at login"
+    [[nodiscard]] bool firstLaunch() const
+    {
+        return m_firstLaunch;
+    } // no earlier run was marked onboarded: this one may introduce Vexel
 
     // Lifecycle.
     void start(); // marks the first launch, a full refresh, then the timer
@@ -125,9 +131,18 @@ public:
     // read, a save) has yet to come back.
     [[nodiscard]] bool working() const { return m_inFlight > 0 || m_fullPending; }
 
+    // What a tick brought and what a history read found, as the sampler's
+    // thread hands them over (and a test hands over its own).
+    void receive(TickResult result);
+    void receive(Sampler::HistoryResult result);
+
     void loadHistory();
     void loadHistorySync();
+    // The away card: from the last time the user was here, when that was
+    // long enough ago, or from `since`; spikes come from the week's history.
     void prepareAway();
+    void lookBackTo(double since);
+    void showAway(std::optional<double> since, std::vector<Spike> spikes);
     void dismissAway();
     void eraseHistory();
 
@@ -168,31 +183,30 @@ public:
     // the whole machine (nothing when of one core), and the network's unit.
     [[nodiscard]] std::optional<int> cpuScaleCores() const
     {
-        return settings.cpuScale == CPUScale::mac ? std::optional(cores) : std::nullopt;
+        return m_settings.cpuScale == CPUScale::mac ? std::optional(m_cores) : std::nullopt;
     }
     [[nodiscard]] Fmt::RateUnit networkUnit() const
     {
-        return settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
+        return m_settings.networkBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes;
     }
 
     [[nodiscard]] Strain strain(MenuItemKind kind) const;
-    [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return ring.peak(field); }
+    [[nodiscard]] std::optional<double> peak(double RingSample::*field) const { return m_ring.peak(field); }
     [[nodiscard]] std::vector<AppGroup> apps(AppSort by, size_t limit) const;
 
     // "Open Vexel at login": the autostart entry of the desktop session,
     // written or removed on the sampler's thread.
     void setOpenAtLogin(bool open);
-    [[nodiscard]] bool opensAtLogin() const { return openAtLogin; }
+    [[nodiscard]] bool opensAtLogin() const { return m_openAtLogin; }
 
     // Seconds between ticks now.
-    [[nodiscard]] double tickSeconds() const { return Cadence::tickSeconds(windowVisible, settings); }
+    [[nodiscard]] double tickSeconds() const { return Cadence::tickSeconds(m_windowVisible, m_settings); }
 
 signals:
     void changed(unsigned what);
 
 private:
     void schedule();
-    void apply(TickResult result);
     void setStoreError(const std::optional<Sentence>& error);
     void ask(ConfirmRequest request);
     void nextQuestion();
@@ -210,6 +224,36 @@ private:
     void saveSettings(SettingsFile::Saving saving);
     void notify(unsigned what) { emit changed(what); }
 
+    VexelSettings m_settings;
+    std::optional<Frame> m_frame;
+    Route m_route = Route::overview;
+    std::optional<std::string> m_selectedApp;
+    std::string m_appSearch;
+    HistoryRange m_historyRange = HistoryRange::today;
+    std::optional<Sampler::HistoryResult> m_history;
+    bool m_historyLoading = false;
+    std::vector<Spike> m_awaySpikes;
+    std::optional<double> m_awaySince;
+    std::vector<ProjectGroup> m_servers;
+    std::vector<ListenSocket> m_listeners;
+    bool m_serversLoaded = false;
+    std::optional<DockerState> m_docker;
+    std::optional<HistoryStore::Totals> m_today;
+    std::vector<DayTotal> m_week;
+    std::vector<SysPoint> m_todaySeries;
+    std::optional<int64_t> m_historyBytes;
+    std::optional<ConfirmRequest> m_confirm;
+    std::optional<std::string> m_toast;
+    bool m_toastLasts = false; // the toast stays until closed
+    std::optional<std::string> m_storeError;
+    std::optional<int64_t> m_otherRecorder;
+    std::vector<std::string> m_notices;
+    RecentRing m_ring;
+    bool m_windowVisible = false;
+    int m_cores = 1;
+    bool m_openAtLogin = false; // the autostart entry is there
+    std::optional<std::string> m_loginItemError; // shown under "Open Vexel at login"
+    bool m_firstLaunch = false; // no earlier run was marked onboarded: this one may introduce Vexel
     VexelPaths m_paths;
     std::function<double()> m_clock;
     bool m_observesVisibility;

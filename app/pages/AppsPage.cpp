@@ -146,11 +146,11 @@ unsigned AppsPage::shows() const
 
 void AppsPage::showModel(const AppModel& model)
 {
-    if (m_search->text().toStdString() != model.appSearch) {
+    if (m_search->text().toStdString() != model.appSearch()) {
         const QSignalBlocker quiet(m_search);
-        m_search->setText(QString::fromStdString(model.appSearch));
+        m_search->setText(QString::fromStdString(model.appSearch()));
     }
-    m_sort = model.settings.appSort;
+    m_sort = model.settings().appSort;
     fillList(model);
     showSelection(model);
     const AppGroup* selected = model.selected();
@@ -176,14 +176,14 @@ void AppsPage::fillList(const AppModel& model)
         m_sorted->sort(columnOf(m_sort), Qt::DescendingOrder);
     m_list->header()->setSortIndicator(m_sorted->sortColumn(), m_sorted->sortOrder());
     m_showing = false;
-    m_noMatch->setVisible(apps.empty() && !model.appSearch.empty());
+    m_noMatch->setVisible(apps.empty() && !model.appSearch().empty());
     fitColumns();
 }
 
 void AppsPage::showSelection(const AppModel& model)
 {
     const QModelIndex wanted
-        = model.selectedApp ? m_sorted->mapFromSource(m_rows->indexOf(qs(*model.selectedApp))) : QModelIndex();
+        = model.selectedApp() ? m_sorted->mapFromSource(m_rows->indexOf(qs(*model.selectedApp()))) : QModelIndex();
     if (m_list->currentIndex().row() == wanted.row() && m_list->currentIndex().isValid() == wanted.isValid())
         return;
     m_showing = true;

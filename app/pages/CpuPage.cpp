@@ -70,21 +70,21 @@ unsigned CpuPage::shows() const
 
 void CpuPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
-    const auto& cpu = model.frame->system.cpu;
-    const bool wholeMachine = model.settings.cpuScale == CPUScale::mac;
-    const auto cores = wholeMachine ? std::optional(model.cores) : std::nullopt;
-    const double busy = (cpu.user + cpu.system) * model.cores; // in cores
+    const auto& cpu = model.frame()->system.cpu;
+    const bool wholeMachine = model.settings().cpuScale == CPUScale::mac;
+    const auto cores = wholeMachine ? std::optional(model.cores()) : std::nullopt;
+    const double busy = (cpu.user + cpu.system) * model.cores(); // in cores
     m_total->setText(qs(Fmt::cpu(busy, cores)));
     m_split->setText(
         Vexel::tr("User %1  ·  System %2")
-            .arg(qs(Fmt::cpu(cpu.user * model.cores, cores)), qs(Fmt::cpu(cpu.system * model.cores, cores))));
-    m_trace->draw(shareTrace(model.ring, &RingSample::cpu, model.strain(MenuItemKind::cpu)));
+            .arg(qs(Fmt::cpu(cpu.user * model.cores(), cores)), qs(Fmt::cpu(cpu.system * model.cores(), cores))));
+    m_trace->draw(shareTrace(model.ring(), &RingSample::cpu, model.strain(MenuItemKind::cpu)));
     m_coresCaption->setText(coresCaption(cpu));
     BarBank bank;
     bank.fractions = cpu.cores;
-    bank.strainOf = [rules = model.settings.strain](double value) { return rules.cpu(value); };
+    bank.strainOf = [rules = model.settings().strain](double value) { return rules.cpu(value); };
     m_cores->draw(bank);
     m_load->setText(
         Vexel::tr("%1  ·  %2  ·  %3   (the last 1, 5 and 15 minutes)")
@@ -92,7 +92,7 @@ void CpuPage::showModel(const AppModel& model)
     m_loadNote->setText(
         Vexel::tr("Load is the number of threads waiting for or using a core. Below %1 (your core count), nothing "
                   "is waiting.")
-            .arg(model.cores));
+            .arg(model.cores()));
     m_scale->setText(PageTexts::cpuScaleSentence(model.platform, wholeMachine));
     m_top->show(model, AppSort::cpu, 8, [cores](const AppGroup& app) { return Fmt::cpu(app.cpu, cores); });
 }

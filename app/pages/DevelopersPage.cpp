@@ -111,7 +111,8 @@ void DevelopersPage::showModel(const AppModel& model)
 void DevelopersPage::showServers(const AppModel& model)
 {
     // Rebuilt only when a scan changed something: the rows hold buttons.
-    const auto shown = std::make_tuple(model.serversLoaded, model.servers, model.listeners, model.settings.cpuScale);
+    const auto shown
+        = std::make_tuple(model.serversLoaded(), model.servers(), model.listeners(), model.settings().cpuScale);
     if (m_shown == shown)
         return;
     m_shown = shown;
@@ -122,10 +123,10 @@ void DevelopersPage::showServers(const AppModel& model)
     }
     m_projectWidgets.clear();
     m_rows.clear();
-    if (!model.serversLoaded) {
+    if (!model.serversLoaded()) {
         m_serversHeading->setText(Vexel::tr("Looking for servers…"));
         m_serversNote->hide();
-    } else if (model.servers.empty()) {
+    } else if (model.servers().empty()) {
         m_serversHeading->setText(Vexel::tr("No dev servers running."));
         m_serversNote->setText(Vexel::tr("When node, python, rails, a database or your own build listens on a "
                                          "port, it shows up here under its project."));
@@ -136,7 +137,7 @@ void DevelopersPage::showServers(const AppModel& model)
     }
     const std::string& home = model.home;
     std::set<int32_t> serverPids;
-    for (const auto& group : model.serversLoaded ? model.servers : std::vector<ProjectGroup>{}) {
+    for (const auto& group : model.serversLoaded() ? model.servers() : std::vector<ProjectGroup>{}) {
         auto* project = new QWidget(this);
         auto* layout = new QVBoxLayout(project);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -157,20 +158,20 @@ void DevelopersPage::showServers(const AppModel& model)
         m_projectWidgets.push_back(project);
     }
     FigureRows::Rows ports;
-    for (const auto& socket : model.listeners)
+    for (const auto& socket : model.listeners())
         if (!serverPids.contains(socket.pid))
             ports.emplace_back(qs(":" + std::to_string(socket.port) + "  " + socket.command),
                 (reachableFromNetwork(socket) ? Vexel::tr("process %1, reachable from the network")
                                               : Vexel::tr("process %1"))
                     .arg(socket.pid));
     m_ports->setRows(ports);
-    m_noPorts->setVisible(model.serversLoaded && ports.empty());
+    m_noPorts->setVisible(model.serversLoaded() && ports.empty());
 }
 
 void DevelopersPage::showDocker(const AppModel& model)
 {
     FigureRows::Rows rows;
-    const auto& docker = model.docker;
+    const auto& docker = model.docker();
     m_dockerNote->hide();
     if (!docker) {
         m_dockerHeading->setText(Vexel::tr("Looking for containers…"));

@@ -56,12 +56,12 @@ unsigned DiskPage::shows() const
 
 void DiskPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
-    const auto& disk = model.frame->system.disk;
+    const auto& disk = model.frame()->system.disk;
     m_rates->setText(Vexel::tr("Read %1  ·  Write %2").arg(qs(rate(disk.readRate)), qs(rate(disk.writeRate))));
-    m_readTrace->draw(rateTrace(model.ring, &RingSample::diskR, Strain::calm));
-    m_writeTrace->draw(rateTrace(model.ring, &RingSample::diskW, Strain::calm));
+    m_readTrace->draw(rateTrace(model.ring(), &RingSample::diskR, Strain::calm));
+    m_writeTrace->draw(rateTrace(model.ring(), &RingSample::diskW, Strain::calm));
     FigureRows::Rows rows;
     for (const auto& volume : disk.volumes)
         rows.emplace_back(qs(volume.name + "  (" + volume.path + ")"),

@@ -43,9 +43,9 @@ unsigned GpuPage::shows() const
 
 void GpuPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
-    const auto& gpu = model.frame->system.gpu;
+    const auto& gpu = model.frame()->system.gpu;
     m_use->setVisible(gpu.has_value());
     m_name->setVisible(gpu.has_value());
     m_trace->setVisible(gpu.has_value());
@@ -54,7 +54,7 @@ void GpuPage::showModel(const AppModel& model)
     if (gpu) {
         m_use->setText(Vexel::tr("%1 busy").arg(qs(Fmt::percent(gpu->utilisation))));
         m_name->setText(QString::fromStdString(gpu->name));
-        m_trace->draw(shareTrace(model.ring, &RingSample::gpu, model.strain(MenuItemKind::gpu)));
+        m_trace->draw(shareTrace(model.ring(), &RingSample::gpu, model.strain(MenuItemKind::gpu)));
     } else {
         m_unavailable->setText(PageTexts::noGpuUtilisation(model.platform));
     }

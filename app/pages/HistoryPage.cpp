@@ -160,7 +160,7 @@ void HistoryPage::showModel(const AppModel& model)
 {
     // The range in use stands out in the accent, as the sidebar's page does.
     for (auto* button : m_ranges->buttons()) {
-        const bool current = m_ranges->id(button) == static_cast<int>(model.historyRange);
+        const bool current = m_ranges->id(button) == static_cast<int>(model.historyRange());
         button->setChecked(current);
         QPalette palette;
         if (current) {
@@ -169,11 +169,11 @@ void HistoryPage::showModel(const AppModel& model)
         }
         button->setPalette(palette);
     }
-    const auto& history = model.history;
+    const auto& history = model.history();
     // A history that couldn't be read is said so, never shown as an empty one.
     if (!history || (history->error && history->points.empty())) {
-        if (model.storeError)
-            showEmpty(Vexel::tr("History can't be read."), qs(*model.storeError));
+        if (model.storeError())
+            showEmpty(Vexel::tr("History can't be read."), qs(*model.storeError()));
         else
             showEmpty(Vexel::tr("Reading the history…"), {});
         return;
@@ -206,15 +206,15 @@ void HistoryPage::showEmpty(const QString& heading, const QString& note)
 
 void HistoryPage::showCharts(const AppModel& model)
 {
-    const auto& history = *model.history;
+    const auto& history = *model.history();
     const auto& points = history.points;
     const double gap = gapFor(points);
     Chart frame;
     frame.from = history.from;
     frame.to = history.to;
     frame.gapAfter = gap;
-    frame.times = timeTicks(history.from, history.to, model.historyRange, model.zone);
-    frame.minorTimes = minorTicks(history.from, history.to, model.historyRange, model.zone);
+    frame.times = timeTicks(history.from, history.to, model.historyRange(), model.zone);
+    frame.minorTimes = minorTicks(history.from, history.to, model.historyRange(), model.zone);
     const std::array<Chart, chartsShown> charts{
         shareChart(points, frame, {{Vexel::tr("Average"), &SysPoint::cpu}, {Vexel::tr("Peak"), &SysPoint::cpuMax}}),
         shareChart(points, frame, {{Vexel::tr("In use"), &SysPoint::mem}}),
@@ -247,7 +247,7 @@ void HistoryPage::showCharts(const AppModel& model)
 void HistoryPage::showSpikes(const AppModel& model)
 {
     FigureRows::Rows rows;
-    for (const auto& spike : model.history->spikes) {
+    for (const auto& spike : model.history()->spikes) {
         const QString summary = Vexel::say(spike.summary);
         // A summary that names the app already leaves only its share to say.
         QString culprit;

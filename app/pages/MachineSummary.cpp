@@ -30,11 +30,11 @@ MachineSummary::MachineSummary(QWidget* parent)
 void MachineSummary::showModel(const AppModel& model)
 {
     m_heading->setText(PageTexts::thisMachine(model.platform));
-    if (!model.frame) {
+    if (!model.frame()) {
         m_rows->setRows({});
         return;
     }
-    const Frame& frame = *model.frame;
+    const Frame& frame = *model.frame();
     const auto& system = frame.system;
     const auto unit = model.networkUnit();
     const FigureRows::Rows rows{

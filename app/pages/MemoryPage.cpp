@@ -48,9 +48,9 @@ unsigned MemoryPage::shows() const
 
 void MemoryPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
-    const auto& memory = model.frame->system.memory;
+    const auto& memory = model.frame()->system.memory;
     m_used->setText(Vexel::tr("%1 of %2 in use").arg(qs(Fmt::memory(memory.used())), qs(Fmt::memory(memory.total))));
     m_pressure->setText(Vexel::tr("Pressure: %1  ·  Swap used: %2")
                             .arg(Vexel::words(title(memory.pressure)), qs(Fmt::memory(memory.swapUsed))));
@@ -60,7 +60,7 @@ void MemoryPage::showModel(const AppModel& model)
     if (strain != Strain::calm)
         palette.setColor(QPalette::WindowText, Look::strainColour(this->palette(), strain));
     m_pressure->setPalette(palette);
-    m_trace->draw(shareTrace(model.ring, &RingSample::mem, strain));
+    m_trace->draw(shareTrace(model.ring(), &RingSample::mem, strain));
     m_contents->setRows(
         {{Vexel::tr("App memory"), qs(Fmt::memory(memory.app))}, {Vexel::tr("Wired"), qs(Fmt::memory(memory.wired))},
             {Vexel::tr("Compressed"), qs(Fmt::memory(memory.compressed))},

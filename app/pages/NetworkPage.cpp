@@ -41,15 +41,15 @@ unsigned NetworkPage::shows() const
 
 void NetworkPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
     const auto unit = model.networkUnit();
-    const auto& net = model.frame->system.net;
+    const auto& net = model.frame()->system.net;
     m_rates->setText(
         Vexel::tr("Down %1  ·  Up %2").arg(qs(Fmt::rate(net.inRate, unit)), qs(Fmt::rate(net.outRate, unit))));
     const Strain strain = model.strain(MenuItemKind::network);
-    m_inTrace->draw(rateTrace(model.ring, &RingSample::netIn, strain, unit));
-    m_outTrace->draw(rateTrace(model.ring, &RingSample::netOut, strain, unit));
+    m_inTrace->draw(rateTrace(model.ring(), &RingSample::netIn, strain, unit));
+    m_outTrace->draw(rateTrace(model.ring(), &RingSample::netOut, strain, unit));
     m_top->show(
         model, AppSort::network, 8, [unit](const AppGroup& app) { return Fmt::rate(app.netIn + app.netOut, unit); });
     m_top->setNote(PageTexts::networkPerAppNote(model.platform));

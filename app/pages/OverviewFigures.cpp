@@ -53,14 +53,14 @@ BarBank weekBank(const std::vector<DayTotal>& week, const TimeZone& zone)
 Chart todayChart(const AppModel& model)
 {
     Chart chart;
-    if (!model.frame)
+    if (!model.frame())
         return chart;
-    chart.to = model.frame->time;
+    chart.to = model.frame()->time;
     chart.from = start(HistoryRange::today, chart.to, model.zone);
     Chart::Series cpu{{}, {}};
     double peak = 0;
     double step = 0;
-    for (const auto& point : model.todaySeries) {
+    for (const auto& point : model.todaySeries()) {
         cpu.points.emplace_back(point.t + point.dur / 2, point.cpu * 100);
         peak = std::max(peak, point.cpu * 100);
         step = std::max(step, std::min(point.dur, 3600.0));
@@ -84,9 +84,9 @@ double rateFraction(double bytesPerSecond)
 std::array<Dial, 6> overviewDials(const AppModel& model)
 {
     std::array<Dial, 6> dials;
-    if (!model.frame)
+    if (!model.frame())
         return dials;
-    const auto& system = model.frame->system;
+    const auto& system = model.frame()->system;
     const auto unit = model.networkUnit();
     const double busy = system.cpu.user + system.cpu.system;
     dials[0] = {busy, share(model.peak(&RingSample::cpu)), model.strain(MenuItemKind::cpu), text(Fmt::percent(busy)),

@@ -30,7 +30,7 @@ namespace {
 constexpr size_t busiestCount = 5;
 
 constexpr int fullDial = 132;
-constexpr int compactDial = 76;
+constexpr int compactDial = 70;
 
 } // namespace
 
@@ -64,11 +64,11 @@ OverviewPage::OverviewPage(QWidget* parent)
     m_today->setFont(Look::font(11));
     m_today->setWordWrap(true);
     today->addWidget(m_today);
-    m_todayTrace = new PaintedView(Vexel::tr("CPU since midnight"), QSize(300, 84), m_content);
+    m_todayTrace = new PaintedView(Vexel::tr("CPU since midnight"), QSize(300, 68), m_content);
     today->addWidget(m_todayTrace);
     today->addWidget(Look::explanation(Vexel::tr("CPU since midnight"), m_content));
     m_week = new PaintedView(
-        Vexel::tr("Data moved each day this week, as a share of the busiest day"), QSize(300, 56), m_content);
+        Vexel::tr("Data moved each day this week, as a share of the busiest day"), QSize(300, 46), m_content);
     today->addWidget(m_week);
     today->addWidget(Look::explanation(Vexel::tr("Data moved each day this week, today at the right"), m_content));
     today->addStretch(1);
@@ -84,7 +84,7 @@ OverviewPage::OverviewPage(QWidget* parent)
 
 void OverviewPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return; // "Taking the first reading…" covers the page
 
     m_shown = overviewDials(model);
@@ -106,11 +106,11 @@ void OverviewPage::showModel(const AppModel& model)
 
 void OverviewPage::showToday(const AppModel& model)
 {
-    m_today->setText(model.today
-            ? todayLine(*model.today).replace(QRegularExpression(QStringLiteral("\\s*·\\s*")), QStringLiteral("\n"))
+    m_today->setText(model.today()
+            ? todayLine(*model.today()).replace(QRegularExpression(QStringLiteral("\\s*·\\s*")), QStringLiteral("\n"))
             : QString());
     m_todayTrace->draw(todayChart(model));
-    m_week->draw(weekBank(model.week, model.zone));
+    m_week->draw(weekBank(model.week(), model.zone));
 }
 
 QString OverviewPage::todayText() const
@@ -149,18 +149,19 @@ QWidget* OverviewPage::buildAwayCard()
 
 void OverviewPage::showAway(const AppModel& model)
 {
-    m_away->setVisible(model.awaySince.has_value());
+    m_away->setVisible(model.awaySince().has_value());
     // With the card, the dials step down a size, so that the page still fits its window.
-    const int side = model.awaySince ? compactDial : fullDial;
+    const int side = model.awaySince() ? compactDial : fullDial;
     for (auto* dial : m_dials)
         dial->setPreferred({side, side});
-    if (!model.awaySince)
+    if (!model.awaySince())
         return;
     m_awayTitle->setText(Vexel::tr("While you were away"));
-    m_awaySpan->setText(Vexel::tr("From %1 to %2")
-                            .arg(momentText(*model.awaySince, model.zone), momentText(model.frame->time, model.zone)));
+    m_awaySpan->setText(
+        Vexel::tr("From %1 to %2")
+            .arg(momentText(*model.awaySince(), model.zone), momentText(model.frame()->time, model.zone)));
     QStringList lines;
-    for (const auto& spike : model.awaySpikes)
+    for (const auto& spike : model.awaySpikes())
         lines << Vexel::say(spike.summary); // it names the app behind it
     if (lines.isEmpty())
         lines << Vexel::tr("Nothing unusual: no long CPU spikes, memory pressure, big writes or downloads, heat "

@@ -17,7 +17,7 @@ Page::Page(QWidget* parent)
 
 void Page::present(const AppModel& model)
 {
-    const bool waiting = !model.frame && waitsForFrames();
+    const bool waiting = !model.frame() && waitsForFrames();
     if (waiting && m_waiting == nullptr) {
         m_waiting = Look::centredNote(Vexel::tr("Taking the first reading…"), this);
         m_waiting->setAutoFillBackground(true);

@@ -61,7 +61,7 @@ unsigned PowerPage::shows() const
 
 void PowerPage::showModel(const AppModel& model)
 {
-    if (!model.frame)
+    if (!model.frame())
         return;
     showBattery(model);
     // Energy per app is measured where the system meters it and estimated from CPU time elsewhere.
@@ -83,11 +83,11 @@ void PowerPage::showModel(const AppModel& model)
             : allEstimated ? PageTexts::EnergySource::estimated
                            : PageTexts::EnergySource::measured));
 
-    const ThermalLevel level = model.frame->system.thermal;
+    const ThermalLevel level = model.frame()->system.thermal;
     m_thermal->setText(Vexel::say(detail(level, platform))); // "Hot. macOS is slowing the processor…"
     LevelScale scale;
     for (const auto step : allThermalLevels)
-        scale.steps.push_back({Vexel::words(title(step)), model.settings.strain.thermal(step)});
+        scale.steps.push_back({Vexel::words(title(step)), model.settings().strain.thermal(step)});
     scale.current = static_cast<size_t>(rawValue(level));
     m_scale->draw(scale);
     m_thermalNote->setText(PageTexts::thermalNote(platform));
@@ -96,7 +96,7 @@ void PowerPage::showModel(const AppModel& model)
 
 void PowerPage::showSensors(const AppModel& model)
 {
-    const auto& sensors = model.frame->system.sensors;
+    const auto& sensors = model.frame()->system.sensors;
     FigureRows::Rows rows;
     for (const auto& t : sensors.temperatures)
         rows.emplace_back(Readings::sensorName(t.chip, t.label), qs(cformat("%.0f °C", t.celsius)));
@@ -113,7 +113,7 @@ void PowerPage::showSensors(const AppModel& model)
 
 void PowerPage::showBattery(const AppModel& model)
 {
-    const auto& battery = model.frame->system.battery;
+    const auto& battery = model.frame()->system.battery;
     m_state->setVisible(battery.has_value());
     m_battery->setVisible(battery.has_value());
     m_capacityNote->setVisible(battery && battery->health());

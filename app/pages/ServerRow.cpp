@@ -51,7 +51,7 @@ ServerRow::ServerRow(const DevServer& server, const AppModel& model, QWidget* pa
     if (server.isIdle) {
         const double since = server.idleSince.value_or(server.started);
         const QString idle
-            = Vexel::tr("Idle for %1").arg(Readings::elapsed(model.frame ? model.frame->time - since : 0));
+            = Vexel::tr("Idle for %1").arg(Readings::elapsed(model.frame() ? model.frame()->time - since : 0));
         auto* flag = Look::line(this, idle);
         Look::keepColour(flag, QPalette::WindowText,
             [](Appearance appearance) { return Look::strainColour(appearance, Strain::elevated); });

@@ -93,7 +93,7 @@ void MenuBarController::stop()
 
 void MenuBarController::rebuild()
 {
-    const auto wanted = enabledKinds(m_model.settings);
+    const auto wanted = enabledKinds(m_model.settings());
     std::vector<MenuItemKind> kept;
     for (const auto kind : m_order)
         if (std::ranges::find(wanted, kind) != wanted.end())
@@ -157,7 +157,7 @@ void MenuBarController::removeAll()
 
 void MenuBarController::update()
 {
-    for (const auto& config : m_model.settings.menuItems) {
+    for (const auto& config : m_model.settings().menuItems) {
         const auto found = m_items.find(config.kind);
         if (found == m_items.end())
             continue;

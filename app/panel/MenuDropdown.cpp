@@ -47,21 +47,21 @@ Dial dialOf(const AppModel& model, MenuItemKind kind)
     case MenuItemKind::battery: return dials[5];
     case MenuItemKind::thermal: break;
     }
-    const ThermalLevel level = model.frame ? model.frame->system.thermal : ThermalLevel::nominal;
+    const ThermalLevel level = model.frame() ? model.frame()->system.thermal : ThermalLevel::nominal;
     return {rawValue(level) / 3.0, std::nullopt, model.strain(kind), Vexel::words(title(level)), Vexel::tr("Heat")};
 }
 
 FigureRows::Rows readoutsOf(const AppModel& model, MenuItemKind kind)
 {
-    if (!model.frame)
+    if (!model.frame())
         return {};
-    const auto& system = model.frame->system;
+    const auto& system = model.frame()->system;
     const auto unit = model.networkUnit();
     const auto cores = model.cpuScaleCores();
     switch (kind) {
     case MenuItemKind::cpu:
-        return {{Vexel::tr("User"), qs(Fmt::cpu(system.cpu.user * model.cores, cores))},
-            {Vexel::tr("System"), qs(Fmt::cpu(system.cpu.system * model.cores, cores))},
+        return {{Vexel::tr("User"), qs(Fmt::cpu(system.cpu.user * model.cores(), cores))},
+            {Vexel::tr("System"), qs(Fmt::cpu(system.cpu.system * model.cores(), cores))},
             {Vexel::tr("Load"), qs(cformat("%.2f", system.cpu.load1))}};
     case MenuItemKind::memory:
         return {{Vexel::tr("In use"),
@@ -160,7 +160,7 @@ void MenuDropdown::showModel(const AppModel& model)
     m_dial->draw(dialOf(model, m_kind));
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
-    Sparkline trace{reading.trace, reading.traceTop, reading.strain, shareText, true, minuteMarks(model.ring)};
+    Sparkline trace{reading.trace, reading.traceTop, reading.strain, shareText, true, minuteMarks(model.ring())};
     if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk) {
         const auto unit = m_kind == MenuItemKind::network ? model.networkUnit() : Fmt::RateUnit::bytes;
         trace.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
@@ -172,7 +172,7 @@ void MenuDropdown::showModel(const AppModel& model)
     // The apps behind the reading, where there are per-app figures.
     const auto cores = model.cpuScaleCores();
     const auto unit = model.networkUnit();
-    const bool battery = model.frame && model.frame->system.battery;
+    const bool battery = model.frame() && model.frame()->system.battery;
     QString note;
     switch (m_kind) {
     case MenuItemKind::cpu:

@@ -45,15 +45,15 @@ MenuReading menuReading(const AppModel& model, const MenuItemConfig& config)
     MenuReading reading{config.kind, config.style, "—", std::nullopt, {}, 100, model.strain(config.kind)};
     if (!canGraph(config.kind) && reading.style != MenuItemStyle::value)
         reading.style = MenuItemStyle::value; // nothing to draw a graph of
-    if (!model.frame)
+    if (!model.frame())
         return reading;
-    const auto& system = model.frame->system;
-    const auto& ring = model.ring;
-    const bool bits = model.settings.networkBits;
+    const auto& system = model.frame()->system;
+    const auto& ring = model.ring();
+    const bool bits = model.settings().networkBits;
     switch (config.kind) {
     case MenuItemKind::cpu: {
         const double busy = system.cpu.user + system.cpu.system;
-        reading.text = Fmt::percent(model.settings.cpuScale == CPUScale::core ? busy * model.cores : busy);
+        reading.text = Fmt::percent(model.settings().cpuScale == CPUScale::core ? busy * model.cores() : busy);
         reading.trace = traceOf(ring, [](const RingSample& s) { return s.cpu; });
         break;
     }

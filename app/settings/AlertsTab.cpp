@@ -92,7 +92,7 @@ void AlertsTab::showModel(const AppModel& model)
                         "and heat follows the thermal state.")
             : Vexel::tr("Amber means worth a look; red means under strain. Memory follows Linux's own pressure level, "
                         "and heat follows the thermal state."));
-    const auto& settings = model.settings;
+    const auto& settings = model.settings();
     m_diskAmber->select(settings.strain.diskFreeElevated);
     m_batteryAmber->select(settings.strain.batteryElevated);
     m_batteryFalling->select(settings.spikes.batteryDrop);

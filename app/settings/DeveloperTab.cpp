@@ -50,7 +50,7 @@ DeveloperTab::DeveloperTab(Places places, QWidget* parent)
 void DeveloperTab::showModel(const AppModel& model)
 {
     m_filling = true;
-    m_idle->select(model.settings.idleDays);
+    m_idle->select(model.settings().idleDays);
     m_filling = false;
 }
 

@@ -75,14 +75,14 @@ void GeneralTab::showModel(const AppModel& model)
                                 : Vexel::tr("With the window closed Vexel reads the computer at this interval; while "
                                             "you're looking it reads every 2 seconds. Other users' processes, per-app "
                                             "network and ports are read less often to keep Vexel light."));
-    m_interval->select(model.settings.sampleSeconds);
+    m_interval->select(model.settings().sampleSeconds);
     m_wholeMachine->setText(Vexel::tr("%1 (0–100)").arg(PageTexts::cpuScaleMachine(model.platform)));
     m_perCore->setText(PageTexts::cpuScaleCore(model.platform));
-    (model.settings.cpuScale == CPUScale::core ? m_perCore : m_wholeMachine)->setChecked(true);
-    m_bits->setChecked(model.settings.networkBits);
+    (model.settings().cpuScale == CPUScale::core ? m_perCore : m_wholeMachine)->setChecked(true);
+    m_bits->setChecked(model.settings().networkBits);
     m_atLogin->setChecked(model.opensAtLogin());
-    m_loginError->setText(QString::fromStdString(model.loginItemError.value_or("")));
-    m_loginError->setVisible(model.loginItemError.has_value());
+    m_loginError->setText(QString::fromStdString(model.loginItemError().value_or("")));
+    m_loginError->setVisible(model.loginItemError().has_value());
     m_filling = false;
 }
 

@@ -56,22 +56,22 @@ unsigned HistoryTab::shows() const
 void HistoryTab::showModel(const AppModel& model)
 {
     m_filling = true;
-    m_keep->select(model.settings.retentionDays);
-    m_cap->select(model.settings.maxHistoryMB);
+    m_keep->select(model.settings().retentionDays);
+    m_cap->select(model.settings().maxHistoryMB);
     QString size;
-    if (model.storeError)
-        size = QString::fromStdString(*model.storeError);
-    else if (model.historyBytes)
+    if (model.storeError())
+        size = QString::fromStdString(*model.storeError());
+    else if (model.historyBytes())
         size = Vexel::tr("The history takes %1 on disk.")
-                   .arg(QString::fromStdString(Fmt::bytes(static_cast<double>(*model.historyBytes))));
+                   .arg(QString::fromStdString(Fmt::bytes(static_cast<double>(*model.historyBytes()))));
     else
         size = Vexel::tr("Measuring the history's size…");
     // Beside the headless recorder, the window shows the history it keeps.
-    if (model.otherRecorder)
+    if (model.otherRecorder())
         size += u' '
             + Vexel::tr("Vexel's recorder (process %1) keeps it; this window shows it and takes over when the "
                         "recorder stops.")
-                  .arg(*model.otherRecorder);
+                  .arg(*model.otherRecorder());
     m_size->setText(size);
     m_filling = false;
 }

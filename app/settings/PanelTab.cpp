@@ -153,7 +153,7 @@ void PanelTab::showModel(const AppModel& model)
         cell->deleteLater();
     m_cells.clear();
     m_rows.clear();
-    const auto& items = model.settings.menuItems;
+    const auto& items = model.settings().menuItems;
     for (size_t i = 0; i < items.size(); ++i) {
         const auto item = items[i];
         const int row = static_cast<int>(i);

@@ -26,9 +26,9 @@ void SettingsTab::change(const std::function<void(VexelSettings&)>& edit)
 {
     if (m_filling || model() == nullptr)
         return;
-    VexelSettings changed = model()->settings;
+    VexelSettings changed = model()->settings();
     edit(changed);
-    if (changed != model()->settings)
+    if (changed != model()->settings())
         model()->changeSettings(changed);
 }
 

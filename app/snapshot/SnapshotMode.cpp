@@ -87,7 +87,7 @@ void save(QWidget& window, const SnapshotOptions& options, const std::string& na
 void writeAppsStates(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& suffix)
 {
     window.showRoute(Route::apps);
-    if (const auto* iterm = model.frame ? model.frame->app("iTerm") : nullptr) {
+    if (const auto* iterm = model.frame() ? model.frame()->app("iTerm") : nullptr) {
         model.selectApp(iterm->id);
         save(window, options, "apps-selected-iterm-" + suffix);
         model.selectApp(std::nullopt);
@@ -100,8 +100,6 @@ void writeAppsStates(MainWindow& window, AppModel& model, const SnapshotOptions&
 // The Overview after a night away: the spikes since the user was last here.
 void writeAway(MainWindow& window, AppModel& model, const SnapshotOptions& options, const std::string& suffix)
 {
-    const auto lastSeen = model.settings.lastSeen;
-    model.settings.lastSeen = model.frame ? model.frame->time - 16 * 3600 : 0;
     // The spikes come from the sampler's thread: the picture waits for them.
     QEventLoop loop;
     bool arrived = false;
@@ -110,13 +108,12 @@ void writeAway(MainWindow& window, AppModel& model, const SnapshotOptions& optio
         if (arrived)
             loop.quit();
     });
-    model.prepareAway();
+    model.lookBackTo(model.frame() ? model.frame()->time - 16 * 3600 : 0);
     if (!arrived)
         loop.exec();
     window.showRoute(Route::overview);
     save(window, options, "overview-away-" + suffix);
     model.dismissAway();
-    model.settings.lastSeen = lastSeen;
 }
 
 // The panel's items side by side at twice their size, on a dark panel and
@@ -127,7 +124,7 @@ void writePanelStrip(const AppModel& model, const SnapshotOptions& options)
         return;
     constexpr int scale = 2;
     constexpr int gap = 8;
-    const auto& items = model.settings.menuItems;
+    const auto& items = model.settings().menuItems;
     const int slot = MenuGlyph::side + gap;
     QImage strip(static_cast<int>(items.size()) * slot * scale + gap * scale, 2 * slot * scale, QImage::Format_ARGB32);
     QPainter painter(&strip);
@@ -326,7 +323,7 @@ int runSnapshotMode(const SnapshotOptions& options)
     }
     // Weeks of history, so that Today, the week strip and History have
     // something to show; written before the recorder first thins its own.
-    fillDemoHistory(paths, *model->frame, model->zone, model->apps(AppSort::cpu, 6), model->cores);
+    fillDemoHistory(paths, *model->frame(), model->zone, model->apps(AppSort::cpu, 6), model->cores());
     // A few minutes of readings, so that the live traces have their minutes to mark.
     for (size_t tick = 3; tick < RecentRing::capacity; ++tick) {
         model->refresh(false);

@@ -35,21 +35,21 @@ TEST(AppModel, TicksRunOnTheSamplerThreadAndNeverOverlap)
 {
     DemoModel demo;
     EXPECT_EQ(demo.samplerThreadName, "dev.vexel.Vexel.sampler");
-    EXPECT_FALSE(demo.model->frame); // "Taking the first reading…"
+    EXPECT_FALSE(demo.model->frame()); // "Taking the first reading…"
     QSignalSpy changes(demo.model.get(), &AppModel::changed);
     demo.model->refresh(true);
     demo.model->refresh(false); // while the first is in flight: dropped, not queued
     demo.settle();
     EXPECT_EQ(demo.readings, 1);
-    ASSERT_TRUE(demo.model->frame);
-    EXPECT_TRUE(demo.model->serversLoaded); // the first tick is full
-    EXPECT_TRUE(demo.model->docker);
-    EXPECT_EQ(demo.model->ring.samples().size(), 1u);
+    ASSERT_TRUE(demo.model->frame());
+    EXPECT_TRUE(demo.model->serversLoaded()); // the first tick is full
+    EXPECT_TRUE(demo.model->docker());
+    EXPECT_EQ(demo.model->ring().samples().size(), 1u);
     EXPECT_FALSE(changes.isEmpty());
     EXPECT_TRUE(changes.last().at(0).toUInt() & AppModel::frameChanged);
     demo.ticks(1);
     EXPECT_EQ(demo.readings, 2);
-    EXPECT_EQ(demo.model->ring.samples().size(), 2u);
+    EXPECT_EQ(demo.model->ring().samples().size(), 2u);
     EXPECT_EQ(demo.model->tickSeconds(), 5); // hidden: the settings' interval
 
     // A full refresh (the window opening) asked for while a partial tick
@@ -59,7 +59,7 @@ TEST(AppModel, TicksRunOnTheSamplerThreadAndNeverOverlap)
     later.model->refresh(true);
     later.settle();
     EXPECT_EQ(later.readings, 2);
-    EXPECT_TRUE(later.model->docker) << "containers come only with a full tick while the window is hidden";
+    EXPECT_TRUE(later.model->docker()) << "containers come only with a full tick while the window is hidden";
 }
 
 TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
@@ -69,10 +69,10 @@ TEST(AppModel, TheAwayCardAfterElevenMinutesNotNine)
         demo.now = 1'795'000'000.0;
         demo.model->setWindowVisible(true);
         demo.settle();
-        EXPECT_EQ(demo.model->awaySince.has_value(), shown) << minutes << " minutes";
+        EXPECT_EQ(demo.model->awaySince().has_value(), shown) << minutes << " minutes";
         EXPECT_EQ(demo.model->tickSeconds(), 2);
         demo.model->dismissAway();
-        EXPECT_FALSE(demo.model->awaySince);
+        EXPECT_FALSE(demo.model->awaySince());
     }
 }
 
@@ -81,21 +81,21 @@ TEST(AppModel, ErasingIsAskedFirstAndSaysItIsDone)
     DemoModel demo;
     demo.ticks(41, true);
     demo.model->loadHistorySync();
-    ASSERT_TRUE(demo.model->history);
-    EXPECT_FALSE(demo.model->history->points.empty());
+    ASSERT_TRUE(demo.model->history());
+    EXPECT_FALSE(demo.model->history()->points.empty());
 
     demo.model->eraseHistory();
-    ASSERT_TRUE(demo.model->confirm);
-    EXPECT_EQ(demo.model->confirm->title.english(), "Erase all history?");
+    ASSERT_TRUE(demo.model->confirm());
+    EXPECT_EQ(demo.model->confirm()->title.english(), "Erase all history?");
     demo.model->cancelPending();
     demo.model->loadHistorySync();
-    EXPECT_FALSE(demo.model->history->points.empty()); // cancel changed nothing
+    EXPECT_FALSE(demo.model->history()->points.empty()); // cancel changed nothing
     demo.model->eraseHistory();
     demo.model->confirmPending();
     demo.model->loadHistorySync();
-    EXPECT_TRUE(demo.model->history->points.empty());
+    EXPECT_TRUE(demo.model->history()->points.empty());
     demo.settle();
-    EXPECT_EQ(demo.model->toast, "History erased. New samples start now.");
+    EXPECT_EQ(demo.model->toast(), "History erased. New samples start now.");
 }
 
 // A question that comes while the user reads another (the force offered
@@ -111,13 +111,13 @@ TEST(AppModel, QuestionsWaitTheirTurn)
     ASSERT_NE(quittable, apps.end());
     model.actions().requestQuit(*quittable, false);
     model.actions().requestStop(4242, "node", {}, true);
-    ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title.english(), "Quit " + quittable->name + "?");
+    ASSERT_TRUE(model.confirm());
+    EXPECT_EQ(model.confirm()->title.english(), "Quit " + quittable->name + "?");
     model.cancelPending();
-    ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title.english(), "Force stop node?");
+    ASSERT_TRUE(model.confirm());
+    EXPECT_EQ(model.confirm()->title.english(), "Force stop node?");
     model.cancelPending();
-    EXPECT_FALSE(model.confirm);
+    EXPECT_FALSE(model.confirm());
     EXPECT_TRUE(demo.fake->log.empty());
 }
 
@@ -128,7 +128,7 @@ TEST(AppModel, LoginItemAndLastSeen)
     ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
     demo.model->setOpenAtLogin(true);
     demo.settle(); // written on the sampler's thread
-    EXPECT_FALSE(demo.model->loginItemError);
+    EXPECT_FALSE(demo.model->loginItemError());
     EXPECT_TRUE(demo.model->opensAtLogin());
     std::ifstream entry(config / "autostart" / "dev.vexel.Vexel.desktop");
     std::string text((std::istreambuf_iterator<char>(entry)), std::istreambuf_iterator<char>());
@@ -144,7 +144,7 @@ TEST(AppModel, LoginItemAndLastSeen)
     ::setenv("XDG_CONFIG_HOME", (demo.folder.path() / "a-file").c_str(), 1);
     demo.model->setOpenAtLogin(true);
     demo.settle();
-    EXPECT_TRUE(demo.model->loginItemError); // shown under the control
+    EXPECT_TRUE(demo.model->loginItemError()); // shown under the control
     EXPECT_FALSE(demo.model->opensAtLogin());
     ::unsetenv("XDG_CONFIG_HOME");
 
@@ -156,7 +156,7 @@ TEST(AppModel, LoginItemAndLastSeen)
 
     // The first start is marked once: the next run on the same folder is no first launch.
     demo.model->start();
-    EXPECT_TRUE(demo.model->firstLaunch);
+    EXPECT_TRUE(demo.model->firstLaunch());
     demo.settle();
     auto world = std::make_shared<DemoWorld>();
     const VexelPaths paths(demo.folder.path());
@@ -164,7 +164,7 @@ TEST(AppModel, LoginItemAndLastSeen)
         AppModel::Setup{paths, [world, paths] { return std::make_unique<Sampler>(world->monitor(), nullptr, paths); },
             std::make_unique<FakeActions>(), [] { return 0.0; }, 501, 1, true});
     again.start();
-    EXPECT_FALSE(again.firstLaunch);
+    EXPECT_FALSE(again.firstLaunch());
     ASSERT_TRUE(QTest::qWaitFor([&again] { return !again.busy(); }, 10000));
 }
 
@@ -190,7 +190,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/confirm-forcequit-light.png"));
     window.sheet()->cancelButton()->click();
-    EXPECT_FALSE(demo.model->confirm);
+    EXPECT_FALSE(demo.model->confirm());
     EXPECT_FALSE(window.sheet()->isVisible());
     EXPECT_TRUE(window.overview()->isEnabled());
     EXPECT_TRUE(demo.fake->log.empty());
@@ -203,7 +203,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/toast-light.png"));
     // What was done leaves by itself; a failure stays until it is closed.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !demo.model->toast; }, AppModel::toastMilliseconds + 5000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !demo.model->toast(); }, AppModel::toastMilliseconds + 5000));
     EXPECT_FALSE(window.toast()->isVisible());
     demo.model->actions().requestStop(4242, "node", {}, true); // no such process to signal
     window.sheet()->confirmButton()->click();
@@ -212,7 +212,7 @@ TEST(AppModel, TheWindowAsksAndToasts)
         window.toast()->text(), QStringLiteral("Couldn't signal node (process 4242). It may have already exited."));
     EXPECT_FALSE(demo.model->toastLeaving());
     window.toast()->closeButton()->click();
-    EXPECT_FALSE(demo.model->toast);
+    EXPECT_FALSE(demo.model->toast());
     EXPECT_FALSE(window.toast()->isVisible());
 }
 
@@ -226,12 +226,12 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     window.bind(*demo.model);
     WindowKeeper keeper(window, *demo.model);
     keeper.setPanel({.host = false, .carriesReadings = false});
-    EXPECT_EQ(demo.model->toast, WindowKeeper::noPanelText().toStdString());
+    EXPECT_EQ(demo.model->toast(), WindowKeeper::noPanelText().toStdString());
     keeper.showAtStart(true);
     EXPECT_TRUE(window.isMinimized());
-    EXPECT_FALSE(demo.model->windowVisible);
+    EXPECT_FALSE(demo.model->windowVisible());
     window.showNormal();
-    EXPECT_TRUE(demo.model->windowVisible);
+    EXPECT_TRUE(demo.model->windowVisible());
     EXPECT_EQ(demo.model->tickSeconds(), 2);
     if (const char* folder = std::getenv("VEXEL_TEST_PICTURES"))
         window.grab().save(QString::fromUtf8(folder) + QStringLiteral("/no-panel-light.png"));
@@ -242,7 +242,7 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     EXPECT_EQ(window.toast()->geometry().bottom(), 799);
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(window.isMinimized());
-    EXPECT_FALSE(demo.model->windowVisible);
+    EXPECT_FALSE(demo.model->windowVisible());
     EXPECT_EQ(demo.model->tickSeconds(), 10);
 
     DemoModel inPanel;
@@ -251,17 +251,17 @@ TEST(AppModel, TheWindowStaysTheWayBackWithoutAPanel)
     panel.showAtStart(true); // at login, before the panel has answered: the taskbar
     EXPECT_TRUE(other.isMinimized());
     panel.setPanel({.host = true, .carriesReadings = true}); // the panel came: its items lead back
-    EXPECT_FALSE(inPanel.model->toast);
+    EXPECT_FALSE(inPanel.model->toast());
     EXPECT_FALSE(other.isVisible());
     other.showNormal(); // the item's "Open Vexel Window"
-    EXPECT_TRUE(inPanel.model->windowVisible);
+    EXPECT_TRUE(inPanel.model->windowVisible());
     EXPECT_TRUE(other.close());
     EXPECT_FALSE(other.isVisible());
-    EXPECT_FALSE(inPanel.model->windowVisible);
+    EXPECT_FALSE(inPanel.model->windowVisible());
     // The panel went away: the hidden window comes back to the taskbar, and the app says why once.
     panel.setPanel({.host = false, .carriesReadings = false});
     EXPECT_TRUE(other.isVisible() && other.isMinimized());
-    EXPECT_EQ(inPanel.model->toast, WindowKeeper::noPanelText().toStdString());
+    EXPECT_EQ(inPanel.model->toast(), WindowKeeper::noPanelText().toStdString());
     // Shown by the user, then minimised by them: a panel coming back leaves it where they put it.
     other.showNormal();
     other.showMinimized();
@@ -280,7 +280,7 @@ TEST(AppModel, StrainedPicturesSeeTheWorldUnderLoad)
     strainDemoWorld(demo.world, *demo.model);
     EXPECT_EQ(demo.model->strain(MenuItemKind::thermal), Strain::strained);
     EXPECT_NE(demo.model->strain(MenuItemKind::memory), Strain::calm);
-    EXPECT_TRUE(demo.model->history);
+    EXPECT_TRUE(demo.model->history());
 }
 
 // The Overview waits for the first frame, then shows the frame's readings on
@@ -295,7 +295,7 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     demo.ticks(2, true); // the second frame has rates
     page.present(*demo.model);
     EXPECT_FALSE(page.waitingShown());
-    const auto& system = demo.model->frame->system;
+    const auto& system = demo.model->frame()->system;
     EXPECT_DOUBLE_EQ(page.dials()[0].fraction, system.cpu.user + system.cpu.system);
     EXPECT_EQ(page.dials()[1].strain, demo.model->strain(MenuItemKind::memory));
     const auto busiest = demo.model->apps(AppSort::cpu, 5);
@@ -303,8 +303,10 @@ TEST(OverviewPage, DialsAndBusiestAppsFromTheFrame)
     ASSERT_EQ(rows.size(), 5);
     EXPECT_TRUE(rows.front().startsWith(QString::fromStdString(busiest.front().name))) << rows.front().toStdString();
 
-    demo.model->frame->system.gpu.reset();
-    demo.model->frame->system.battery.reset();
+    vexel::testing::receiveChanged(*demo.model, [](TickResult& tick) {
+        tick.frame.system.gpu.reset();
+        tick.frame.system.battery.reset();
+    });
     const auto dials = overviewDials(*demo.model);
     EXPECT_EQ(dials[4].value, QStringLiteral("—"));
     EXPECT_EQ(dials[4].fraction, 0);
@@ -348,18 +350,18 @@ TEST(AppModel, AFailingHistoryIsShownNeverACrash)
         model.loadHistory();
         model.setWindowVisible(true); // the away card reads the week
         demo.settle();
-        ASSERT_TRUE(model.storeError);
-        EXPECT_TRUE(model.storeError->starts_with("History error: ")) << *model.storeError;
+        ASSERT_TRUE(model.storeError());
+        EXPECT_TRUE(model.storeError()->starts_with("History error: ")) << *model.storeError();
         EXPECT_TRUE(
-            model.storeError->ends_with(". Live readings go on, and Vexel tries the history again each minute."))
-            << *model.storeError;
-        EXPECT_EQ(window.banner()->texts(), QStringList{QString::fromStdString(*model.storeError)});
+            model.storeError()->ends_with(". Live readings go on, and Vexel tries the history again each minute."))
+            << *model.storeError();
+        EXPECT_EQ(window.banner()->texts(), QStringList{QString::fromStdString(*model.storeError())});
         auto* history = static_cast<HistoryPage*>(window.page(Route::history));
         history->showModel(model);
         EXPECT_EQ(history->emptyState().value(0), QStringLiteral("History can't be read."));
-        EXPECT_TRUE(model.awaySince) << "the card still says since when, without spikes it couldn't read";
+        EXPECT_TRUE(model.awaySince()) << "the card still says since when, without spikes it couldn't read";
     }
     demo.ticks(1); // a tick that goes well clears it
-    EXPECT_FALSE(model.storeError);
+    EXPECT_FALSE(model.storeError());
     EXPECT_TRUE(window.banner()->isHidden());
 }

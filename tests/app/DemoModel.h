@@ -86,4 +86,14 @@ inline std::unique_ptr<DemoModel> readDemoModel(Platform platform = Platform::ma
     return demo;
 }
 
+// Hands the model its last frame again, changed as `change` says: a machine
+// the demo world is not (no battery, no Docker), told the way a tick tells it.
+inline void receiveChanged(AppModel& model, const std::function<void(TickResult&)>& change)
+{
+    TickResult tick;
+    tick.frame = *model.frame();
+    change(tick);
+    model.receive(std::move(tick));
+}
+
 } // namespace vexel::testing

@@ -45,7 +45,7 @@ template <typename Page> std::unique_ptr<Page> follow(AppModel& model)
 
 const AppGroup& appNamed(const AppModel& model, const std::string& name)
 {
-    const auto* app = model.frame->app(name);
+    const auto* app = model.frame()->app(name);
     EXPECT_NE(app, nullptr) << name;
     return *app;
 }
@@ -58,20 +58,20 @@ TEST(AppsPage, SearchFindsTheOwnerOfAPidAndNothingForNonsense)
     auto& model = *demo->model;
     const auto shown = follow<AppsPage>(model);
     auto& page = *shown;
-    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame->apps.size()));
+    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame()->apps.size()));
 
     // A helper's PID finds the app that owns it, not a process row.
     const AppGroup& iterm = appNamed(model, "iTerm2");
     const auto helper = std::ranges::find_if(iterm.processes, [&](const ProcRow& row) { return row.name != "iTerm2"; });
     ASSERT_NE(helper, iterm.processes.end());
     page.searchField()->setText(QString::number(helper->pid));
-    EXPECT_EQ(model.appSearch, std::to_string(helper->pid));
+    EXPECT_EQ(model.appSearch(), std::to_string(helper->pid));
     EXPECT_EQ(page.rowNames(), QStringList{"iTerm2"});
 
     page.searchField()->setText(QStringLiteral("no such thing"));
     EXPECT_TRUE(page.rowNames().isEmpty());
     page.searchField()->clear();
-    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame->apps.size()));
+    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame()->apps.size()));
 }
 
 TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
@@ -86,7 +86,7 @@ TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
     const AppGroup& iterm = appNamed(model, "iTerm2");
     const int row = static_cast<int>(page.rowNames().indexOf("iTerm2"));
     page.list()->setCurrentIndex(page.list()->model()->index(row, 0));
-    EXPECT_EQ(model.selectedApp, iterm.id);
+    EXPECT_EQ(model.selectedApp(), iterm.id);
     ASSERT_TRUE(page.inspectorShown());
     EXPECT_EQ(page.inspector()->offersQuit(), model.canQuit(iterm));
     EXPECT_TRUE(page.inspector()->offersQuit());
@@ -97,8 +97,8 @@ TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
     EXPECT_TRUE(notes.filter("(zombie). They use no CPU or memory.").size() == 1) << notes.join('|').toStdString();
 
     // A system group is never offered a quit, and the inspector says why.
-    const auto system = std::ranges::find(model.frame->apps, AppKind::system, &AppGroup::kind);
-    ASSERT_NE(system, model.frame->apps.end());
+    const auto system = std::ranges::find(model.frame()->apps, AppKind::system, &AppGroup::kind);
+    ASSERT_NE(system, model.frame()->apps.end());
     model.selectApp(system->id);
     EXPECT_FALSE(page.inspector()->offersQuit());
     EXPECT_TRUE(page.inspector()->notes().contains(
@@ -120,7 +120,7 @@ TEST(AppsPage, SelectionAndScrollSurviveTicksThatReorderTheList)
     const QString chrome = QStringLiteral("Google Chrome");
     const std::string browser = appNamed(model, "Google Chrome").id;
     page.list()->setCurrentIndex(page.list()->model()->index(static_cast<int>(page.rowNames().indexOf(chrome)), 0));
-    ASSERT_EQ(model.selectedApp, browser);
+    ASSERT_EQ(model.selectedApp(), browser);
     QCoreApplication::processEvents(); // lays out the inspector just shown
     auto* listBar = page.list()->verticalScrollBar();
     auto* processBar = page.inspector()->processList()->verticalScrollBar();
@@ -136,7 +136,7 @@ TEST(AppsPage, SelectionAndScrollSurviveTicksThatReorderTheList)
         demo->world.strained = tick >= 5; // the renderers and the language service leap ahead
         demo->ticks(1);
         orders << page.rowNames().join('|');
-        EXPECT_EQ(model.selectedApp, browser) << tick;
+        EXPECT_EQ(model.selectedApp(), browser) << tick;
         EXPECT_EQ(page.list()->currentIndex().data().toString(), chrome) << tick;
         EXPECT_EQ(listBar->value(), listAt) << tick;
         EXPECT_EQ(processBar->value(), processesAt) << tick;
@@ -146,11 +146,11 @@ TEST(AppsPage, SelectionAndScrollSurviveTicksThatReorderTheList)
 
     // A click on a figure's header is the settings' sort, saved for the next run.
     page.list()->header()->sectionClicked(2);
-    EXPECT_EQ(model.settings.appSort, AppSort::memory);
+    EXPECT_EQ(model.settings().appSort, AppSort::memory);
     EXPECT_TRUE(page.shownColumns().contains(QStringLiteral("Memory")));
     demo->settle();
     EXPECT_EQ(VexelSettings::load(VexelPaths(demo->folder.path()).settings()).appSort, AppSort::memory);
-    EXPECT_EQ(model.selectedApp, browser);
+    EXPECT_EQ(model.selectedApp(), browser);
 }
 
 // Any one of the user's own processes can be force-stopped from the
@@ -183,8 +183,8 @@ TEST(AppsPage, TheInspectorForceStopsOneOfTheUsersProcessesAfterAsking)
     for (auto* button : page.inspector()->findChildren<QPushButton*>())
         if (button->text() == QStringLiteral("Force Stop Process…"))
             button->click();
-    ASSERT_TRUE(model.confirm);
-    EXPECT_EQ(model.confirm->title.english(), "Force stop python3?");
+    ASSERT_TRUE(model.confirm());
+    EXPECT_EQ(model.confirm()->title.english(), "Force stop python3?");
     EXPECT_TRUE(demo->fake->alive.contains(python->pid)) << "nothing is sent before the answer";
     model.confirmPending();
     EXPECT_FALSE(demo->fake->alive.contains(python->pid));
@@ -219,11 +219,12 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
 {
     auto demo = readModel(Platform::linux);
     auto& model = *demo->model;
-    model.frame->system.battery.reset();
-    model.frame->system.gpu.reset();
-    model.docker = DockerState::notInstalled();
-    model.serversLoaded = true;
-    model.servers.clear();
+    vexel::testing::receiveChanged(model, [](TickResult& tick) {
+        tick.frame.system.battery.reset();
+        tick.frame.system.gpu.reset();
+        tick.docker = DockerState::notInstalled();
+        tick.servers.emplace();
+    });
 
     PowerPage power(nullptr);
     power.showModel(model);
@@ -231,8 +232,10 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
     EXPECT_TRUE(power.batteryRows().isEmpty());
     // Linux reports its sensors: shown, or said to be missing.
     EXPECT_TRUE(power.sensorRows().isEmpty());
-    model.frame->system.sensors
-        = {{{"k10temp", "Tctl", 62.1, std::nullopt, std::nullopt}}, {{"thinkpad", "fan1", 2960}}};
+    vexel::testing::receiveChanged(model, [](TickResult& tick) {
+        tick.frame.system.sensors
+            = {{{"k10temp", "Tctl", 62.1, std::nullopt, std::nullopt}}, {{"thinkpad", "fan1", 2960}}};
+    });
     power.showModel(model);
     EXPECT_EQ(power.sensorRows(), (QStringList{"CPU · Tctl  62 °C", "Laptop · fan1  2960 rpm"}));
 
@@ -251,11 +254,13 @@ TEST(Pages, AMachineWithoutBatteryGpuCountersOrDockerSaysSo)
         (QStringList{"No dev servers running.",
             "When node, python, rails, a database or your own build listens on a "
             "port, it shows up here under its project."}));
-    model.docker = DockerState::notRunning();
+    vexel::testing::receiveChanged(model, [](TickResult& tick) { tick.docker = DockerState::notRunning(); });
     developers.showModel(model);
     EXPECT_EQ(developers.dockerState(),
         (QStringList{"Docker isn't running", "Start Docker Desktop (or your engine) and this fills in."}));
-    model.docker = DockerState{DockerState::Kind::containers, "", {}};
+    vexel::testing::receiveChanged(model, [](TickResult& tick) {
+        tick.docker = DockerState{DockerState::Kind::containers, "", {}};
+    });
     developers.showModel(model);
     EXPECT_EQ(developers.dockerState(), QStringList{"Docker is running with no containers."});
 }
@@ -264,18 +269,13 @@ TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    ASSERT_TRUE(model.serversLoaded); // the first, full, tick scans ports
-    ASSERT_FALSE(model.servers.empty());
+    ASSERT_TRUE(model.serversLoaded()); // the first, full, tick scans ports
+    ASSERT_FALSE(model.servers().empty());
     DevelopersPage page(nullptr);
-    model.serversLoaded = false;
-    page.showModel(model);
-    EXPECT_EQ(page.serverState(), QStringList{"Looking for servers…"});
-    EXPECT_TRUE(page.serverRows().isEmpty());
-    model.serversLoaded = true;
     page.showModel(model);
     const QStringList rows = page.serverRows();
     int servers = 0;
-    for (const auto& group : model.servers)
+    for (const auto& group : model.servers())
         servers += static_cast<int>(group.servers.size());
     EXPECT_EQ(rows.size(), servers);
     EXPECT_EQ(rows.filter("Idle for ").size(), rows.filter("Idle for 4 days").size());
@@ -288,7 +288,7 @@ TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
     EXPECT_TRUE(shown.contains(QStringLiteral("~/code/atlas-api"))) << shown.join('|').toStdString();
     // Listeners that are no server's are listed beside them.
     for (const auto& port : page.otherPorts())
-        for (const auto& group : model.servers)
+        for (const auto& group : model.servers())
             for (const auto& server : group.servers)
                 EXPECT_FALSE(port.contains(QString::fromStdString("process " + std::to_string(server.pid))));
 }
@@ -311,7 +311,7 @@ TEST(Pages, DevelopersInViewReadsContainersAndLeavingStopsThem)
     ticks(10); // 20 s on Overview
     EXPECT_FALSE(seen & AppModel::dockerChanged);
     window.showRoute(Route::developers);
-    EXPECT_EQ(model.route, Route::developers);
+    EXPECT_EQ(model.route(), Route::developers);
     ticks(1); // the next plan reads ports and containers
     EXPECT_TRUE(seen & AppModel::serversChanged);
     EXPECT_TRUE(seen & AppModel::dockerChanged);
@@ -326,7 +326,10 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
     auto& model = *demo->model;
     HistoryPage page(nullptr);
     const double now = demo->now;
-    model.history = Sampler::HistoryResult{{}, {}, {}, std::nullopt, now - 3600, now, std::nullopt};
+    const auto historyFrom = [&model, now](std::optional<double> first) {
+        model.receive(Sampler::HistoryResult{{}, {}, {}, first, now - 3600, now, std::nullopt});
+    };
+    historyFrom(std::nullopt);
     page.showModel(model);
     EXPECT_EQ(page.emptyState(),
         (QStringList{"History starts now.",
@@ -334,11 +337,11 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
             "old readings to hourly so the file stays small. Come back in a few "
             "minutes."}));
     // History began before the range, but nothing was recorded in it.
-    model.history->first = now - 86400;
+    historyFrom(now - 86400);
     page.showModel(model);
     EXPECT_EQ(page.emptyState(), QStringList{"Nothing recorded in this range."});
     // History began inside the range and hasn't reached its tier.
-    model.history->first = now - 600;
+    historyFrom(now - 600);
     page.showModel(model);
     EXPECT_EQ(page.emptyState(), QStringList{"No samples yet for this range."});
 
@@ -364,11 +367,11 @@ TEST(HistoryPage, InViewItRefreshesWithEachMinutesBatch)
     auto& model = *demo->model;
     model.setRoute(Route::history);
     model.loadHistorySync();
-    const double readTo = model.history->to;
+    const double readTo = model.history()->to;
     demo->ticks(31); // past the next minute's compaction
     demo->settle();
-    ASSERT_TRUE(model.history);
-    EXPECT_GT(model.history->to, readTo + 50);
+    ASSERT_TRUE(model.history());
+    EXPECT_GT(model.history()->to, readTo + 50);
 }
 
 TEST(HistoryPage, PickingARangeReadsThatRange)
@@ -379,10 +382,10 @@ TEST(HistoryPage, PickingARangeReadsThatRange)
     page.attach(model);
     QSignalSpy changes(&model, &AppModel::changed);
     page.pick(static_cast<int>(HistoryRange::month));
-    EXPECT_EQ(model.historyRange, HistoryRange::month);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !model.historyLoading; }, 10000));
-    ASSERT_TRUE(model.history);
-    EXPECT_NEAR(model.history->to - model.history->from, 30 * 86400.0, 1);
+    EXPECT_EQ(model.historyRange(), HistoryRange::month);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !model.historyLoading(); }, 10000));
+    ASSERT_TRUE(model.history());
+    EXPECT_NEAR(model.history()->to - model.history()->from, 30 * 86400.0, 1);
 }
 
 TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
@@ -392,9 +395,9 @@ TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
     const auto shown = follow<OverviewPage>(model);
     auto& page = *shown;
     EXPECT_TRUE(page.awayLines().isEmpty());
-    model.awaySince = demo->now - 3600;
-    model.awaySpikes = {Spike{SpikeKind::cpu, demo->now - 3000, demo->now - 2400, 0.95, "Xcode", 0.8,
-        Sentence{"%1 kept the processor busy for %2 min", {{"Xcode"}, {"10"}}}}};
+    model.showAway(demo->now - 3600,
+        {Spike{SpikeKind::cpu, demo->now - 3000, demo->now - 2400, 0.95, "Xcode", 0.8,
+            Sentence{"%1 kept the processor busy for %2 min", {{"Xcode"}, {"10"}}}}});
     page.showModel(model);
     EXPECT_EQ(page.awayLines(), QStringList{"Xcode kept the processor busy for 10 min"});
     // From when the user left to the reading now, in the model's zone.
@@ -403,15 +406,15 @@ TEST(OverviewPage, TheAwayCardListsSpikesAndCanBeDismissed)
         return QString::asprintf("%02d:%02d", civil.hour, civil.minute);
     };
     EXPECT_TRUE(page.awaySpan().startsWith(QStringLiteral("From ")));
-    EXPECT_TRUE(page.awaySpan().contains(clock(*model.awaySince) + QStringLiteral(" to ")))
+    EXPECT_TRUE(page.awaySpan().contains(clock(*model.awaySince()) + QStringLiteral(" to ")))
         << page.awaySpan().toStdString();
-    EXPECT_TRUE(page.awaySpan().endsWith(clock(model.frame->time))) << page.awaySpan().toStdString();
-    model.awaySpikes.clear();
+    EXPECT_TRUE(page.awaySpan().endsWith(clock(model.frame()->time))) << page.awaySpan().toStdString();
+    model.showAway(model.awaySince(), {});
     page.showModel(model);
     EXPECT_EQ(page.awayLines(),
         QStringList{"Nothing unusual: no long CPU spikes, memory pressure, big writes or "
                     "downloads, heat or fast battery drain."});
     page.dismissAway();
-    EXPECT_FALSE(model.awaySince);
+    EXPECT_FALSE(model.awaySince());
     EXPECT_TRUE(page.awayLines().isEmpty());
 }

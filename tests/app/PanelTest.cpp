@@ -62,19 +62,19 @@ TEST(MenuReading, ScalesAndMissingReadings)
 {
     auto demo = readModel();
     auto& model = *demo->model;
-    const auto& system = model.frame->system;
+    const auto& system = model.frame()->system;
     const auto reading = [&](MenuItemKind kind) { return menuReading(model, {kind, true, MenuItemStyle::both}); };
     EXPECT_EQ(reading(MenuItemKind::thermal).style, MenuItemStyle::value);
-    EXPECT_EQ(reading(MenuItemKind::cpu).trace.size(), model.ring.samples().size());
+    EXPECT_EQ(reading(MenuItemKind::cpu).trace.size(), model.ring().samples().size());
     const auto before = reading(MenuItemKind::network);
-    auto settings = model.settings;
+    auto settings = model.settings();
     settings.networkBits = true;
     settings.cpuScale = CPUScale::core;
     model.changeSettings(settings);
     EXPECT_EQ(reading(MenuItemKind::network).text, shortRate(system.net.inRate * 8, false));
     EXPECT_NE(reading(MenuItemKind::network).text, before.text);
-    EXPECT_EQ(reading(MenuItemKind::cpu).text, Fmt::percent((system.cpu.user + system.cpu.system) * model.cores));
-    model.frame->system.gpu.reset();
+    EXPECT_EQ(reading(MenuItemKind::cpu).text, Fmt::percent((system.cpu.user + system.cpu.system) * model.cores()));
+    vexel::testing::receiveChanged(model, [](TickResult& tick) { tick.frame.system.gpu.reset(); });
     EXPECT_EQ(reading(MenuItemKind::gpu).text, "—");
 }
 
@@ -191,7 +191,7 @@ TEST(MenuBarController, ItemsFollowTheSettingsInOrder)
     EXPECT_EQ(panel.order(), (Kinds{MenuItemKind::cpu, MenuItemKind::memory, MenuItemKind::network}));
 
     // A newly enabled reading joins at the end; nothing is re-created.
-    auto settings = model.settings;
+    auto settings = model.settings();
     settings.menuItems[6].enabled = true; // GPU, last in the list
     model.changeSettings(settings);
     EXPECT_EQ(
@@ -232,10 +232,12 @@ TEST(MenuDropdown, ReadingsWithoutPerAppFiguresSaySoInTheirPlatformsWords)
 {
     auto demo = readModel(Platform::linux);
     auto& model = *demo->model;
-    model.frame->system.battery.reset();
-    model.frame->system.sensors
-        = {{{"k10temp", "Tctl", 71, std::nullopt, std::nullopt}, {"nvme", "Composite", 39, 81.85, 84.85}},
-            {{"thinkpad", "fan1", 3100}}};
+    vexel::testing::receiveChanged(model, [](TickResult& tick) {
+        tick.frame.system.battery.reset();
+        tick.frame.system.sensors
+            = {{{"k10temp", "Tctl", 71, std::nullopt, std::nullopt}, {"nvme", "Composite", 39, 81.85, 84.85}},
+                {{"thinkpad", "fan1", 3100}}};
+    });
     const MenuDropdown::Actions none{[] {}, [] {}, [] {}};
     EXPECT_EQ(MenuDropdown(model, MenuItemKind::gpu, none).note(),
         QStringLiteral("Vexel doesn't read GPU use per app on Linux."));

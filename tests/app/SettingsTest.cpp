@@ -59,7 +59,7 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
 
     auto& general = tabOf<GeneralTab>(settings, SettingsWindow::Tab::general);
     general.interval()->select(10);
-    EXPECT_EQ(model.settings.sampleSeconds, 10);
+    EXPECT_EQ(model.settings().sampleSeconds, 10);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return VexelSettings::load(VexelPaths(demo.folder.path()).settings()).sampleSeconds == 10; }));
     EXPECT_EQ(model.tickSeconds(), 10); // hidden: the new interval
@@ -68,23 +68,23 @@ TEST(Settings, AChangeIsSavedAtOnceAndTheModelFollowsIt)
     CpuPage cpu(nullptr);
     QObject::connect(&model, &AppModel::changed, &cpu, [&](unsigned) { cpu.showModel(model); });
     general.perCore()->setChecked(true);
-    EXPECT_EQ(model.settings.cpuScale, CPUScale::core);
+    EXPECT_EQ(model.settings().cpuScale, CPUScale::core);
     EXPECT_EQ(cpu.scaleText(), QStringLiteral("CPU figures are shown as % of one core (like Activity Monitor)."));
 
     // Red stays beyond amber when amber moves past it.
     auto& alerts = tabOf<AlertsTab>(settings, SettingsWindow::Tab::alerts);
     alerts.diskAmber()->select(0.05);
-    EXPECT_DOUBLE_EQ(model.settings.strain.diskFreeElevated, 0.05);
-    EXPECT_LE(model.settings.strain.diskFreeStrained, 0.05);
+    EXPECT_DOUBLE_EQ(model.settings().strain.diskFreeElevated, 0.05);
+    EXPECT_LE(model.settings().strain.diskFreeStrained, 0.05);
     alerts.batteryAmber()->select(10);
-    EXPECT_EQ(model.settings.strain.batteryElevated, 10);
-    EXPECT_LE(model.settings.strain.batteryStrained, 10);
+    EXPECT_EQ(model.settings().strain.batteryElevated, 10);
+    EXPECT_LE(model.settings().strain.batteryStrained, 10);
 
     // Filling a tab from the model saves nothing.
-    const auto before = model.settings;
+    const auto before = model.settings();
     for (const auto tab : {SettingsWindow::Tab::general, SettingsWindow::Tab::alerts, SettingsWindow::Tab::history})
         settings.tab(tab)->showModel(model);
-    EXPECT_EQ(model.settings, before);
+    EXPECT_EQ(model.settings(), before);
 }
 
 TEST(Settings, PanelItemsReorderSwitchAndRestore)
@@ -96,13 +96,13 @@ TEST(Settings, PanelItemsReorderSwitchAndRestore)
     auto& panel = tabOf<PanelTab>(settings, SettingsWindow::Tab::panel);
     EXPECT_EQ(panel.rows().mid(0, 3), (QStringList{"CPU on, Both", "Memory on, Value", "Network on, Value"}));
     panel.move(0, 1);
-    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::memory);
-    EXPECT_EQ(model.settings.menuItems[1].kind, MenuItemKind::cpu);
+    EXPECT_EQ(model.settings().menuItems[0].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings().menuItems[1].kind, MenuItemKind::cpu);
     EXPECT_EQ(panel.rows().front(), QStringLiteral("Memory on, Value"));
     panel.move(0, -1); // the first can't go up
     panel.move(6, 1); // nor the last down
-    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::memory);
-    EXPECT_EQ(model.settings.menuItems[6].kind, MenuItemKind::gpu);
+    EXPECT_EQ(model.settings().menuItems[0].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings().menuItems[6].kind, MenuItemKind::gpu);
     // Dropped on the fifth row, the first reading takes its place and the others close up.
     settings.show();
     settings.showTab(SettingsWindow::Tab::panel);
@@ -117,10 +117,10 @@ TEST(Settings, PanelItemsReorderSwitchAndRestore)
     ASSERT_TRUE(enter.isAccepted()) << "the tab takes a dragged row";
     QDropEvent drop(QPointF(at), Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&panel, &drop);
-    EXPECT_EQ(model.settings.menuItems[4].kind, MenuItemKind::memory);
-    EXPECT_EQ(model.settings.menuItems[0].kind, MenuItemKind::cpu);
+    EXPECT_EQ(model.settings().menuItems[4].kind, MenuItemKind::memory);
+    EXPECT_EQ(model.settings().menuItems[0].kind, MenuItemKind::cpu);
     panel.restoreDefaults();
-    EXPECT_EQ(model.settings.menuItems, defaultMenuItems());
+    EXPECT_EQ(model.settings().menuItems, defaultMenuItems());
 }
 
 TEST(CommandLineSetup, LinksTheCommandIntoTheUsersBin)
@@ -190,7 +190,7 @@ TEST(VexelCommands, EveryRouteOnItsShortcutAndTheSettingsOnCtrlComma)
             actions.at(static_cast<int>(route))->shortcut(), QKeySequence(QString::fromStdString(shortcut(route))));
     actions.at(static_cast<int>(Route::memory))->trigger();
     EXPECT_EQ(window.currentRoute(), Route::memory);
-    EXPECT_EQ(model.route, Route::memory);
+    EXPECT_EQ(model.route(), Route::memory);
     // The settings on Ctrl+, on any desktop (Qt knows no key for them outside macOS and KDE), and quitting.
     const auto vexel = commands.vexelActions();
     ASSERT_EQ(vexel.size(), 2);
@@ -199,9 +199,9 @@ TEST(VexelCommands, EveryRouteOnItsShortcutAndTheSettingsOnCtrlComma)
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(vexel.at(1)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
     // Quit Selected App asks about the app selected.
-    model.selectApp(model.frame->app("iTerm2")->id);
+    model.selectApp(model.frame()->app("iTerm2")->id);
     actions.at(11)->trigger();
-    ASSERT_TRUE(model.confirm);
+    ASSERT_TRUE(model.confirm());
 }
 
 // A settings file the user broke is said in the window and left as it is
@@ -215,7 +215,7 @@ TEST(Settings, ABrokenFileIsShownAndLeftAloneThroughARun)
     const auto file = VexelPaths(demo->folder.path()).settings();
     MainWindow window;
     window.bind(model);
-    ASSERT_EQ(model.notices.size(), 1u);
+    ASSERT_EQ(model.notices().size(), 1u);
     EXPECT_EQ(window.banner()->texts(),
         QStringList{qs(file.string()
             + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
@@ -224,12 +224,13 @@ TEST(Settings, ABrokenFileIsShownAndLeftAloneThroughARun)
     demo->ticks(2);
     model.setWindowVisible(true);
     model.setWindowVisible(false);
-    auto changed = model.settings;
+    auto changed = model.settings();
     changed.sampleSeconds = 10;
     model.changeSettings(changed);
     demo->settle();
-    ASSERT_TRUE(model.toast);
-    EXPECT_TRUE(model.toast->starts_with("Your change holds until Vexel quits but can't be saved. ")) << *model.toast;
+    ASSERT_TRUE(model.toast());
+    EXPECT_TRUE(model.toast()->starts_with("Your change holds until Vexel quits but can't be saved. "))
+        << *model.toast();
     EXPECT_EQ(model.tickSeconds(), 10);
     model.shutdown();
     model.dismissNotice(0);

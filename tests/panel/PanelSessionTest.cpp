@@ -84,7 +84,7 @@ TEST(PanelSession, ItemsRegisterShowFollowTheSettingsAndOpenTheirDropdowns)
     DemoModel demo([](VexelSettings& settings) { settings.sampleSeconds = 3600; });
     auto& model = *demo.model;
     demo.ticks(3, true);
-    auto settings = model.settings;
+    auto settings = model.settings();
     for (auto& item : settings.menuItems)
         item.enabled = true;
     model.changeSettings(settings);
