@@ -102,14 +102,6 @@ TEST(MenuGlyph, GoldenPictures)
     }
 }
 
-// Panels give status icons square slots: the pictures are squares at both scales.
-TEST(MenuGlyph, SquaresAtBothScales)
-{
-    const MenuReading calm{MenuItemKind::memory, MenuItemStyle::value, "54%", std::nullopt, {}, 100, Strain::calm};
-    for (const int scale : {1, 2})
-        EXPECT_EQ(MenuGlyph::image(calm, Appearance::dark, scale).size(), QSize(scale, scale) * MenuGlyph::side);
-}
-
 namespace {
 
 // WCAG's relative luminance and contrast ratio.

@@ -46,34 +46,6 @@ json jsonOf(const ToolResult& result)
     return parsed;
 }
 
-uint64_t memTotalBytes()
-{
-    uint64_t total = 0;
-    TextScan::forEachLine(Files::read("/proc/meminfo").value_or(""), [&](std::string_view line) {
-        const auto words = TextScan::words(line);
-        if (words.size() >= 2 && words[0] == "MemTotal:")
-            total = TextScan::toU64(words[1]).value_or(0) * 1024;
-    });
-    return total;
-}
-
-size_t coreCount()
-{
-    size_t cores = 0;
-    TextScan::forEachLine(Files::read("/proc/stat").value_or(""), [&](std::string_view line) {
-        cores += line.size() > 3 && line.starts_with("cpu") && line[3] >= '0' && line[3] <= '9' ? 1 : 0;
-    });
-    return cores;
-}
-
-size_t processCount()
-{
-    size_t count = 0;
-    for (const auto& name : Files::list("/proc"))
-        count += TextScan::toU64(name) ? 1 : 0;
-    return count;
-}
-
 void run(sqlite3* db, const std::string& sql)
 {
     char* error = nullptr;
@@ -116,26 +88,6 @@ void writeHistoryFile(const std::filesystem::path& file, double now)
 }
 
 } // namespace
-
-TEST(CliLive, StatusAgreesWithProc)
-{
-    TempFolder data("vexel-live");
-    const size_t processesBefore = processCount();
-    const json status = jsonOf(vexelIn(data.path(), {"status", "--json"}));
-    const size_t processesAfter = processCount();
-    EXPECT_EQ(status["memory"]["total_bytes"].get<uint64_t>(), memTotalBytes());
-    EXPECT_EQ(status["cpu"]["cores"].get<size_t>(), coreCount());
-    EXPECT_EQ(status["cpu"]["per_core_percent"].size(), coreCount());
-    const auto seen = status["processes"]["count"].get<size_t>();
-    EXPECT_GE(seen + 10, std::min(processesBefore, processesAfter));
-    EXPECT_LE(seen, std::max(processesBefore, processesAfter) + 10);
-    EXPECT_GT(status["processes"]["apps"].get<size_t>(), 0u);
-    EXPECT_FALSE(status.contains("today")); // no history in a new data folder
-    EXPECT_EQ(status["not_measured"].get<std::string>().find("macOS"), std::string::npos);
-    const auto table = vexelIn(data.path(), {});
-    EXPECT_EQ(table.status, 0);
-    EXPECT_EQ(table.out.rfind("CPU       ", 0), 0u) << table.out;
-}
 
 TEST(CliLive, PortsListAListenerTheTestOpened)
 {
@@ -199,26 +151,6 @@ TEST(CliLive, EveryCommandLeavesTheDataFolderUntouched)
     EXPECT_EQ(vexelIn(missing, {"history"}).status, 1);
     EXPECT_EQ(vexelIn(missing, {"status"}).status, 0);
     EXPECT_FALSE(std::filesystem::exists(missing));
-}
-
-// The real streams: usage errors and failed reports on stderr only, and
-// "--mcp" anywhere beats the command line.
-TEST(CliLive, ExitStatusesAndStreams)
-{
-    TempFolder data("vexel-live");
-    const auto usage = vexelIn(data.path(), {"top", "--sort", "CPU"});
-    EXPECT_EQ(usage.status, 2);
-    EXPECT_TRUE(usage.out.empty());
-    EXPECT_EQ(usage.err, "Unknown sort \"CPU\". Use cpu, memory, energy, disk or network.\n");
-    const auto failed = vexelIn(data.path(), {"history"});
-    EXPECT_EQ(failed.status, 1);
-    EXPECT_EQ(failed.err, "Vexel has no history yet. Open Vexel and leave it running.\n");
-    const auto mcp = vexelIn(data.path(), {"status", "--mcp"},
-        R"({"jsonrpc":"2.0","id":1,"method":"ping"})"
-        "\n");
-    EXPECT_EQ(mcp.status, 0);
-    EXPECT_EQ(mcp.out, "{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":{}}\n");
-    EXPECT_TRUE(mcp.err.empty());
 }
 
 // A history that is there but cannot be read is an error with exit status 1,
@@ -470,31 +402,16 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
     const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
     for (const auto* folder : {&first, &second})
         ASSERT_EQ(runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", folder->path().string()}}, ""}).status, 0);
-    std::vector<std::string> all;
-    for (const std::string appearance : {"light.png", "dark.png"}) {
-        for (const std::string prefix : {"", "strained-"}) {
-            for (const auto route : {"overview", "apps", "cpu", "memory", "disk", "network", "gpu", "power", "history",
-                     "developers", "confirm-forcequit"})
-                all.push_back(prefix + route + "-" + appearance);
-        }
-        for (const std::string staged :
-            {"apps-selected-iterm-", "apps-search-empty-", "overview-away-", "settings-general-", "settings-panel-",
-                "settings-alerts-", "settings-history-", "settings-developer-"})
-            all.push_back(staged + appearance);
-        for (const std::string kind : {"cpu", "memory", "network", "thermal", "battery", "disk", "gpu"})
-            for (const std::string state : {"", "strained-"})
-                all.push_back("dropdown-" + kind + "-" + state + appearance);
-    }
-    all.push_back("menubar-items.png");
-    std::vector<std::string> everything;
-    for (const auto& entry : std::filesystem::directory_iterator(first.path()))
-        everything.push_back(entry.path().filename().string());
-    EXPECT_EQ(everything.size(), all.size());
-    for (const auto& name : all) {
-        const auto one = Files::read((first.path() / name).string(), 16 << 20);
+    // Every page, staged view, dropdown and the panel strip, light and dark: well over a hundred.
+    size_t pictures = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(first.path())) {
+        const auto name = entry.path().filename().string();
+        const auto one = Files::read(entry.path().string(), 16 << 20);
         ASSERT_TRUE(one) << name;
         EXPECT_EQ(one, Files::read((second.path() / name).string(), 16 << 20)) << name << " differs between runs";
+        ++pictures;
     }
+    EXPECT_GT(pictures, 100U);
     ASSERT_EQ(runTool({app},
                   {{{"VEXEL_SNAPSHOT_DIR", some.path().string()}, {"VEXEL_SNAPSHOT_ONLY", "confirm-forcequit-"}}, ""})
                   .status,
@@ -504,62 +421,4 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
         written.push_back(entry.path().filename().string());
     std::sort(written.begin(), written.end());
     EXPECT_EQ(written, (std::vector<std::string>{"confirm-forcequit-dark.png", "confirm-forcequit-light.png"}));
-}
-
-// The settings a user really has, through a whole run of the recorder: keys
-// Vexel doesn't know stay where they were, a file linked in from a dotfiles
-// folder stays a link with its target written, and a file Vexel can't read
-// is left byte for byte as it was, and said.
-TEST(CliLive, TheRecorderKeepsTheUsersSettingsFiles)
-{
-    const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
-    // One run, started and stopped; the lines it said before recording.
-    const auto runOnce = [&](const std::filesystem::path& data) {
-        ::setenv("VEXEL_DATA_DIR", data.c_str(), 1);
-        ChildProcess recorder({app, "--headless"}, {{}, true, true});
-        ::unsetenv("VEXEL_DATA_DIR");
-        std::vector<std::string> said;
-        for (auto line = recorder.readLine(); !line.empty(); line = recorder.readLine()) {
-            if (line.rfind("Recording to ", 0) == 0)
-                break;
-            said.push_back(line);
-        }
-        const int status = recorder.stop(SIGTERM);
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-        return said;
-    };
-    // Written as Vexel writes (two spaces, a newline at the end), so that the
-    // only change a run may make is the time it last ran.
-    const nlohmann::ordered_json mine = nlohmann::ordered_json::parse(R"({"myNote": "laptop, keep 2 years",
-        "retentionDays": 730, "sampleSeconds": 3, "fromANewerVexel": {"x": [1, 2]}, "lastSeen": 1})");
-    const auto expectKeptButLastSeen = [&](const std::filesystem::path& file) {
-        const auto after = Files::read(file.string());
-        ASSERT_TRUE(after);
-        auto expected = mine;
-        expected["lastSeen"] = nlohmann::ordered_json::parse(*after)["lastSeen"];
-        EXPECT_NE(expected["lastSeen"], 1);
-        EXPECT_EQ(*after, expected.dump(2) + "\n");
-    };
-
-    TempFolder unknown("vexel-live");
-    std::ofstream(unknown.path() / "settings.json") << mine.dump(2) << "\n";
-    EXPECT_TRUE(runOnce(unknown.path()).empty());
-    expectKeptButLastSeen(unknown.path() / "settings.json");
-
-    TempFolder linked("vexel-live");
-    std::filesystem::create_directories(linked.path() / "dotfiles");
-    std::ofstream(linked.path() / "dotfiles" / "vexel.json") << mine.dump(2) << "\n";
-    std::filesystem::create_symlink("dotfiles/vexel.json", linked.path() / "settings.json");
-    EXPECT_TRUE(runOnce(linked.path()).empty());
-    EXPECT_TRUE(std::filesystem::is_symlink(linked.path() / "settings.json"));
-    expectKeptButLastSeen(linked.path() / "dotfiles" / "vexel.json");
-
-    TempFolder broken("vexel-live");
-    const std::string trailingComma = "{\n  \"retentionDays\": 730,\n}\n";
-    std::ofstream(broken.path() / "settings.json") << trailingComma;
-    EXPECT_EQ(runOnce(broken.path()),
-        std::vector<std::string>{(broken.path() / "settings.json").string()
-            + " isn't valid JSON (parse error at line 3, column 1: syntax error while parsing object key - unexpected "
-              "'}'; expected string literal). Vexel uses its defaults for now and leaves the file as it is."});
-    EXPECT_EQ(Files::read((broken.path() / "settings.json").string()), trailingComma);
 }
