@@ -402,7 +402,7 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
     const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
     for (const auto* folder : {&first, &second})
         ASSERT_EQ(runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", folder->path().string()}}, ""}).status, 0);
-    // Every page, staged view, dropdown and the panel strip, light and dark: well over a hundred.
+    // Every page (calm and strained), staged view, dropdown and the panel strip, light and dark.
     size_t pictures = 0;
     for (const auto& entry : std::filesystem::directory_iterator(first.path())) {
         const auto name = entry.path().filename().string();
@@ -411,7 +411,7 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
         EXPECT_EQ(one, Files::read((second.path() / name).string(), 16 << 20)) << name << " differs between runs";
         ++pictures;
     }
-    EXPECT_GT(pictures, 100U);
+    EXPECT_GT(pictures, 80U);
     ASSERT_EQ(runTool({app},
                   {{{"VEXEL_SNAPSHOT_DIR", some.path().string()}, {"VEXEL_SNAPSHOT_ONLY", "confirm-forcequit-"}}, ""})
                   .status,
