@@ -43,7 +43,7 @@ void drawLegend(
 
 QRectF Chart::plotOf(const QRectF& area)
 {
-    return area.adjusted(0, ChartScale::wordsHeight + 2, 0, -ChartScale::wordsHeight);
+    return ChartScale::plotIn(area);
 }
 
 QPointF Chart::place(const QPointF& point, const QRectF& plot) const
@@ -104,14 +104,12 @@ void Chart::paint(QPainter& painter, const QRectF& area, const QPalette& palette
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF plot = plotOf(area);
     drawLegend(painter, area, series, palette);
-    ChartScale::drawTopValue(painter, plot, valueText(top), palette);
-    ChartScale::drawGrid(painter, plot, top, palette);
     std::vector<ChartScale::Mark> marks;
     for (const double t : minorTimes)
         marks.push_back({place({t, 0}, plot).x(), {}});
     for (const auto& [t, label] : times)
         marks.push_back({place({t, 0}, plot).x(), label});
-    ChartScale::drawMarks(painter, plot, marks, palette);
+    ChartScale::draw(painter, plot, top, valueText(top), marks, palette);
 
     // The first series last, over the others.
     for (size_t i = series.size(); i-- > 0;) {

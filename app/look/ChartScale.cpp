@@ -15,8 +15,6 @@ namespace {
 constexpr double majorTick = 3;
 constexpr double minorTick = 2;
 
-} // namespace
-
 void drawGrid(QPainter& painter, const QRectF& plot, double top, const QPalette& palette)
 {
     painter.save();
@@ -58,13 +56,27 @@ void drawMarks(QPainter& painter, const QRectF& plot, const std::vector<Mark>& m
             QPointF(mark.x, plot.bottom()), QPointF(mark.x, plot.bottom() + (major ? majorTick : minorTick)));
         if (!major)
             continue;
-        // Centred under its tick, kept inside the plot's width at either end.
         const double width = metrics.horizontalAdvance(mark.label) + 2;
         const double left = std::clamp(mark.x - width / 2, plot.left(), std::max(plot.left(), plot.right() - width));
         painter.drawText(QRectF(left, plot.bottom() + majorTick, width, wordsHeight - majorTick),
             Qt::AlignHCenter | Qt::AlignBottom, mark.label);
     }
     painter.restore();
+}
+
+} // namespace
+
+QRectF plotIn(const QRectF& area)
+{
+    return area.adjusted(0, wordsHeight + 2, 0, -wordsHeight);
+}
+
+void draw(QPainter& painter, const QRectF& plot, double top, const QString& topWords, const std::vector<Mark>& marks,
+    const QPalette& palette)
+{
+    drawGrid(painter, plot, top, palette);
+    drawTopValue(painter, plot, topWords, palette);
+    drawMarks(painter, plot, marks, palette);
 }
 
 } // namespace vexel::ChartScale

@@ -22,19 +22,17 @@ double Sparkline::heightOf(double value, double plotHeight) const
 
 QRectF Sparkline::plotOf(const QRectF& area) const
 {
-    return scaled ? area.adjusted(0, ChartScale::wordsHeight + 2, 0, -ChartScale::wordsHeight) : area;
+    return scaled ? ChartScale::plotIn(area) : area;
 }
 
 void Sparkline::paint(QPainter& painter, const QRectF& frame, const QPalette& palette) const
 {
     const QRectF area = plotOf(frame);
     if (scaled) {
-        ChartScale::drawGrid(painter, area, top, palette);
-        ChartScale::drawTopValue(painter, area, valueText(top), palette);
         std::vector<ChartScale::Mark> ticks;
         for (const auto& [fraction, label] : marks)
             ticks.push_back({area.left() + area.width() * std::clamp(fraction, 0.0, 1.0), label});
-        ChartScale::drawMarks(painter, area, ticks, palette);
+        ChartScale::draw(painter, area, top, valueText(top), ticks, palette);
     }
     if (values.size() < 2)
         return;

@@ -288,9 +288,9 @@ void AppModel::receive(Sampler::HistoryResult result)
 void AppModel::loadHistorySync()
 {
     const double now = m_clock();
-    m_sampler->run([&](Sampler& sampler) { m_history = sampler.history(m_historyRange, now, m_settings.spikes); });
-    m_historyLoading = false;
-    notify(historyChanged);
+    Sampler::HistoryResult result;
+    m_sampler->run([&](Sampler& sampler) { result = sampler.history(m_historyRange, now, m_settings.spikes); });
+    receive(std::move(result));
 }
 
 void AppModel::prepareAway()

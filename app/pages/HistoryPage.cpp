@@ -9,8 +9,7 @@
 #include "look/Labels.h"
 #include "look/PaintedView.h"
 #include "model/AppModel.h"
-#include "pages/TimeTicks.h"
-#include "pages/Traces.h"
+#include "pages/HistoryCharts.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
 #include "time/TimeZone.h"
@@ -30,50 +29,6 @@ namespace vexel {
 namespace {
 
 constexpr int chartsShown = 4;
-
-// The longest pause between readings that still counts as one stretch: a
-// few of the tier's own steps.
-double gapFor(const std::vector<SysPoint>& points)
-{
-    double step = 0;
-    for (const auto& point : points)
-        step = std::max(step, std::min(point.dur, 3600.0));
-    return std::max(step, 5.0) * 3;
-}
-
-// Shares of the machine, in percent, on the range's frame (its span, gap and time marks).
-Chart shareChart(
-    const std::vector<SysPoint>& points, Chart chart, std::vector<std::pair<QString, double SysPoint::*>> fields)
-{
-    chart.top = 100;
-    chart.valueText = shareText;
-    for (const auto& [name, field] : fields) {
-        Chart::Series series{name, {}};
-        for (const auto& point : points)
-            series.points.emplace_back(point.t + point.dur / 2, point.*field * 100);
-        chart.series.push_back(std::move(series));
-    }
-    return chart;
-}
-
-// Amounts per interval, drawn as rates so that tiers of different steps compare.
-Chart rateChart(const std::vector<SysPoint>& points, Chart chart,
-    std::vector<std::pair<QString, double SysPoint::*>> fields, Fmt::RateUnit unit)
-{
-    double top = 0;
-    for (const auto& [name, field] : fields) {
-        Chart::Series series{name, {}};
-        for (const auto& point : points) {
-            const double rate = point.dur > 0 ? point.*field / point.dur : 0;
-            top = std::max(top, rate);
-            series.points.emplace_back(point.t + point.dur / 2, rate);
-        }
-        chart.series.push_back(std::move(series));
-    }
-    chart.top = rateTop(top, unit);
-    chart.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
-    return chart;
-}
 
 std::string spikeTime(const Spike& spike, const TimeZone& zone)
 {
@@ -208,13 +163,7 @@ void HistoryPage::showCharts(const AppModel& model)
 {
     const auto& history = *model.history();
     const auto& points = history.points;
-    const double gap = gapFor(points);
-    Chart frame;
-    frame.from = history.from;
-    frame.to = history.to;
-    frame.gapAfter = gap;
-    frame.times = timeTicks(history.from, history.to, model.historyRange(), model.zone);
-    frame.minorTimes = minorTicks(history.from, history.to, model.historyRange(), model.zone);
+    const Chart frame = chartFrame(points, history.from, history.to, model.historyRange(), model.zone);
     const std::array<Chart, chartsShown> charts{
         shareChart(points, frame, {{Vexel::tr("Average"), &SysPoint::cpu}, {Vexel::tr("Peak"), &SysPoint::cpuMax}}),
         shareChart(points, frame, {{Vexel::tr("In use"), &SysPoint::mem}}),
@@ -226,7 +175,7 @@ void HistoryPage::showCharts(const AppModel& model)
         m_chartViews[i]->draw(charts[i]);
     bool gaps = false;
     for (size_t i = 1; i < points.size(); ++i)
-        gaps = gaps || points[i].t - points[i - 1].t > gap;
+        gaps = gaps || points[i].t - points[i - 1].t > frame.gapAfter;
     m_gapNote->setText(model.platform == Platform::macOS
             ? Vexel::tr("The lines break where readings stop. Your Mac was off, asleep or Vexel wasn't running.")
             : Vexel::tr("The lines break where readings stop. Your computer was off, asleep or Vexel wasn't running."));

@@ -2,8 +2,8 @@
 
 #include "format/Fmt.h"
 #include "format/RoundSteps.h"
+#include "pages/HistoryCharts.h"
 #include "pages/TimeTicks.h"
-#include "pages/Traces.h"
 #include "texts/Vexel.h"
 
 #include <algorithm>
@@ -52,25 +52,17 @@ BarBank weekBank(const std::vector<DayTotal>& week, const TimeZone& zone)
 
 Chart todayChart(const AppModel& model)
 {
-    Chart chart;
     if (!model.frame())
-        return chart;
-    chart.to = model.frame()->time;
-    chart.from = start(HistoryRange::today, chart.to, model.zone);
-    Chart::Series cpu{{}, {}};
-    double peak = 0;
-    double step = 0;
-    for (const auto& point : model.todaySeries()) {
-        cpu.points.emplace_back(point.t + point.dur / 2, point.cpu * 100);
-        peak = std::max(peak, point.cpu * 100);
-        step = std::max(step, std::min(point.dur, 3600.0));
-    }
-    chart.series.push_back(std::move(cpu));
-    chart.top = std::min(RoundSteps::roundUp(std::max(peak, 1.0)), 100.0);
-    chart.gapAfter = std::max(step, 60.0) * 3;
-    chart.valueText = shareText;
-    chart.times = timeTicks(chart.from, chart.to, HistoryRange::today, model.zone);
-    chart.minorTimes = minorTicks(chart.from, chart.to, HistoryRange::today, model.zone);
+        return {};
+    const double now = model.frame()->time;
+    const auto& points = model.todaySeries();
+    Chart chart = shareChart(points,
+        chartFrame(points, start(HistoryRange::today, now, model.zone), now, HistoryRange::today, model.zone),
+        {{QString(), &SysPoint::cpu}});
+    double peak = 1;
+    for (const auto& point : chart.series.front().points)
+        peak = std::max(peak, point.y());
+    chart.top = std::min(RoundSteps::roundUp(peak), 100.0);
     return chart;
 }
 

@@ -6,12 +6,10 @@
 #include "look/FollowAppearance.h"
 #include "look/Labels.h"
 #include "look/PaintedView.h"
-#include "look/Sparkline.h"
 #include "model/AppModel.h"
 #include "pages/OverviewFigures.h"
 #include "pages/TimeTicks.h"
 #include "pages/TopApps.h"
-#include "pages/Traces.h"
 #include "texts/QtText.h"
 #include "texts/Vexel.h"
 

@@ -28,9 +28,9 @@ QString shareText(double percent)
     return QString::fromStdString(Fmt::percent(percent / 100));
 }
 
-QString rateText(double bytesPerSecond)
+QString rateText(double bytesPerSecond, Fmt::RateUnit unit)
 {
-    return QString::fromStdString(Fmt::rate(bytesPerSecond, Fmt::RateUnit::bytes));
+    return QString::fromStdString(Fmt::rate(bytesPerSecond, unit));
 }
 
 double rateTop(double peak, Fmt::RateUnit unit)
@@ -83,7 +83,7 @@ Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain st
 {
     Sparkline trace = scaledTrace(ring, strain);
     trace.top = rateTop(ring.peak(field).value_or(0), unit);
-    trace.valueText = [unit](double value) { return QString::fromStdString(Fmt::rate(value, unit)); };
+    trace.valueText = [unit](double value) { return rateText(value, unit); };
     for (const auto& sample : ring.samples())
         trace.values.push_back(sample.*field);
     return trace;

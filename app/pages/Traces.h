@@ -28,8 +28,8 @@ namespace vexel {
 // the right and "4 min ago" under the oldest.
 [[nodiscard]] std::vector<std::pair<double, QString>> minuteMarks(const RecentRing& ring);
 
-// A trace's values in words: a share in percent ("16%"), a rate ("561 KB/s").
+// A trace's values in words: a share in percent ("16%"), a rate ("561 KB/s", "4.5 Mb/s").
 [[nodiscard]] QString shareText(double percent);
-[[nodiscard]] QString rateText(double bytesPerSecond);
+[[nodiscard]] QString rateText(double bytesPerSecond, Fmt::RateUnit unit = Fmt::RateUnit::bytes);
 
 } // namespace vexel

@@ -163,7 +163,7 @@ void MenuDropdown::showModel(const AppModel& model)
     Sparkline trace{reading.trace, reading.traceTop, reading.strain, shareText, true, minuteMarks(model.ring())};
     if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk) {
         const auto unit = m_kind == MenuItemKind::network ? model.networkUnit() : Fmt::RateUnit::bytes;
-        trace.valueText = [unit](double value) { return qs(Fmt::rate(value, unit)); };
+        trace.valueText = [unit](double value) { return rateText(value, unit); };
     }
     m_trace->draw(trace);
     m_trace->setVisible(canGraph(m_kind));
