@@ -197,16 +197,19 @@ void HistoryPage::showSpikes(const AppModel& model)
 {
     FigureRows::Rows rows;
     for (const auto& spike : model.history()->spikes) {
-        const QString summary = Vexel::say(spike.summary);
         // A summary that names the app already leaves only its share to say.
+        const bool named = spike.culprit && std::ranges::any_of(spike.summary.values, [&](const auto& value) {
+            return value.text == *spike.culprit;
+        });
         QString culprit;
-        if (spike.culprit && summary.contains(qs(*spike.culprit)))
+        if (named)
             culprit = spike.share ? Vexel::tr("%1 of it").arg(qs(Fmt::percent(*spike.share))) : QString();
         else if (spike.culprit && spike.share)
             culprit = Vexel::tr("mostly %1 (%2)").arg(qs(*spike.culprit), qs(Fmt::percent(*spike.share)));
         else if (spike.culprit)
             culprit = Vexel::tr("mostly %1").arg(qs(*spike.culprit));
-        rows.emplace_back(qs(spikeTime(spike, model.zone)) + QStringLiteral("   ") + summary, culprit);
+        rows.emplace_back(
+            qs(spikeTime(spike, model.zone)) + QStringLiteral("   ") + Vexel::say(spike.summary), culprit);
     }
     m_spikes->setRows(rows);
     m_noSpikes->setVisible(rows.empty());

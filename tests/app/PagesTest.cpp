@@ -358,6 +358,18 @@ TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
     EXPECT_LE(coreTime.size(), static_cast<int>(Downsample::busiestAppCount));
     EXPECT_TRUE(coreTime.filter(QRegularExpression(QStringLiteral("\\b0 min$"))).isEmpty())
         << coreTime.join('|').toStdString();
+
+    // A spike whose summary names its app says only its share beside it; one that doesn't names the app.
+    auto withSpikes = *model.history();
+    withSpikes.spikes = {Spike{SpikeKind::network, now - 900, now - 600, 7e8, "Safari", 0.4,
+                             Sentence{"%1 moved over the network by %2", {{"698 MB"}, {"Safari"}}}},
+        Spike{SpikeKind::cpu, now - 3000, now - 2400, 0.95, "Xcode", 0.8, Sentence{"The processor was busy"}}};
+    model.receive(std::move(withSpikes));
+    page.showModel(model);
+    const QStringList spikes = page.spikeRows();
+    ASSERT_EQ(spikes.size(), 2);
+    EXPECT_TRUE(spikes[0].endsWith(QStringLiteral("by Safari  40% of it"))) << spikes[0].toStdString();
+    EXPECT_TRUE(spikes[1].endsWith(QStringLiteral("busy  mostly Xcode (80%)"))) << spikes[1].toStdString();
 }
 
 // History in view follows the recording: each minute's batch is read again.
