@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace vexel {
 
@@ -27,13 +28,14 @@ public:
     // paint(painter, area, palette) and describe(), and perhaps describeAt(point, area)).
     template <typename Drawable> void draw(Drawable drawable)
     {
-        const QString value = drawable.describe();
+        // One copy, shared by the painting and the tool tip: a chart holds a range's readings.
+        const auto shown = std::make_shared<const Drawable>(std::move(drawable));
         Hover hover;
-        if constexpr (requires { drawable.describeAt(QPointF(), QRectF()); })
-            hover = [drawable](const QPointF& point, const QRectF& area) { return drawable.describeAt(point, area); };
-        setDrawing([drawable = std::move(drawable)](QPainter& painter, const QRectF& area,
-                       const QPalette& palette) { drawable.paint(painter, area, palette); },
-            value, std::move(hover));
+        if constexpr (requires { shown->describeAt(QPointF(), QRectF()); })
+            hover = [shown](const QPointF& point, const QRectF& area) { return shown->describeAt(point, area); };
+        setDrawing([shown](QPainter& painter, const QRectF& area,
+                       const QPalette& palette) { shown->paint(painter, area, palette); },
+            shown->describe(), std::move(hover));
     }
     // What the drawing shows under `point`, as its tool tip says it.
     [[nodiscard]] QString valueAt(const QPointF& point) const;
