@@ -161,10 +161,8 @@ void MenuDropdown::showModel(const AppModel& model)
     m_readouts->setRows(readoutsOf(model, m_kind));
     const MenuReading reading = menuReading(model, {m_kind, true, MenuItemStyle::graph});
     Sparkline trace{reading.trace, reading.traceTop, reading.strain, shareText, true, minuteMarks(model.ring())};
-    if (m_kind == MenuItemKind::network || m_kind == MenuItemKind::disk) {
-        const auto unit = m_kind == MenuItemKind::network ? model.networkUnit() : Fmt::RateUnit::bytes;
-        trace.valueText = [unit](double value) { return rateText(value, unit); };
-    }
+    if (const auto unit = rateUnit(model, m_kind))
+        trace.valueText = [unit = *unit](double value) { return rateText(value, unit); };
     m_trace->draw(trace);
     m_trace->setVisible(canGraph(m_kind));
     m_traceCaption->setVisible(canGraph(m_kind));

@@ -40,6 +40,15 @@ std::string shortRate(double bytesPerSecond, bool bits)
     return step > 0 && value < 10 ? cformat("%.1f%s", value, suffix) : cformat("%.0f%s", value, suffix);
 }
 
+std::optional<Fmt::RateUnit> rateUnit(const AppModel& model, MenuItemKind kind)
+{
+    switch (kind) {
+    case MenuItemKind::network: return model.networkUnit();
+    case MenuItemKind::disk: return Fmt::RateUnit::bytes;
+    default: return std::nullopt;
+    }
+}
+
 MenuReading menuReading(const AppModel& model, const MenuItemConfig& config)
 {
     MenuReading reading{config.kind, config.style, "—", std::nullopt, {}, 100, model.strain(config.kind)};
@@ -84,13 +93,12 @@ MenuReading menuReading(const AppModel& model, const MenuItemConfig& config)
     case MenuItemKind::thermal: reading.text = Vexel::words(title(system.thermal)).toStdString(); break;
     }
     // Rates have no natural top: their graph reaches the round step over its own peak.
-    if (config.kind == MenuItemKind::network || config.kind == MenuItemKind::disk) {
+    if (const auto unit = rateUnit(model, config.kind)) {
         double peak = 0;
         for (const double value : reading.trace)
             if (std::isfinite(value))
                 peak = std::max(peak, value);
-        const bool inBits = config.kind == MenuItemKind::network && bits;
-        reading.traceTop = rateTop(peak, inBits ? Fmt::RateUnit::bits : Fmt::RateUnit::bytes);
+        reading.traceTop = rateTop(peak, *unit);
     }
     return reading;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "format/Fmt.h"
 #include "settings/MenuItemConfig.h"
 #include "spikes/Strain.h"
 
@@ -29,6 +30,10 @@ struct MenuReading {
 // divided by 1000 while at least 1000 with K, M or G after, "%.1f" under 10
 // with a suffix and "%.0f" otherwise; nothing beyond G (2000G).
 [[nodiscard]] std::string shortRate(double bytesPerSecond, bool bits);
+
+// The unit a kind's trace is a rate in: the network's as the settings say,
+// the disk's in bytes; nothing for a share or a level.
+[[nodiscard]] std::optional<Fmt::RateUnit> rateUnit(const AppModel& model, MenuItemKind kind);
 
 // The reading of `config`'s kind in the model's latest frame and ring.
 [[nodiscard]] MenuReading menuReading(const AppModel& model, const MenuItemConfig& config);
