@@ -293,33 +293,6 @@ TEST(DevelopersPage, ServersByProjectWithIdleFlagAndReach)
                 EXPECT_FALSE(port.contains(QString::fromStdString("process " + std::to_string(server.pid))));
 }
 
-// Leaving Developers stops the container reads that being on it started.
-TEST(Pages, DevelopersInViewReadsContainersAndLeavingStopsThem)
-{
-    auto demo = readModel();
-    auto& model = *demo->model;
-    MainWindow window;
-    window.bind(model);
-    model.setWindowVisible(true);
-    demo->settle();
-    unsigned seen = 0;
-    QObject::connect(&model, &AppModel::changed, [&seen](unsigned what) { seen |= what; });
-    const auto ticks = [&](int count) {
-        seen = 0;
-        demo->ticks(count);
-    };
-    ticks(10); // 20 s on Overview
-    EXPECT_FALSE(seen & AppModel::dockerChanged);
-    window.showRoute(Route::developers);
-    EXPECT_EQ(model.route(), Route::developers);
-    ticks(1); // the next plan reads ports and containers
-    EXPECT_TRUE(seen & AppModel::serversChanged);
-    EXPECT_TRUE(seen & AppModel::dockerChanged);
-    window.showRoute(Route::cpu);
-    ticks(10);
-    EXPECT_FALSE(seen & AppModel::dockerChanged);
-}
-
 TEST(HistoryPage, EachEmptyStateSaysWhichEmptyItIs)
 {
     auto demo = readModel(Platform::linux);

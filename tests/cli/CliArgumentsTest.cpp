@@ -36,21 +36,6 @@ TEST(CliArguments, IntegersAreStrictNumbersFollowStrtod)
         EXPECT_FALSE(parseNumber(bad)) << bad;
 }
 
-TEST(CliArguments, OptionsAreTakenAnywhereAndATrailingOneStays)
-{
-    std::vector<std::string> args{"-n", "3", "top", "--sort", "memory", "--json", "x", "--json"};
-    EXPECT_TRUE(Arguments::takeFlag(args, "--json"));
-    EXPECT_EQ(Arguments::takeOption(args, {"-n", "--limit"}), "3");
-    EXPECT_EQ(Arguments::takeOption(args, {"--sort", "-s"}), "memory");
-    EXPECT_EQ(args, (std::vector<std::string>{"top", "x"}));
-    std::vector<std::string> trailing{"top", "-n"};
-    EXPECT_FALSE(Arguments::takeOption(trailing, {"-n", "--limit"}));
-    EXPECT_EQ(trailing, (std::vector<std::string>{"top", "-n"}));
-    std::vector<std::string> first{"--limit", "2", "-n", "5"}; // the first spelling found wins
-    EXPECT_EQ(Arguments::takeOption(first, {"-n", "--limit"}), "2");
-    EXPECT_EQ(first, (std::vector<std::string>{"-n", "5"}));
-}
-
 TEST_F(CliOnDemoWorld, RefusalsAndFailuresGoToErrOnly)
 {
     using Args = std::vector<std::string>;
@@ -124,14 +109,10 @@ TEST_F(CliOnDemoWorld, OptionsStandAnywhereAndBadValuesFallBack)
 
 TEST(CliUsage, NamesTheMachineItRunsOn)
 {
+    // The Mac's whole text is the golden help.txt.
     const std::string mac = VexelCLI::usage(Platform::macOS);
-    EXPECT_EQ(mac.substr(0, mac.find('\n')), "vexel \u2014 what your Mac is doing, from the Vexel app (read-only).");
     const std::string linux = VexelCLI::usage(Platform::linux);
     EXPECT_EQ(
         linux.substr(0, linux.find('\n')), "vexel \u2014 what your computer is doing, from the Vexel app (read-only).");
     EXPECT_EQ(mac.substr(mac.find('\n')), linux.substr(linux.find('\n')));
-    EXPECT_NE(mac.back(), '\n');
-    EXPECT_NE(
-        mac.find("\n  vexel top [-n N] [--sort KEY]     busiest apps (KEY: cpu, memory, energy, disk, network)\n"),
-        std::string::npos);
 }

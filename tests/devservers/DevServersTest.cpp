@@ -119,7 +119,6 @@ TEST(DevServers, WhoCountsAsADeveloperServerOnLinux)
 
 TEST(DevServers, RuntimeLabels)
 {
-    EXPECT_EQ(DevServers::runtimes().size(), 61u);
     EXPECT_EQ(DevServers::runtimeLabel("Python"), "python");
     EXPECT_EQ(DevServers::runtimeLabel("python3"), "python");
     EXPECT_EQ(DevServers::runtimeLabel("python3.11"), "python");

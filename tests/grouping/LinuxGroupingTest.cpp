@@ -182,37 +182,6 @@ TEST(ProgramPaths, LinksAreFollowedInsideTheRoot)
     EXPECT_EQ(ProgramPaths::realPathUnder(root, "/usr/bin/../bin/./python3"), "/usr/bin/python3.11");
 }
 
-// One process per rule, with the reason; the golden list below holds every
-// process of the session.
-TEST_F(GnomeSession, EachRuleOnItsProcess)
-{
-    EXPECT_EQ(keyOf(14800), "app:chromium"); // a crash handler in the browser's scope
-    // Started outside any app scope: Debian's /usr/bin/chromium is a script, so
-    // the real program in /usr/lib is known by the entry's id.
-    EXPECT_EQ(keyOf(7001), "app:chromium");
-    // Entries of interpreters and terminal programs claim nothing by name.
-    EXPECT_EQ(keyOf(7100), "tool:python3");
-    EXPECT_EQ(keyOf(7200), "tool:vim");
-    // /usr/bin/google-chrome-stable links to /opt/google/chrome, whose install
-    // folder holds every helper.
-    EXPECT_EQ(keyOf(8031), "app:google-chrome");
-    EXPECT_EQ(keyOf(3160), "app:code"); // a dev server in the editor's terminal
-    EXPECT_EQ(keyOf(3200), "app:code"); // no app scope: its install folder names it
-    // GNOME Terminal's server is a /usr/libexec program in the slice
-    // app-org.gnome.Terminal.slice; its tabs are vte-spawn scopes in that slice:
-    // the shells, vim (Terminal=true) and a server left behind by its shell
-    // are the terminal's, and so is a user's PostgreSQL daemonised from a tab.
-    for (const int32_t pid : {2200, 2330, 5001})
-        EXPECT_EQ(keyOf(pid), "app:org.gnome.Terminal") << pid;
-    EXPECT_EQ(keyOf(2400), "app:org.gnome.Nautilus"); // activated over D-Bus into a slice of its own
-    EXPECT_EQ(keyOf(14452), "sys:Linux services"); // Debian's PostgreSQL under systemd
-    EXPECT_EQ(keyOf(590), "sys:Linux services"); // unreadable, system-owned
-    EXPECT_EQ(keyOf(6000), "tool:sleep"); // unreadable, another user's
-    EXPECT_EQ(keyOf(4010), "app:flatpak:org.mozilla.firefox");
-    EXPECT_EQ(keyOf(4100), "app:snap:thunderbird");
-    EXPECT_EQ(keyOf(4205), "app:appimage:Obsidi"); // the mount folder's random suffix left out
-}
-
 // What the sandbox or the environment says, where the scope and path do not:
 // a Flatpak started with `flatpak run` from a terminal tab, and an AppImage
 // relaunched into a new mount folder.
@@ -256,12 +225,6 @@ TEST_F(GnomeSession, GroupsOneRowPerApp)
     EXPECT_EQ(chromium->zombies, 1);
     EXPECT_EQ(chromium->memory, 13u << 20);
     EXPECT_EQ(chromium->mainPID, 14390); // the oldest member: Debian's program is a wrapper script
-    // Every member holds 1 MiB in this table: the biggest group has the most members.
-    EXPECT_EQ(groups.front().id, "sys:Linux services");
-    EXPECT_EQ(groups.front().processes.size(), 15u); // both systemds, daemons, session helpers, Debian's PostgreSQL
-    std::set<std::string> ids;
-    for (const auto& group : groups)
-        EXPECT_TRUE(ids.insert(group.id).second) << group.id;
 }
 
 TEST_F(GnomeSession, TheAppListAReviewerReads)
@@ -270,23 +233,10 @@ TEST_F(GnomeSession, TheAppListAReviewerReads)
     EXPECT_TRUE(differs.empty()) << differs;
 }
 
-TEST_F(KdeSession, KonsoleWithItsTabsChromeFlatpakAndSnap)
+// Konsole keeps its window in main.scope and each tab in tab(<pid>).scope
+// inside its app scope; htop's entry is Terminal=true.
+TEST_F(KdeSession, TheAppListAReviewerReads)
 {
-    // Konsole keeps its window in main.scope and each tab in tab(<pid>).scope
-    // inside its app scope; htop's entry is Terminal=true.
-    for (const int32_t pid : {41769, 41807, 42253, 42735, 42900, 42910})
-        EXPECT_EQ(keyOf(pid), "app:org.kde.konsole") << pid;
-    EXPECT_EQ(m_ids.at(42900).name, "Konsole");
-    for (const int32_t pid : {5100, 5110, 5120})
-        EXPECT_EQ(keyOf(pid), "app:google-chrome") << pid;
-    for (const int32_t pid : {6100, 6102})
-        EXPECT_EQ(keyOf(pid), "app:flatpak:org.telegram.desktop") << pid;
-    EXPECT_EQ(m_ids.at(6102).name, "Telegram Desktop");
-    EXPECT_EQ(keyOf(6210), "app:snap:slack");
-    EXPECT_EQ(m_ids.at(6210).name, "Slack");
-    EXPECT_EQ(keyOf(900), "sys:Linux services");
-    EXPECT_EQ(keyOf(1360), "sys:Display server");
-    EXPECT_EQ(keyOf(1470), "sys:File indexing");
     const auto differs = vexel::testing::compareGolden("grouping/kde-session.txt", appList());
     EXPECT_TRUE(differs.empty()) << differs;
 }

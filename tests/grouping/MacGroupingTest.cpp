@@ -90,24 +90,6 @@ TEST(MacIdentity, OutermostAppAndMainExecutable)
     EXPECT_FALSE(AppIdentity::isMainExecutable(chrome + "/Contents/Frameworks/x", chrome));
 }
 
-TEST(MacGrouping, ChromeAndItsThirtyTwoHelpersAreOneRow)
-{
-    std::vector<ProcRecord> records{proc(100, 1, "Google Chrome", chromeMain)};
-    for (int i = 0; i < 32; ++i) {
-        const char* kind = i % 3 == 0 ? " (GPU)" : (i % 3 == 1 ? " (Renderer)" : "");
-        const std::string helper = "Google Chrome Helper" + std::string(kind);
-        records.push_back(proc(200 + i, 100, helper, helpers + helper + ".app/Contents/MacOS/" + helper));
-    }
-    records.push_back(proc(300, 1, "chrome_crashpad_handler", helpers + "chrome_crashpad_handler"));
-    const auto groups = AppGrouper::group(records, {}, rules, nullptr);
-    ASSERT_EQ(groups.size(), 1u);
-    EXPECT_EQ(groups[0].id, "app:/Applications/Google Chrome.app");
-    EXPECT_EQ(groups[0].name, "Google Chrome");
-    EXPECT_EQ(groups[0].processes.size(), 34u);
-    EXPECT_EQ(groups[0].mainPID, 100);
-    EXPECT_EQ(groups[0].memory, 34000u);
-}
-
 TEST(MacGrouping, HelpersFollowParentsToTheirAppOrTool)
 {
     const std::string code = "/Applications/Visual Studio Code.app";

@@ -66,16 +66,6 @@ TEST(Downsample, RollupWeighsByDuration)
     EXPECT_FALSE(empty.gpu);
 }
 
-TEST(Downsample, RegroupMakesOnePointPerBucketAscending)
-{
-    const auto points = Downsample::regroup({at(130, 5, 0.1), at(10, 5, 0.2), at(65, 5, 0.3), at(15, 5, 0.4)}, 60);
-    ASSERT_EQ(points.size(), 3u);
-    EXPECT_EQ(points[0].t, 0);
-    EXPECT_NEAR(points[0].cpu, 0.3, 1e-12);
-    EXPECT_EQ(points[1].t, 60);
-    EXPECT_EQ(points[2].t, 120);
-}
-
 TEST(Downsample, AnAppPresentForHalfABucketCountsIdleForTheRest)
 {
     const auto rolled
@@ -161,15 +151,4 @@ TEST_F(Compaction, NothingExpiresBeforeItIsRolledUp)
     EXPECT_EQ(m_store->rowCount(HistoryTier::tenMinutes, HistoryTable::sys), 1);
     EXPECT_EQ(m_store->rowCount(HistoryTier::hour, HistoryTable::sys), 1);
     EXPECT_EQ(m_store->points(HistoryTier::hour, 0, 1e9).front().diskW, 120 * 1000.0);
-}
-
-TEST(HistoryRange, PeriodsTiersAndBars)
-{
-    // 22 November 2026, 15:30 in a zone one hour east of UTC.
-    const TimeZone zone = TimeZone::fixed(3600);
-    const double now = *zone.toEpoch({2026, 11, 22, 15, 30, 0});
-    EXPECT_EQ(start(HistoryRange::today, now, zone), *zone.toEpoch({2026, 11, 22, 0, 0, 0}));
-    EXPECT_EQ(start(HistoryRange::week, now, zone), now - 604800);
-    EXPECT_EQ(start(HistoryRange::year, now, zone), now - 31536000);
-    EXPECT_EQ(keepSeconds(HistoryTier::hour, 0), 86400); // at least a day
 }

@@ -54,44 +54,6 @@ AppPoint appAt(
 
 } // namespace
 
-TEST_F(StoreFile, AFreshFileHoldsTheSchemaAndReopeningChangesNothing)
-{
-    {
-        HistoryStore store(file(), HistoryAccess::readWrite);
-        EXPECT_EQ(store.meta("schema"), 1.0);
-        EXPECT_FALSE(store.firstSample());
-        EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
-        store.insert(HistoryTier::raw, sysAt(100), {});
-    }
-    HistoryStore again(file(), HistoryAccess::readWrite);
-    EXPECT_EQ(again.meta("schema"), 1.0);
-    EXPECT_EQ(again.rowCount(HistoryTier::raw, HistoryTable::sys), 1);
-    EXPECT_GT(again.fileBytes(), 0);
-    EXPECT_GT(again.usedBytes(), 0);
-}
-
-TEST_F(StoreFile, OpenFailuresSayWhy)
-{
-    try {
-        HistoryStore store(file(), HistoryAccess::readOnly);
-        FAIL() << "a read-only open of a missing file must fail";
-    } catch (const HistoryError& error) {
-        EXPECT_EQ(error.kind(), HistoryError::Kind::open);
-        EXPECT_TRUE(std::string(error.what()).starts_with("Couldn't open the history: ")) << error.what();
-    }
-    EXPECT_FALSE(fs::exists(file())) << "a read-only open creates nothing";
-    EXPECT_FALSE(fs::exists(file().parent_path()));
-    fs::create_directories(file().parent_path());
-    std::ofstream(file()) << std::string(4096, 'x');
-    try {
-        HistoryStore store(file(), HistoryAccess::readWrite);
-        FAIL() << "a file that is not a database must fail";
-    } catch (const HistoryError& error) {
-        EXPECT_EQ(error.kind(), HistoryError::Kind::open);
-        EXPECT_EQ(std::string(error.what()), "Couldn't open the history: file is not a database");
-    }
-}
-
 TEST_F(StoreFile, PointsReadBackWithAbsentReadingsAsAbsent)
 {
     HistoryStore store(file(), HistoryAccess::readWrite);
@@ -168,23 +130,6 @@ TEST_F(StoreFile, DeletingErasingAndMeta)
     EXPECT_EQ(store.meta("schema"), 1.0);
 }
 
-TEST_F(StoreFile, AFailureInsideNestedBatchesRollsEverythingBack)
-{
-    HistoryStore store(file(), HistoryAccess::readWrite);
-    EXPECT_THROW(store.batch([&] {
-        store.insert(HistoryTier::raw, sysAt(1), {});
-        store.batch([&] { store.insert(HistoryTier::raw, sysAt(2), {}); });
-        throw HistoryError(HistoryError::Kind::sql, "boom");
-    }),
-        HistoryError);
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 0);
-    store.batch([&] {
-        store.insert(HistoryTier::raw, sysAt(3), {});
-        store.batch([&] { store.insert(HistoryTier::raw, sysAt(4), {}); });
-    });
-    EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 2);
-}
-
 TEST_F(StoreFile, TheCapTrimsHourlyDataADayAtATimeAndNothingElse)
 {
     HistoryStore store(file(), HistoryAccess::readWrite);
@@ -221,16 +166,6 @@ TEST_F(StoreFile, TheCapTrimsHourlyDataADayAtATimeAndNothingElse)
     store.enforceCap();
     EXPECT_EQ(store.rowCount(HistoryTier::hour, HistoryTable::sys), 0);
     EXPECT_EQ(store.rowCount(HistoryTier::raw, HistoryTable::sys), 500);
-}
-
-TEST(Downsample, SelectStoresEachAppOnce)
-{
-    const std::vector<AppPoint> apps{appAt(0, "a", 0.9, 9e9), appAt(0, "b", 0.8, 8e9), appAt(0, "c", 0.1)};
-    const auto chosen = Downsample::select(apps, 2);
-    ASSERT_EQ(chosen.size(), 2u); // a and b lead both CPU and memory
-    EXPECT_EQ(chosen[0].app, "a");
-    EXPECT_EQ(chosen[1].app, "b");
-    EXPECT_TRUE(Downsample::select({}, 8).empty());
 }
 
 // Grouping a year of hourly rows for eight apps sorts more than the page

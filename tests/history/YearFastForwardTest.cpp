@@ -98,13 +98,5 @@ TEST(YearFastForward, EachTierHoldsWhatItShouldAndNoByteIsLost)
         for (const auto& hour : hoursOfFirstDay)
             firstDay += hour.diskW;
         EXPECT_EQ(firstDay, day * writeRate);
-        // The size cap trims only hourly data.
-        const auto minutes = store.rowCount(HistoryTier::minute, HistoryTable::sys);
-        const auto tens = store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys);
-        store.maxBytes = store.usedBytes() / 2;
-        store.compact(now, 365);
-        EXPECT_LT(store.rowCount(HistoryTier::hour, HistoryTable::sys), static_cast<int64_t>(keptDays * 24));
-        EXPECT_EQ(store.rowCount(HistoryTier::minute, HistoryTable::sys), minutes);
-        EXPECT_EQ(store.rowCount(HistoryTier::tenMinutes, HistoryTable::sys), tens);
     }
 }

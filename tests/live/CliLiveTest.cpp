@@ -347,51 +347,6 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     EXPECT_EQ(settings["sampleSeconds"], 1.0); // the user's settings kept
 }
 
-// The desktop app for real, on a virtual display, records at its window's
-// cadence: every 2 s with the window open, and at the settings' interval
-// when started with --hidden at login (no status area there, so the window
-// waits minimised in the taskbar). SIGTERM, or SIGHUP, quits it the
-// ordinary way, writing what was waiting and saving when it last ran.
-TEST(CliLive, TheDesktopAppRecordsAtItsWindowsCadenceAndQuitsOnSigterm)
-{
-    for (const bool hidden : {false, true}) {
-        TempFolder data("vexel-live");
-        std::ofstream(data.path() / "settings.json") << R"({"sampleSeconds": 3})";
-        const std::string app = std::string(VEXEL_BINARY_DIR) + "/src/vexel-app";
-        std::vector<std::string> command{"xvfb-run", "-a", app};
-        if (hidden)
-            command.emplace_back("--hidden");
-        ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
-        ChildProcess display(command);
-        ::unsetenv("VEXEL_DATA_DIR");
-        ASSERT_NE(display.pid(), 0);
-        // The app writes its pid into the lock once it records.
-        const auto lock = data.path() / "recorder.lock";
-        std::optional<int64_t> pid;
-        for (int look = 0; look < 300 && !pid; ++look) {
-            pid = TextScan::toI64(TextScan::trim(Files::read(lock.string()).value_or("")));
-            if (!pid)
-                std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        }
-        ASSERT_TRUE(pid) << "the app never took the recorder's lock";
-        std::this_thread::sleep_for(std::chrono::milliseconds(6800)); // two or three ticks either way
-        ASSERT_EQ(::kill(static_cast<pid_t>(*pid), hidden ? SIGHUP : SIGTERM), 0);
-        const int status = display.wait();
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-        const HistoryStore stored(data.path() / "history.sqlite", HistoryAccess::readOnly);
-        const auto points = stored.series(HistoryTier::raw, 0, 1e12);
-        ASSERT_GE(points.size(), 1U);
-        for (const auto& point : points) {
-            if (hidden)
-                EXPECT_NEAR(point.dur, 3, 0.5);
-            else
-                EXPECT_NEAR(point.dur, 2, 0.5);
-        }
-        const json settings = json::parse(Files::read((data.path() / "settings.json").string()).value_or("{}"));
-        EXPECT_TRUE(settings.contains("lastSeen")) << settings.dump();
-    }
-}
-
 // Snapshot mode: the demo world's pictures, offscreen, the same from run to
 // run, and only those asked for.
 TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)

@@ -184,28 +184,6 @@ TEST(LiveMachine, ABusyCoreShowsAsBusy)
     EXPECT_LE(snapshot.cpu.user + snapshot.cpu.system, 1.0);
 }
 
-TEST(LiveMachine, TheLiveMonitorGroupsThisMachine)
-{
-    auto monitor = Monitor::live();
-    const Frame frame = monitor->sample(currentTime(), {.everyone = true, .network = true});
-    EXPECT_FALSE(frame.system.cpu.cores.empty());
-    EXPECT_GT(frame.records.size(), 10u);
-    const auto self = std::find_if(frame.apps.begin(), frame.apps.end(), [](const AppGroup& group) {
-        return std::any_of(
-            group.processes.begin(), group.processes.end(), [](const ProcRow& row) { return row.pid == ::getpid(); });
-    });
-    ASSERT_NE(self, frame.apps.end());
-    const auto kernel
-        = std::find_if(frame.apps.begin(), frame.apps.end(), [](auto& g) { return g.id == "sys:Kernel"; });
-    ASSERT_NE(kernel, frame.apps.end());
-    EXPECT_GT(kernel->processes.size(), 1u);
-    size_t grouped = 0;
-    for (const auto& group : frame.apps)
-        grouped += group.processes.size();
-    EXPECT_EQ(grouped, frame.records.size()); // every process is in exactly one group
-    EXPECT_TRUE(monitor->listeners());
-}
-
 namespace {
 
 // As the user nobody, samples the machine at the app's cadence scaled down (a

@@ -26,11 +26,6 @@ protected:
         return parsed;
     }
 
-    static json error(const json& id, int code, const std::string& message)
-    {
-        return {{"jsonrpc", "2.0"}, {"id", id}, {"error", {{"code", code}, {"message", message}}}};
-    }
-
     TempFolder folder{"vexel-mcp"};
     DemoService demo{folder.path()};
     MCPServer server{demo.service};
@@ -38,82 +33,50 @@ protected:
 
 } // namespace
 
-TEST_F(MCP, EveryErrorRow)
+// Every error row, ids of every kind echoed, silent notifications and
+// blank lines, and version negotiation, kept in tests/golden/mcp: a failing
+// tool is a successful response that says so, and a broken history file is
+// a tool error, never an empty history.
+TEST_F(MCP, OddRequestsMatchTheGoldenFile)
 {
-    EXPECT_EQ(answer("{not json"), error(nullptr, -32700, "Parse error"));
-    EXPECT_EQ(answer("[1,2]"), error(nullptr, -32600, "Invalid Request"));
-    EXPECT_EQ(answer("42"), error(nullptr, -32600, "Invalid Request"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":5})"), error(5, -32600, "Invalid Request"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":6,"method":7})"), error(6, -32600, "Invalid Request"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","method":7})"), error(nullptr, -32600, "Invalid Request"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":7,"method":"nope/nothing"})"),
-        error(7, -32601, "Method not found: nope/nothing"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":8,"method":"tools/call"})"), error(8, -32602, "Missing tool name"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":9,"method":"tools/call","params":{"name":3}})"),
-        error(9, -32602, "Missing tool name"));
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":10,"method":"tools/call","params":{"name":"kill_app"}})"),
-        error(10, -32602, "Unknown tool: kill_app"));
-    // A failing tool is a successful response that says so.
-    EXPECT_EQ(
-        answer(R"({"jsonrpc":"2.0","id":11,"method":"tools/call","params":{"name":"app_processes","arguments":{}}})"),
-        (json{{"jsonrpc", "2.0"}, {"id", 11},
-            {"result", {{"content", {{{"type", "text"}, {"text", "An app name is needed."}}}}, {"isError", true}}}}));
-    const json history
-        = answer(R"({"jsonrpc":"2.0","id":12,"method":"tools/call","params":{"name":"history","arguments":[]}})");
-    EXPECT_EQ(history["result"]["isError"], true);
-    EXPECT_EQ(history["result"]["content"][0]["text"], "Vexel has no history yet. Open Vexel and leave it running.");
-    // A broken history file is a tool error that says so, never an empty history.
-    writeCorruptHistory(folder.path() / "history.sqlite");
-    for (const char* tool : {"history", "spikes"}) {
-        const json broken = answer(
-            R"({"jsonrpc":"2.0","id":13,"method":"tools/call","params":{"name":")" + std::string(tool) + R"("}})");
-        EXPECT_EQ(broken["result"]["isError"], true) << tool;
-        EXPECT_EQ(broken["result"]["content"][0]["text"], "Couldn't open the history: file is not a database");
-    }
-}
-
-TEST_F(MCP, IdsEchoedNotificationsAndBlankLinesSilent)
-{
-    for (const json& id : {json(0), json("abc"), json(-3), json(2.5), json(nullptr), json({{"k", 1}})}) {
-        const json reply = answer(json{{"jsonrpc", "2.0"}, {"id", id}, {"method", "ping"}}.dump());
-        EXPECT_EQ(reply, (json{{"jsonrpc", "2.0"}, {"id", id}, {"result", json::object()}})) << id;
-    }
-    EXPECT_TRUE(answer("").is_null());
-    EXPECT_TRUE(answer("   \t  ").is_null());
-    EXPECT_TRUE(answer(R"({"jsonrpc":"2.0","method":"notifications/initialized"})").is_null());
-    EXPECT_TRUE(answer(R"({"jsonrpc":"2.0","method":"tools/call","params":{"name":"system_status"}})").is_null());
-    EXPECT_TRUE(answer(R"({"jsonrpc":"2.0","method":"no/such"})").is_null());
-    EXPECT_EQ(demo.world->processSource->served, 0); // the notification's tool call never ran
-}
-
-TEST_F(MCP, VersionNegotiationAndClientsOfOtherRevisions)
-{
-    const auto negotiated = [&](const std::string& params) {
-        return answer(
-            R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":)" + params + "}")["result"]["protocolVersion"];
+    const auto session = [&](const std::vector<std::string>& requests) {
+        std::string transcript;
+        for (const auto& request : requests) {
+            transcript += "> " + request + "\n";
+            if (const auto reply = answer(request); !reply.is_null())
+                transcript += "< " + reply.dump() + "\n";
+        }
+        return transcript;
     };
-    EXPECT_EQ(negotiated(R"({"protocolVersion":"2024-11-05"})"), "2024-11-05");
-    EXPECT_EQ(negotiated(R"({"protocolVersion":"2025-03-26"})"), "2025-03-26");
-    EXPECT_EQ(negotiated(R"({"protocolVersion":"1999-01-01"})"), "2025-06-18");
-    EXPECT_EQ(negotiated(R"({"protocolVersion":"2025-11-25"})"), "2025-06-18"); // newer SDKs accept it
-    EXPECT_EQ(negotiated(R"({"protocolVersion":20250618})"), "2025-06-18");
-    EXPECT_EQ(negotiated("[]"), "2025-06-18");
-    // Clients of the 2026-07-28 revision ask first and fall back on "not found".
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":0,"method":"server/discover","params":{}})"),
-        error(0, -32601, "Method not found: server/discover"));
-    // Requests before initialize, and without params, are answered.
-    const json tools = answer(R"({"jsonrpc":"2.0","id":2,"method":"tools/list"})");
-    std::vector<std::string> names;
-    for (const auto& tool : tools["result"]["tools"])
-        names.push_back(tool["name"]);
-    EXPECT_EQ(names,
-        (std::vector<std::string>{"system_status", "top_apps", "app_processes", "history", "spikes", "dev_servers",
-            "listening_ports", "docker_containers"}));
-    // Their schemas and annotations are pinned by the golden transcript.
-    EXPECT_EQ(answer(R"({"jsonrpc":"2.0","id":3,"method":"resources/list"})")["result"],
-        (json{{"resources", json::array()}}));
-    EXPECT_EQ(
-        answer(R"({"jsonrpc":"2.0","id":4,"method":"prompts/list"})")["result"], (json{{"prompts", json::array()}}));
+    std::string transcript = session({
+        "{not json", "[1,2]", "42", R"({"jsonrpc":"2.0","id":5})", R"({"jsonrpc":"2.0","id":6,"method":7})",
+        R"({"jsonrpc":"2.0","method":7})", R"({"jsonrpc":"2.0","id":7,"method":"nope/nothing"})",
+        R"({"jsonrpc":"2.0","id":8,"method":"tools/call"})",
+        R"({"jsonrpc":"2.0","id":9,"method":"tools/call","params":{"name":3}})",
+        R"({"jsonrpc":"2.0","id":10,"method":"tools/call","params":{"name":"kill_app"}})",
+        R"({"jsonrpc":"2.0","id":11,"method":"tools/call","params":{"name":"app_processes","arguments":{}}})",
+        R"({"jsonrpc":"2.0","id":12,"method":"tools/call","params":{"name":"history","arguments":[]}})",
+        R"({"jsonrpc":"2.0","id":0,"method":"ping"})", R"({"jsonrpc":"2.0","id":"abc","method":"ping"})",
+        R"({"jsonrpc":"2.0","id":-3,"method":"ping"})", R"({"jsonrpc":"2.0","id":2.5,"method":"ping"})",
+        R"({"jsonrpc":"2.0","id":null,"method":"ping"})", R"({"jsonrpc":"2.0","id":{"k":1},"method":"ping"})", "",
+        "   \t  ", R"({"jsonrpc":"2.0","method":"notifications/initialized"})",
+        R"({"jsonrpc":"2.0","method":"tools/call","params":{"name":"system_status"}})",
+        R"({"jsonrpc":"2.0","method":"no/such"})",
+        // Clients of the 2026-07-28 revision ask first and fall back on "not found".
+        R"({"jsonrpc":"2.0","id":0,"method":"server/discover","params":{}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"2024-11-05"}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"2025-03-26"}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"1999-01-01"}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"2025-11-25"}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":20250618}})",
+        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":[]})",
+        R"({"jsonrpc":"2.0","id":3,"method":"resources/list"})", R"({"jsonrpc":"2.0","id":4,"method":"prompts/list"})",
+    });
+    EXPECT_EQ(demo.world->processSource->served, 0); // the notification's tool call never ran
+    writeCorruptHistory(folder.path() / "history.sqlite");
+    transcript += session({R"({"jsonrpc":"2.0","id":13,"method":"tools/call","params":{"name":"history"}})",
+        R"({"jsonrpc":"2.0","id":14,"method":"tools/call","params":{"name":"spikes"}})"});
+    EXPECT_EQ(compareGolden("mcp/odd-requests.txt", transcript), "");
 }
 
 TEST_F(MCP, ToolArgumentsFallBackToDefaults)
@@ -184,6 +147,10 @@ TEST_F(MCP, ALineTooLongIsRefusedAndTheServerGoesOn)
         written += static_cast<char>(c);
     std::fclose(input);
     std::fclose(output);
-    const json refused = error(nullptr, -32600, "Invalid Request: a message longer than 4194304 bytes is not read");
-    EXPECT_EQ(written, refused.dump() + "\n" + R"({"id":2,"jsonrpc":"2.0","result":{}})" + "\n");
+    EXPECT_EQ(written,
+        R"({"error":{"code":-32600,"message":"Invalid Request: a message longer than 4194304 bytes is not read"},)"
+        R"("id":null,"jsonrpc":"2.0"})"
+        "\n"
+        R"({"id":2,"jsonrpc":"2.0","result":{}})"
+        "\n");
 }

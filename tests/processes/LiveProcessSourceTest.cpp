@@ -187,22 +187,6 @@ TEST(LiveProcessSourceLive, AnAppImagesFileFromItsEnvironment)
     EXPECT_FALSE(byPid(records, ::getpid())->appImage); // not an AppImage's
 }
 
-// Beyond its budget a source opens and closes each file as before: every
-// process still comes, and it never holds more than it was given.
-TEST(LiveProcessSourceLive, BeyondItsBudgetProcessesAreOpenedEachTime)
-{
-    DescriptorBudget budget(16);
-    vexel::testing::SleepingChildren children(100);
-    {
-        LiveProcessSource source("/proc", ::geteuid(), 0, 100, 4096, &budget);
-        for (int reading = 0; reading < 2; ++reading) {
-            EXPECT_TRUE(listsEvery(source.snapshot(ProcessScope::everyone), children.pids()));
-            EXPECT_EQ(budget.inUse(), 16u);
-        }
-    }
-    EXPECT_EQ(budget.inUse(), 0u) << "a source gives its descriptors back when it goes";
-}
-
 // When the program runs out of descriptors while it runs (a limit lowered,
 // a leak elsewhere), the source lets go of those it keeps and reads on.
 TEST(LiveProcessSourceLive, RunningOutOfDescriptorsGivesTheKeptOnesBack)

@@ -10,7 +10,6 @@ namespace {
 
 // Reads left before they fail; negative while healthy.
 std::atomic<int> readsLeft{-1};
-std::atomic<int> failures{0};
 
 sqlite3_vfs* systemLayer = nullptr;
 
@@ -31,7 +30,6 @@ bool readFails()
     while (left > 0 && !readsLeft.compare_exchange_weak(left, left - 1)) { }
     if (left != 0)
         return false;
-    ++failures;
     return true;
 }
 
@@ -51,75 +49,21 @@ int fetch(sqlite3_file* file, sqlite3_int64 offset, int amount, void** pages)
     return real(file)->pMethods->xFetch(real(file), offset, amount, pages);
 }
 
-int close(sqlite3_file* file)
-{
-    return real(file)->pMethods->xClose(real(file));
-}
+// Every other call passes straight through to the system layer's handle.
+template <typename> struct Forward;
+template <typename R, typename... A> struct Forward<R (*sqlite3_io_methods::*)(sqlite3_file*, A...)> {
+    template <R (*sqlite3_io_methods::*method)(sqlite3_file*, A...)> static R to(sqlite3_file* file, A... args)
+    {
+        return (real(file)->pMethods->*method)(real(file), args...);
+    }
+};
+template <auto method> constexpr auto pass = &Forward<decltype(method)>::template to<method>;
 
-// The rest pass straight through.
-int write(sqlite3_file* f, const void* b, int n, sqlite3_int64 o)
-{
-    return real(f)->pMethods->xWrite(real(f), b, n, o);
-}
-int truncate(sqlite3_file* f, sqlite3_int64 size)
-{
-    return real(f)->pMethods->xTruncate(real(f), size);
-}
-int sync(sqlite3_file* f, int flags)
-{
-    return real(f)->pMethods->xSync(real(f), flags);
-}
-int fileSize(sqlite3_file* f, sqlite3_int64* size)
-{
-    return real(f)->pMethods->xFileSize(real(f), size);
-}
-int lock(sqlite3_file* f, int level)
-{
-    return real(f)->pMethods->xLock(real(f), level);
-}
-int unlock(sqlite3_file* f, int level)
-{
-    return real(f)->pMethods->xUnlock(real(f), level);
-}
-int checkReservedLock(sqlite3_file* f, int* out)
-{
-    return real(f)->pMethods->xCheckReservedLock(real(f), out);
-}
-int fileControl(sqlite3_file* f, int op, void* arg)
-{
-    return real(f)->pMethods->xFileControl(real(f), op, arg);
-}
-int sectorSize(sqlite3_file* f)
-{
-    return real(f)->pMethods->xSectorSize(real(f));
-}
-int deviceCharacteristics(sqlite3_file* f)
-{
-    return real(f)->pMethods->xDeviceCharacteristics(real(f));
-}
-int shmMap(sqlite3_file* f, int region, int size, int extend, void volatile** out)
-{
-    return real(f)->pMethods->xShmMap(real(f), region, size, extend, out);
-}
-int shmLock(sqlite3_file* f, int offset, int n, int flags)
-{
-    return real(f)->pMethods->xShmLock(real(f), offset, n, flags);
-}
-void shmBarrier(sqlite3_file* f)
-{
-    real(f)->pMethods->xShmBarrier(real(f));
-}
-int shmUnmap(sqlite3_file* f, int deleteFlag)
-{
-    return real(f)->pMethods->xShmUnmap(real(f), deleteFlag);
-}
-int unfetch(sqlite3_file* f, sqlite3_int64 offset, void* page)
-{
-    return real(f)->pMethods->xUnfetch(real(f), offset, page);
-}
-
-const sqlite3_io_methods methods{3, close, read, write, truncate, sync, fileSize, lock, unlock, checkReservedLock,
-    fileControl, sectorSize, deviceCharacteristics, shmMap, shmLock, shmBarrier, shmUnmap, fetch, unfetch};
+using M = sqlite3_io_methods;
+const sqlite3_io_methods methods{3, pass<&M::xClose>, read, pass<&M::xWrite>, pass<&M::xTruncate>, pass<&M::xSync>,
+    pass<&M::xFileSize>, pass<&M::xLock>, pass<&M::xUnlock>, pass<&M::xCheckReservedLock>, pass<&M::xFileControl>,
+    pass<&M::xSectorSize>, pass<&M::xDeviceCharacteristics>, pass<&M::xShmMap>, pass<&M::xShmLock>,
+    pass<&M::xShmBarrier>, pass<&M::xShmUnmap>, fetch, pass<&M::xUnfetch>};
 
 int open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* outFlags)
 {
@@ -149,18 +93,12 @@ int open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* out
 
 void failReadsAfter(int goodReads)
 {
-    failures = 0;
     readsLeft = goodReads < 0 ? 0 : goodReads;
 }
 
 void heal()
 {
     readsLeft = -1;
-}
-
-int failedReads()
-{
-    return failures.load();
 }
 
 } // namespace vexel::testing::FaultyFiles

@@ -14,9 +14,6 @@ void failReadsAfter(int goodReads);
 // Reads succeed again.
 void heal();
 
-// Reads that failed since the last failReadsAfter.
-[[nodiscard]] int failedReads();
-
 // Fails reads after `goodReads` for as long as it lives.
 class ReadFailure {
 public:
