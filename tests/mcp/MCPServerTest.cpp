@@ -49,17 +49,27 @@ TEST_F(MCP, OddRequestsMatchTheGoldenFile)
         return transcript;
     };
     std::string transcript = session({
-        "{not json", "[1,2]", "42", R"({"jsonrpc":"2.0","id":5})", R"({"jsonrpc":"2.0","id":6,"method":7})",
-        R"({"jsonrpc":"2.0","method":7})", R"({"jsonrpc":"2.0","id":7,"method":"nope/nothing"})",
+        "{not json",
+        "[1,2]",
+        "42",
+        R"({"jsonrpc":"2.0","id":5})",
+        R"({"jsonrpc":"2.0","id":6,"method":7})",
+        R"({"jsonrpc":"2.0","method":7})",
+        R"({"jsonrpc":"2.0","id":7,"method":"nope/nothing"})",
         R"({"jsonrpc":"2.0","id":8,"method":"tools/call"})",
         R"({"jsonrpc":"2.0","id":9,"method":"tools/call","params":{"name":3}})",
         R"({"jsonrpc":"2.0","id":10,"method":"tools/call","params":{"name":"kill_app"}})",
         R"({"jsonrpc":"2.0","id":11,"method":"tools/call","params":{"name":"app_processes","arguments":{}}})",
         R"({"jsonrpc":"2.0","id":12,"method":"tools/call","params":{"name":"history","arguments":[]}})",
-        R"({"jsonrpc":"2.0","id":0,"method":"ping"})", R"({"jsonrpc":"2.0","id":"abc","method":"ping"})",
-        R"({"jsonrpc":"2.0","id":-3,"method":"ping"})", R"({"jsonrpc":"2.0","id":2.5,"method":"ping"})",
-        R"({"jsonrpc":"2.0","id":null,"method":"ping"})", R"({"jsonrpc":"2.0","id":{"k":1},"method":"ping"})", "",
-        "   \t  ", R"({"jsonrpc":"2.0","method":"notifications/initialized"})",
+        R"({"jsonrpc":"2.0","id":0,"method":"ping"})",
+        R"({"jsonrpc":"2.0","id":"abc","method":"ping"})",
+        R"({"jsonrpc":"2.0","id":-3,"method":"ping"})",
+        R"({"jsonrpc":"2.0","id":2.5,"method":"ping"})",
+        R"({"jsonrpc":"2.0","id":null,"method":"ping"})",
+        R"({"jsonrpc":"2.0","id":{"k":1},"method":"ping"})",
+        "",
+        "   \t  ",
+        R"({"jsonrpc":"2.0","method":"notifications/initialized"})",
         R"({"jsonrpc":"2.0","method":"tools/call","params":{"name":"system_status"}})",
         R"({"jsonrpc":"2.0","method":"no/such"})",
         // Clients of the 2026-07-28 revision ask first and fall back on "not found".
@@ -70,7 +80,8 @@ TEST_F(MCP, OddRequestsMatchTheGoldenFile)
         R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"2025-11-25"}})",
         R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":20250618}})",
         R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":[]})",
-        R"({"jsonrpc":"2.0","id":3,"method":"resources/list"})", R"({"jsonrpc":"2.0","id":4,"method":"prompts/list"})",
+        R"({"jsonrpc":"2.0","id":3,"method":"resources/list"})",
+        R"({"jsonrpc":"2.0","id":4,"method":"prompts/list"})",
     });
     EXPECT_EQ(demo.world->processSource->served, 0); // the notification's tool call never ran
     writeCorruptHistory(folder.path() / "history.sqlite");
