@@ -48,15 +48,9 @@ TEST(TextRenderers, StatusSkipsWhatTheReportLeavesOut)
         "Memory    8.00 GB of 16.0 GB  pressure normal  swap 0.0 MB\n"
         "Thermal   cool\n"
         "Processes 412 in 37 apps");
-    report["gpu"] = {{"percent", 18.0}, {"name", "Apple M3 Pro"}};
+    // Every line present is the golden status.txt; here, the one a charging battery changes.
     report["battery"] = {{"percent", 78}, {"charging", false}, {"on_ac", false}, {"power_watts", -11.4},
         {"minutes_left", 312}, {"health_percent", 91.2}};
-    report["today"]
-        = {{"disk_written_bytes", 1500000000}, {"network_in_bytes", 250000000}, {"network_out_bytes", 12000000}};
-    const std::string text = statusText(report);
-    EXPECT_NE(text.find("\nGPU       18%  Apple M3 Pro\n"), std::string::npos) << text;
-    EXPECT_NE(text.find("\nBattery   78%  11 W  5h 12m left  health 91%\n"), std::string::npos) << text;
-    EXPECT_NE(text.find("\nToday     1.5 GB written  250.0 MB down  12.0 MB up"), std::string::npos) << text;
     report["battery"]["charging"] = true;
     EXPECT_NE(statusText(report).find("Battery   78% charging  11 W"), std::string::npos);
     EXPECT_EQ(statusText(json::object()), "");

@@ -146,19 +146,6 @@ TEST(LoginDefs, UidMinOfARealFileAndItsDefault)
     EXPECT_EQ(LoginDefs::parseUidMin(""), LoginDefs::defaultUidMin);
 }
 
-TEST(DevServers, ProjectsAreFoundUpwardsBelowTheHomeFolder)
-{
-    const std::set<std::string> files{
-        home + "/code/site/package.json", home + "/code/site/.git", home + "/package.json", "/srv/app/Cargo.toml"};
-    const auto exists = [&](const std::string& path) { return files.contains(path); };
-    EXPECT_EQ(DevServers::project(home + "/code/site/src/", home, exists),
-        (ProjectInfo{"site", home + "/code/site", ".git"})); // markers in table order
-    EXPECT_EQ(DevServers::project(home + "/scratch", home, exists),
-        (ProjectInfo{"scratch", home + "/scratch", std::nullopt}));
-    EXPECT_EQ(DevServers::project("/srv/app/web", home, exists), (ProjectInfo{"app", "/srv/app", "Cargo.toml"}));
-    EXPECT_EQ(DevServers::project(home, home, exists).marker, std::nullopt); // the home folder is never a project
-}
-
 TEST(ActivityLog, ActivityIdlenessAndPruning)
 {
     ActivityLog log;

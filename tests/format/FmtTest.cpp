@@ -7,28 +7,25 @@
 
 using namespace vexel;
 
+// Everyday figures are pinned by the command line's golden tables; these are
+// the edges.
 TEST(Fmt, PercentAndCpu)
 {
     EXPECT_EQ(Fmt::percent(0.256), "26%");
     EXPECT_EQ(Fmt::percent(-0.5), "0%");
-    EXPECT_EQ(Fmt::cpu(0.05), "5.0%");
     EXPECT_EQ(Fmt::cpu(2.0, 8), "25%");
     EXPECT_EQ(Fmt::cpu(0.0004), "<0.1%");
     EXPECT_EQ(Fmt::cpu(0), "0.0%");
     EXPECT_EQ(Fmt::cpu(0.0999), "10.0%"); // 9.99 % is still below 10 before rounding
     EXPECT_EQ(Fmt::cpu(0.1), "10%");
     EXPECT_EQ(Fmt::cpu(1.0, 0), "100%"); // a core count of 0 counts as 1
-    EXPECT_EQ(Fmt::cpu(0.001), "0.1%");
 }
 
 TEST(Fmt, MemoryUsesBinaryUnits)
 {
-    EXPECT_EQ(Fmt::memory(17179869184), "16.0 GB");
     EXPECT_EQ(Fmt::memory(1073741824), "1.00 GB");
     EXPECT_EQ(Fmt::memory(1000000000), "954 MB");
-    EXPECT_EQ(Fmt::memory(5242880), "5.0 MB");
     EXPECT_EQ(Fmt::memory(0), "0.0 MB");
-    EXPECT_EQ(Fmt::memory(10737418240), "10.0 GB");
     EXPECT_EQ(Fmt::memory(1020054733), "0.95 GB"); // just above 0.95 of 2^30
     EXPECT_EQ(Fmt::memory(1020054732), "973 MB"); // just below it
 }
@@ -36,20 +33,14 @@ TEST(Fmt, MemoryUsesBinaryUnits)
 TEST(Fmt, BytesUseDecimalUnits)
 {
     EXPECT_EQ(Fmt::bytes(999.9), "999 B");
-    EXPECT_EQ(Fmt::bytes(999.0), "999 B");
     EXPECT_EQ(Fmt::bytes(1000.0), "1.0 KB");
-    EXPECT_EQ(Fmt::bytes(1500.0), "1.5 KB");
-    EXPECT_EQ(Fmt::bytes(25000000.0), "25 MB");
     EXPECT_EQ(Fmt::bytes(1500.0, 2), "1.50 KB");
     EXPECT_EQ(Fmt::bytes(-5.0), "0 B");
-    EXPECT_EQ(Fmt::bytes(uint64_t{3000000000}), "3.0 GB");
     EXPECT_EQ(Fmt::bytes(2e18), "2000 PB"); // beyond the last unit it stays in PB
 }
 
 TEST(Fmt, RatesInBytesAndBits)
 {
-    EXPECT_EQ(Fmt::rate(2500000, Fmt::RateUnit::bytes), "2.5 MB/s");
-    EXPECT_EQ(Fmt::rate(999, Fmt::RateUnit::bytes), "999 B/s");
     EXPECT_EQ(Fmt::rate(-1, Fmt::RateUnit::bytes), "0 B/s");
     EXPECT_EQ(Fmt::rate(1250000, Fmt::RateUnit::bits), "10 Mb/s");
     EXPECT_EQ(Fmt::rate(100, Fmt::RateUnit::bits), "800 b/s");
@@ -60,15 +51,11 @@ TEST(Fmt, RatesInBytesAndBits)
 TEST(Fmt, WattsMinutesAndDurations)
 {
     EXPECT_EQ(Fmt::watts(0.25), "250 mW");
-    EXPECT_EQ(Fmt::watts(3.14), "3.1 W");
-    EXPECT_EQ(Fmt::watts(42), "42 W");
     EXPECT_EQ(Fmt::watts(-18), "-18 W");
     EXPECT_EQ(Fmt::watts(-0.5), "500 mW");
     EXPECT_EQ(Fmt::minutes(75), "1h 15m");
     EXPECT_EQ(Fmt::minutes(60), "1h 00m");
     EXPECT_EQ(Fmt::minutes(59), "59 min");
-    EXPECT_EQ(Fmt::minutes(5), "5 min");
-    EXPECT_EQ(Fmt::duration(42.9), "42s");
     EXPECT_EQ(Fmt::duration(-3), "0s");
     EXPECT_EQ(Fmt::duration(3599), "59m");
     EXPECT_EQ(Fmt::duration(3700), "1h 1m");
@@ -76,7 +63,6 @@ TEST(Fmt, WattsMinutesAndDurations)
     EXPECT_EQ(Fmt::duration(86400), "1 day");
     EXPECT_EQ(Fmt::duration(172799), "1 day");
     EXPECT_EQ(Fmt::duration(172800), "2 days");
-    EXPECT_EQ(Fmt::duration(3 * 86400 + 5), "3 days");
 }
 
 // A scale's top is the next 1, 2 or 5 × 10ⁿ, never below the value and never

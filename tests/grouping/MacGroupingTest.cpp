@@ -78,18 +78,6 @@ TEST(MacIdentity, BaseRules)
     EXPECT_EQ(rules.base(proc(15, 1, "Google Chrome", chromeMain)).name, "Google Chrome");
 }
 
-TEST(MacIdentity, OutermostAppAndMainExecutable)
-{
-    EXPECT_EQ(
-        AppIdentity::outermostApp(helpers + "Google Chrome Helper (GPU).app/Contents/MacOS/Google Chrome Helper (GPU)"),
-        chrome);
-    EXPECT_EQ(AppIdentity::outermostApp("/Applications/Foo.app"), "/Applications/Foo.app");
-    EXPECT_FALSE(AppIdentity::outermostApp("/Applications/Foo.apps/x"));
-    EXPECT_FALSE(AppIdentity::outermostApp("/usr/bin/app"));
-    EXPECT_TRUE(AppIdentity::isMainExecutable(chromeMain, chrome));
-    EXPECT_FALSE(AppIdentity::isMainExecutable(chrome + "/Contents/Frameworks/x", chrome));
-}
-
 TEST(MacGrouping, HelpersFollowParentsToTheirAppOrTool)
 {
     const std::string code = "/Applications/Visual Studio Code.app";

@@ -186,26 +186,6 @@ TEST(CliLive, ABrokenHistoryIsAnErrorNotAQuietDay)
     EXPECT_TRUE(unreadable.out.empty());
 }
 
-TEST(TraceLog, TellsTheProgramFromTheToolsItRuns)
-{
-    const std::string log = "100 execve(\"/x/vexel\", [\"vexel\"], 0x1 /* 3 vars */) = 0\n"
-                            "100 openat(AT_FDCWD, \"/proc/stat\", O_RDONLY) = 3\n"
-                            "100 clone3({flags=CLONE_VM|CLONE_VFORK, exit_signal=SIGCHLD}, 88 <unfinished ...>\n"
-                            "101 openat(AT_FDCWD, \"/dev/null\", O_WRONLY) = 2\n"
-                            "101 execve(\"/usr/bin/docker\", [\"docker\"], 0x2 /* 3 vars */ <unfinished ...>\n"
-                            "100 <... clone3 resumed>) = 101\n"
-                            "101 clone(child_stack=0x7, flags=CLONE_VM|CLONE_THREAD) = 102\n"
-                            "102 tgkill(101, 101, SIGURG) = 0\n"
-                            "100 clone3({flags=CLONE_VM|CLONE_THREAD}, 88) = 103\n"
-                            "103 openat(AT_FDCWD, \"/tmp/x\", O_WRONLY|O_CREAT|O_TRUNC, 0644) = 4\n"
-                            "100 kill(-101, SIGTERM) = 0\n";
-    const auto findings = readTrace(log, "/x/vexel");
-    EXPECT_EQ(findings.opens, 3u);
-    EXPECT_EQ(findings.signalsSent, std::vector<std::string>{"100 kill(-101, SIGTERM) = 0"});
-    EXPECT_EQ(findings.writeOpens,
-        std::vector<std::string>{"103 openat(AT_FDCWD, \"/tmp/x\", O_WRONLY|O_CREAT|O_TRUNC, 0644) = 4"});
-}
-
 // Read-only by construction, watched from outside: a whole command-line and
 // MCP session under strace sends no signal and opens no file for writing.
 TEST(CliLive, ASessionSendsNoSignalAndWritesNoFile)
