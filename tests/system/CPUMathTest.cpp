@@ -36,18 +36,3 @@ TEST(CPUMath, BackwardsCountersCountNothing)
     EXPECT_DOUBLE_EQ(wrapped.cores[0], 0.0);
     EXPECT_DOUBLE_EQ(wrapped.user, 0.0);
 }
-
-TEST(CPUMath, ChangedCoreCountGivesZerosForTheCurrentCores)
-{
-    const std::vector<CoreTicks> two{{1, 1, 1, 1}, {1, 1, 1, 1}};
-    const std::vector<CoreTicks> three{{9, 9, 9, 9}, {9, 9, 9, 9}, {9, 9, 9, 9}};
-    const auto changed = CPUMath::usage(two, three);
-    EXPECT_EQ(changed, (CPUMath::Usage{0, 0, {0, 0, 0}}));
-    const std::vector<CoreTicks> later{{18, 9, 9, 9}, {9, 9, 18, 9}, {9, 9, 9, 9}};
-    const auto normal = CPUMath::usage(three, later);
-    EXPECT_DOUBLE_EQ(normal.cores[0], 1.0);
-    EXPECT_DOUBLE_EQ(normal.cores[1], 0.0);
-
-    EXPECT_EQ(CPUMath::usage(two, {}), CPUMath::Usage{});
-    EXPECT_EQ(CPUMath::usage({}, {}), CPUMath::Usage{});
-}
