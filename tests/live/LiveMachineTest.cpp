@@ -226,11 +226,12 @@ TEST(LiveMachine, AnotherUsersBusyLoopReadsBusyAtTheAppsCadence)
     ASSERT_EQ(rates.size(), 7u) << text;
     // The first tick is a baseline; after it the loop reads busy at every
     // tick, where a lost baseline reads exactly 0. Other tests share the two
-    // cores, so a tick's share varies: each must be clearly above 0, and the
-    // loop must average a good part of a core.
+    // cores (under the sanitizers one tick saw under 5 %), so a tick's share
+    // varies: each must be above 0 by more than rounding, and the loop must
+    // average a good part of a core.
     double sum = 0;
     for (size_t tick = 1; tick < rates.size(); ++tick) {
-        EXPECT_GT(rates[tick], 0.05) << "tick " << tick << (tick % 3 == 0 ? " (everyone)" : " (own)");
+        EXPECT_GT(rates[tick], 0.01) << "tick " << tick << (tick % 3 == 0 ? " (everyone)" : " (own)");
         sum += rates[tick];
     }
     EXPECT_GT(sum / static_cast<double>(rates.size() - 1), 0.25) << text;
