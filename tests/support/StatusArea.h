@@ -29,9 +29,6 @@ QVariant watcherProperty(const QString& name);
 // connected (a later connection has a higher number).
 QStringList registeredItems();
 
-// The text of an item's tooltip ("CPU 15%").
-QString toolTipOf(const QString& item);
-
 // Clicks the entry labelled `label` in an item's menu, as the panel does
 // when the user picks it; whether there was one to click.
 bool clickMenuEntry(const QString& item, const QString& label);
