@@ -14,7 +14,7 @@ if [[ "${1:-}" == "--thread" ]]; then
   scripts/install-deps.sh test
   cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXEL_WERROR=ON -DVEXEL_SANITIZE_THREAD=ON \
     -DVEXEL_BUILD_TESTS=ON -DVEXEL_BUILD_BENCH=OFF >/dev/null
-  cmake --build build-tsan --target test_app sampler_worker planted_race
+  cmake --build build-tsan --target test_app planted_race
   export TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1 suppressions=$PWD/tests/tsan.supp"
   started=$SECONDS
   build-tsan/tests/test_app

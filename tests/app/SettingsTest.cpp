@@ -155,20 +155,10 @@ TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
     EXPECT_NE(without.text.english().find("\"args\": [\"--mcp\"]"), std::string::npos);
     EXPECT_NE(without.text.english().find((home.path() / ".local/bin/vexel").string()), std::string::npos);
 
-    // A claude that writes down what it was asked.
+    // A claude that refuses says why. (One that adds: AddingToClaudeNeverHoldsTheWindow.)
     const auto claude = home.path() / "claude";
-    const auto asked = home.path() / "asked";
-    std::ofstream(claude) << "#!/bin/sh\necho \"$@\" > " << asked.string() << "\necho Added\n";
+    std::ofstream(claude) << "#!/bin/sh\necho 'MCP server vexel already exists' >&2\nexit 1\n";
     std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
-    const auto with = CommandLineSetup::addToClaude(claude.string(), home.path());
-    EXPECT_TRUE(with.done) << with.text.english();
-    std::ifstream said(asked);
-    std::string line;
-    std::getline(said, line);
-    EXPECT_EQ(line, "mcp add vexel -- " + (home.path() / ".local/bin/vexel").string() + " --mcp");
-
-    // A claude that refuses says why.
-    std::ofstream(claude, std::ios::trunc) << "#!/bin/sh\necho 'MCP server vexel already exists' >&2\nexit 1\n";
     const auto refused = CommandLineSetup::addToClaude(claude.string(), home.path());
     EXPECT_FALSE(refused.done);
     EXPECT_NE(refused.text.english().find("already exists"), std::string::npos);
@@ -248,7 +238,9 @@ TEST(Settings, AddingToClaudeNeverHoldsTheWindow)
     TempFolder home("vexel-home");
     const auto claude = home.path() / "claude";
     const auto go = home.path() / "go";
-    std::ofstream(claude) << "#!/bin/sh\nwhile [ ! -e " << go.string() << " ]; do sleep 0.05; done\necho Added\n";
+    const auto asked = home.path() / "asked";
+    std::ofstream(claude) << "#!/bin/sh\necho \"$@\" > " << asked.string() << "\nwhile [ ! -e " << go.string()
+                          << " ]; do sleep 0.05; done\necho Added\n";
     std::filesystem::permissions(claude, std::filesystem::perms::owner_all);
     DeveloperTab tab({"/nonexistent/vexel", home.path(), [claude] { return claude.string(); }}, nullptr);
     QSignalSpy done(&tab, &DeveloperTab::stepDone);
@@ -260,4 +252,8 @@ TEST(Settings, AddingToClaudeNeverHoldsTheWindow)
     EXPECT_EQ(tab.outcomeText(), QStringLiteral("Added Vexel's read-only MCP server to Claude Code."));
     EXPECT_TRUE(tab.claudeButton()->isEnabled());
     EXPECT_EQ(tab.claudeButton()->text(), QStringLiteral("Add to Claude Code"));
+    std::ifstream said(asked);
+    std::string line;
+    std::getline(said, line);
+    EXPECT_EQ(line, "mcp add vexel -- " + (home.path() / ".local/bin/vexel").string() + " --mcp");
 }

@@ -94,9 +94,6 @@ TEST_F(CliOnDemoWorld, OptionsStandAnywhereAndBadValuesFallBack)
     EXPECT_EQ(lineCount(run({"top"}).out.at(0)), 12u); // heading, ten apps, footer
     EXPECT_EQ(lineCount(run({"top", "-n", "3"}).out.at(0)), 5u);
     EXPECT_EQ(lineCount(run({"top", "-n", "0"}).out.at(0)), 3u);
-    const auto apps = nlohmann::json::parse(run({"apps", "--json"}).out.at(0));
-    EXPECT_EQ(apps["apps"].size(), std::min<size_t>(apps["app_count"].get<size_t>(), 200));
-    EXPECT_GT(apps["apps"].size(), 10u);
     EXPECT_EQ(run({}).out.at(0).rfind("CPU       ", 0), 0u);
     EXPECT_EQ(run({"--help"}).out, std::vector<std::string>{VexelCLI::usage(Platform::macOS)});
     EXPECT_EQ(run({"version"}).out, std::vector<std::string>{"vexel 9.9"});

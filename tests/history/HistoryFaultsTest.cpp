@@ -164,23 +164,3 @@ TEST_F(HistoryFaults, AFailedWriteRollsTheCompactionBack)
     }
     EXPECT_EQ(FileState(file()), before);
 }
-
-// A bind that SQLite refuses is an error, not a silent NULL in the row.
-TEST(SqliteStatement, RefusedBindsRaise)
-{
-    sqlite3* handle = nullptr;
-    ASSERT_EQ(::sqlite3_open(":memory:", &handle), SQLITE_OK);
-    const Sqlite::Database db(handle);
-    ::sqlite3_limit(db.get(), SQLITE_LIMIT_LENGTH, 16);
-    const Sqlite::Statement query(db.get(), "SELECT ?");
-    EXPECT_THROW(query.bind(2, 1.0), HistoryError); // no such parameter
-    try {
-        query.bind(1, std::string(32, 'x'));
-        FAIL() << "text past the length limit was bound";
-    } catch (const HistoryError& error) {
-        EXPECT_STREQ(error.what(), "History error: string or blob too big");
-    }
-    query.bind(1, std::string("short"));
-    ASSERT_TRUE(query.next());
-    EXPECT_EQ(query.text(0), "short");
-}

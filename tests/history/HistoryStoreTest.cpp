@@ -120,8 +120,6 @@ TEST_F(StoreFile, DeletingErasingAndMeta)
 
     store.setMeta("rolled1", 1795000000.123456789);
     EXPECT_EQ(store.watermark(HistoryTier::minute), 1795000000.123456789);
-    store.setMeta("rolled3", 0.1);
-    EXPECT_EQ(store.watermark(HistoryTier::hour), 0.1);
     EXPECT_FALSE(store.watermark(HistoryTier::tenMinutes));
     EXPECT_FALSE(store.meta("missing"));
     store.eraseAll();

@@ -43,17 +43,6 @@ TEST(Entry, DispatchOrder)
     }
 }
 
-TEST(Entry, DesktopRoleGoesToTheLauncher)
-{
-    Args seen;
-    const int status = run({"/opt/vexel/vexel-app", "--hidden"}, [&](const Args& args) {
-        seen = args;
-        return 7;
-    });
-    EXPECT_EQ(status, 7);
-    EXPECT_EQ(seen, (Args{"/opt/vexel/vexel-app", "--hidden"}));
-}
-
 // The desktop program is only ever the one beside this program's own file.
 TEST(Entry, TheDesktopProgramIsTheOneBesideThisOne)
 {

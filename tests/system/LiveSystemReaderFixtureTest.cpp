@@ -80,8 +80,6 @@ TEST(LiveSystemReaderOnFixtures, TheVirtualMachineAsCaptured)
     EXPECT_EQ(first.memory.compressed, 0u); // zram0 exists but holds nothing
     ASSERT_EQ(first.disk.volumes.size(), 1u);
     EXPECT_EQ(first.disk.volumes[0], (VolumeInfo{"Debian GNU/Linux", "/", 270553174016, 82975072256}));
-    EXPECT_EQ(first.disk.readRate, 0);
-    EXPECT_EQ(first.net.inRate, 0);
     EXPECT_FALSE(first.gpu);
     EXPECT_FALSE(first.battery);
     EXPECT_EQ(first.thermal, ThermalLevel::nominal);
@@ -135,9 +133,9 @@ TEST(LiveSystemReaderOnFixtures, IntelLaptopRunningHotOnBattery)
     EXPECT_EQ(snapshot.cpu.performanceCores, 8);
     EXPECT_EQ(snapshot.cpu.efficiencyCores, 8);
     ASSERT_TRUE(snapshot.battery);
-    EXPECT_EQ(snapshot.battery->percent, 72);
-    EXPECT_FALSE(snapshot.battery->onAC);
+    EXPECT_EQ(snapshot.battery->percent, 72); // the uevent's fields are the PowerSupply parser's test
     EXPECT_EQ(snapshot.thermal, ThermalLevel::serious); // TCPU above its passive trip
+
     ASSERT_TRUE(snapshot.gpu);
     EXPECT_EQ(snapshot.gpu->name, "Alder Lake-P Integrated Graphics Controller");
     EXPECT_EQ(snapshot.gpu->utilisation, 0); // residency needs two readings
@@ -180,8 +178,6 @@ TEST(LiveSystemReaderOnFixtures, AmdLaptopChargingWithItsGpuBusy)
     EXPECT_EQ(snapshot.cpu.performanceCores, 0); // sixteen equal cores
     ASSERT_TRUE(snapshot.battery);
     EXPECT_EQ(snapshot.battery->percent, 46);
-    EXPECT_TRUE(snapshot.battery->charging);
-    EXPECT_TRUE(snapshot.battery->onAC);
     ASSERT_TRUE(snapshot.gpu);
     EXPECT_EQ(snapshot.gpu->name, "Navi 21 [Radeon RX 6800/6800 XT / 6900 XT]");
     EXPECT_DOUBLE_EQ(snapshot.gpu->utilisation, 0.37);
@@ -198,10 +194,6 @@ TEST(LiveSystemReaderOnFixtures, AmdLaptopChargingWithItsGpuBusy)
     EXPECT_EQ(snapshot.sensors.temperatures.front().high, 81.85);
     EXPECT_EQ(snapshot.sensors.temperatures.front().critical, 84.85);
     EXPECT_EQ(snapshot.sensors.fans, (std::vector<FanSpeed>{{"thinkpad", "fan1", 2960}}));
-    EXPECT_EQ(chipTitle("nvme"), "SSD");
-    EXPECT_EQ(chipTitle("k10temp"), "CPU");
-    EXPECT_EQ(chipTitle("iwlwifi_1"), "Wi-Fi");
-    EXPECT_EQ(chipTitle("it8792"), "it8792");
 
     // A sensor that reads nonsense is left out, the others stay.
     tree.write("sys/class/hwmon/hwmon2/temp1_input", "N/A\n");

@@ -15,19 +15,9 @@ TEST(TextScan, NumbersAreWholeOrNothing)
     EXPECT_FALSE(TextScan::toDouble("1.5.2"));
 }
 
-TEST(TextScan, WordsAndLines)
-{
-    EXPECT_EQ(TextScan::words("  a\tbb   c \n"), (std::vector<std::string_view>{"a", "bb", "c"}));
-    EXPECT_TRUE(TextScan::words(" \t ").empty());
-    std::vector<std::string_view> lines;
-    TextScan::forEachLine("one\n\nthree", [&](std::string_view line) { lines.push_back(line); });
-    EXPECT_EQ(lines, (std::vector<std::string_view>{"one", "", "three"}));
-}
-
 TEST(TextScan, HexEscapes)
 {
     EXPECT_EQ(TextScan::unescapeHex("USB\\x20STICK"), "USB STICK");
-    EXPECT_EQ(TextScan::unescapeHex("a\\x2Db"), "a-b");
     // Cut short or not hexadecimal: left as it stands.
     EXPECT_EQ(TextScan::unescapeHex("\\x2"), "\\x2");
     EXPECT_EQ(TextScan::unescapeHex("\\x+1z"), "\\x+1z");
