@@ -12,12 +12,34 @@ namespace {
 
 constexpr double quietRate = 1000; // bytes per second
 
-Sparkline scaledTrace(const RecentRing& ring, Strain strain)
+double reading(double value)
+{
+    return value;
+}
+
+double reading(std::optional<double> value)
+{
+    return value.value_or(NAN);
+}
+
+// A trace of one field of the recent readings, with the minutes marked;
+// a missing reading is a gap.
+template <typename Field> Sparkline traceOf(const RecentRing& ring, Field RingSample::*field, Strain strain)
 {
     Sparkline trace;
     trace.strain = strain;
     trace.scaled = true;
     trace.marks = minuteMarks(ring);
+    for (const auto& sample : ring.samples())
+        trace.values.push_back(reading(sample.*field));
+    return trace;
+}
+
+template <typename Field> Sparkline shareTraceOf(const RecentRing& ring, Field RingSample::*field, Strain strain)
+{
+    Sparkline trace = traceOf(ring, field, strain);
+    trace.top = 100;
+    trace.valueText = shareText;
     return trace;
 }
 
@@ -61,31 +83,19 @@ std::vector<std::pair<double, QString>> minuteMarks(const RecentRing& ring)
 
 Sparkline shareTrace(const RecentRing& ring, double RingSample::*field, Strain strain)
 {
-    Sparkline trace = scaledTrace(ring, strain);
-    trace.top = 100;
-    trace.valueText = shareText;
-    for (const auto& sample : ring.samples())
-        trace.values.push_back(sample.*field);
-    return trace;
+    return shareTraceOf(ring, field, strain);
 }
 
 Sparkline shareTrace(const RecentRing& ring, std::optional<double> RingSample::*field, Strain strain)
 {
-    Sparkline trace = scaledTrace(ring, strain);
-    trace.top = 100;
-    trace.valueText = shareText;
-    for (const auto& sample : ring.samples())
-        trace.values.push_back((sample.*field).value_or(NAN));
-    return trace;
+    return shareTraceOf(ring, field, strain);
 }
 
 Sparkline rateTrace(const RecentRing& ring, double RingSample::*field, Strain strain, Fmt::RateUnit unit)
 {
-    Sparkline trace = scaledTrace(ring, strain);
+    Sparkline trace = traceOf(ring, field, strain);
     trace.top = rateTop(ring.peak(field).value_or(0), unit);
     trace.valueText = [unit](double value) { return rateText(value, unit); };
-    for (const auto& sample : ring.samples())
-        trace.values.push_back(sample.*field);
     return trace;
 }
 
