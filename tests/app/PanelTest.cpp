@@ -5,7 +5,6 @@
 
 #include "DemoModel.h"
 #include "format/Fmt.h"
-#include "io/Files.h"
 #include "panel/MenuBarController.h"
 #include "panel/MenuDropdown.h"
 #include "panel/MenuGlyph.h"
@@ -13,16 +12,11 @@
 #include "support/GoldenImage.h"
 
 #include <QImage>
-#include <QPainter>
 #include <QSystemTrayIcon>
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
 
 using namespace vexel;
 using vexel::testing::DemoModel;

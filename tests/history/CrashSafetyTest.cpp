@@ -2,20 +2,14 @@
 // file open.
 
 #include "history/HistoryStore.h"
-#include "history/Sqlite.h"
 #include "support/ChildProcess.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <random>
-#include <set>
-#include <sys/wait.h>
-#include <thread>
 
 using namespace vexel;
 using vexel::testing::ChildProcess;

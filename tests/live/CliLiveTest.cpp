@@ -7,7 +7,6 @@
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
 #include "support/TraceLog.h"
-#include "text/TextScan.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,22 +1,14 @@
 // The live reader on this machine, checked against the system's own tools.
 
 #include "io/Files.h"
-#include "monitor/Monitor.h"
-#include "support/ChildProcess.h"
 #include "support/RunTool.h"
-#include "system/linux/Diskstats.h"
 #include "system/linux/LiveSystemReader.h"
-#include "system/linux/NetDev.h"
 #include "system/linux/ProcStat.h"
 #include "text/TextScan.h"
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <filesystem>
-#include <grp.h>
-#include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 using namespace vexel;

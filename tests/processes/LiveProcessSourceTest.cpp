@@ -1,23 +1,16 @@
 #include "processes/linux/LiveProcessSource.h"
 
 #include "io/Files.h"
-#include "processes/Shell.h"
-#include "processes/linux/ProcPidFiles.h"
 #include "support/ChildProcess.h"
 #include "support/ProcessChecks.h"
 #include "support/SleepingChildren.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <optional>
-#include <set>
-#include <spawn.h>
-#include <sys/prctl.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace vexel;
