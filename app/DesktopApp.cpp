@@ -5,7 +5,6 @@
 #include "MainWindow.h"
 #include "QuitVexel.h"
 #include "SingleInstance.h"
-#include "StopSignals.h"
 #include "SystemLook.h"
 #include "VexelCommands.h"
 #include "WindowKeeper.h"
@@ -16,8 +15,8 @@
 #include "panel/PanelHost.h"
 #include "platform/Environment.h"
 #include "processes/Shell.h"
-#include "recorder/HeadlessRecorder.h"
-#include "recorder/RecorderLock.h"
+#include "recording/RecorderLock.h"
+#include "recording/StopSignals.h"
 #include "settings/SettingsWindow.h"
 #include "snapshot/SnapshotMode.h"
 #include "texts/Translations.h"
@@ -185,9 +184,6 @@ int runWindow(SingleInstance& instance, bool hidden)
 
 int runDesktopApp(int& argc, char** argv)
 {
-    // Recording without a desktop needs no Qt at all.
-    if (hasArgument(argc, argv, "--headless"))
-        return runHeadlessRecorder();
     // Before any thread starts, so that every thread leaves them to the signalfd.
     (void)blockStopSignals();
     // Pictures need no display: offscreen, unless the app is to stay open.

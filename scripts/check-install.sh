@@ -28,8 +28,8 @@ manifest=$(<"$build/install_manifest.txt")
 for file in share/systemd/user/vexel-recorder.service share/applications/dev.vexel.Vexel.desktop; do
   grep -Fxq "$prefix/$file" <<<"$manifest" || fail "install_manifest.txt doesn't list $file"
 done
-grep -Fxq "ExecStart=\"$prefix/bin/vexel-app\" --headless" "$prefix/share/systemd/user/vexel-recorder.service" ||
-  fail "the recorder's unit doesn't start $prefix/bin/vexel-app"
+grep -Fxq "ExecStart=\"$prefix/bin/vexel-recorder\"" "$prefix/share/systemd/user/vexel-recorder.service" ||
+  fail "the recorder's unit doesn't start $prefix/bin/vexel-recorder"
 
 entry="$prefix/share/applications/dev.vexel.Vexel.desktop"
 metainfo="$prefix/share/metainfo/dev.vexel.Vexel.metainfo.xml"

@@ -28,11 +28,17 @@ struct Dispatch {
 // The version the program reports: the build's, else "1.0".
 [[nodiscard]] std::string programVersion();
 
-// The desktop program beside this one: "vexel-app" in the folder of `self`,
-// the absolute path this program runs from (/proc/self/exe). Nothing when
-// that path is unknown or not absolute: the program is never looked for in
-// the current folder or on PATH.
-[[nodiscard]] std::optional<std::string> desktopProgram(const std::optional<std::string>& self);
+// The program `name` beside this one ("vexel-app", "vexel-recorder"), in the
+// folder of `self`, the absolute path this program runs from
+// (/proc/self/exe). Nothing when that path is unknown or not absolute: the
+// program is never looked for in the current folder or on PATH.
+[[nodiscard]] std::optional<std::string> siblingProgram(
+    const std::optional<std::string>& self, const std::string& name);
+
+// Replaces this process with the program `name` beside it, given `args` (its
+// own name first); returns only when that fails, with exit status 1 and a
+// message on standard error.
+int handOver(const std::string& name, const std::vector<std::string>& args);
 
 // Starts the desktop app with the program's arguments; returns its exit status.
 using DesktopLauncher = std::function<int(const std::vector<std::string>& args)>;

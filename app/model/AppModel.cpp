@@ -24,6 +24,16 @@ namespace {
 // Away this long, the window opens on what happened meanwhile.
 constexpr double awayAfter = 600;
 
+// What the page on show needs read more often than a closed window would.
+Cadence::View cadenceView(bool windowVisible, Route route)
+{
+    Cadence::View view;
+    view.windowVisible = windowVisible;
+    view.showsAppNetwork = route == Route::overview || route == Route::apps || route == Route::network;
+    view.showsServers = route == Route::developers;
+    return view;
+}
+
 // What the user can do about a failing history, after SQLite's or the file
 // system's words for it.
 QString historyAdvice(const std::string& error, const std::filesystem::path& folder)
@@ -187,7 +197,7 @@ void AppModel::refresh(bool full)
         return;
     }
     const double now = m_clock();
-    const auto plan = m_cadence.plan(now, full, {m_windowVisible, m_route}, m_settings);
+    const auto plan = m_cadence.plan(now, full, cadenceView(m_windowVisible, m_route), m_settings);
     m_busy = true;
     m_busyFull = full;
     onSampler<TickResult>([now, plan](Sampler& sampler) { return sampler.tick(now, plan); },

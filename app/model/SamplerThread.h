@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Mailbox.h"
-#include "model/Sampler.h"
+#include "sampling/Sampler.h"
 
 #include <QObject>
 #include <QThread>

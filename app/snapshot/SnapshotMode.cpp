@@ -24,7 +24,12 @@
 #include <QTimer>
 #include <array>
 
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
 #include <iostream>
+#include <optional>
+#include <unistd.h>
 
 namespace vexel {
 
@@ -74,13 +79,37 @@ QSize showWhole(QWidget& window, QWidget& page)
     return was;
 }
 
+// Pictures that could not be written; any makes the run a failure.
+int unwrittenPictures = 0;
+
+void saveImage(const QImage& image, const std::filesystem::path& file)
+{
+    if (image.save(QString::fromStdString(file.string())))
+        return;
+    std::cerr << "Couldn't write " << file.string() << "\n";
+    ++unwrittenPictures;
+}
+
 void save(QWidget& window, const SnapshotOptions& options, const std::string& name)
 {
-    if (!options.wants(name))
-        return;
-    const auto file = options.folder / name;
-    if (!picture(window).save(QString::fromStdString(file.string())))
-        std::cerr << "Couldn't write " << file.string() << "\n";
+    if (options.wants(name))
+        saveImage(picture(window).toImage(), options.folder / name);
+}
+
+// Why no picture can be written in `folder`, found before a minute is spent drawing them.
+std::optional<std::string> unwritable(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error)
+        return error.message();
+    const auto probe = folder / ".vexel-snapshot-probe";
+    const int fd = ::open(probe.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (fd < 0)
+        return std::strerror(errno);
+    ::close(fd);
+    std::filesystem::remove(probe, error);
+    return std::nullopt;
 }
 
 // The staged states of the Apps page: an app selected, a search that finds nothing.
@@ -140,9 +169,7 @@ void writePanelStrip(const AppModel& model, const SnapshotOptions& options)
         }
     }
     painter.end();
-    const auto file = options.folder / "menubar-items.png";
-    if (!strip.save(QString::fromStdString(file.string())))
-        std::cerr << "Couldn't write " << file.string() << "\n";
+    saveImage(strip, options.folder / "menubar-items.png");
 }
 
 // Each reading's dropdown, named "dropdown-cpu-light.png" (with `infix`
@@ -307,11 +334,14 @@ int runSnapshotMode(const SnapshotOptions& options)
     PseudoLocale pseudo;
     if (options.pseudoLocale)
         QCoreApplication::installTranslator(&pseudo);
-    std::error_code error;
-    std::filesystem::create_directories(options.folder, error);
+    if (const auto why = unwritable(options.folder)) {
+        std::cerr << "Couldn't write pictures in " << options.folder.string() << ": " << *why << "\n";
+        return 1;
+    }
     QTemporaryDir data;
-    if (error || !data.isValid()) {
-        std::cerr << "Couldn't prepare " << options.folder.string() << ": " << error.message() << "\n";
+    if (!data.isValid()) {
+        std::cerr << "Couldn't make a temporary folder for the demo world's history: "
+                  << data.errorString().toStdString() << "\n";
         return 1;
     }
     DemoWorld world;
@@ -341,7 +371,7 @@ int runSnapshotMode(const SnapshotOptions& options)
         writeDropdowns(*model, options, "strained-");
     }
     if (!options.stay)
-        return 0;
+        return unwrittenPictures == 0 ? 0 : 1;
     QApplication::setPalette(Look::palette(Appearance::light));
     MainWindow window;
     window.bind(*model);

@@ -1,6 +1,7 @@
 #include "cli/VexelCLI.h"
 
 #include "cli/Arguments.h"
+#include "cli/CommandTable.h"
 #include "cli/ReportText.h"
 #include "history/HistoryRange.h"
 
@@ -65,23 +66,7 @@ int print(const std::function<json()>& make, const std::function<std::string(con
 
 std::string usage(Platform platform)
 {
-    return "vexel \u2014 what your " + machineWord(platform)
-        + " is doing, from the Vexel app (read-only).\n"
-          "\n"
-          "Usage:\n"
-          "  vexel status                      CPU, memory, disk, network, GPU, battery, thermal\n"
-          "  vexel top [-n N] [--sort KEY]     busiest apps (KEY: cpu, memory, energy, disk, network)\n"
-          "  vexel app NAME                    one app's processes\n"
-          "  vexel ports                       listening TCP ports\n"
-          "  vexel servers                     dev servers by project, idle ones flagged\n"
-          "  vexel docker                      Docker containers\n"
-          "  vexel history [RANGE]             today, week, month or year\n"
-          "  vexel spikes [--hours N]          what happened (default: last 24 hours)\n"
-          "  vexel mcp                         run the read-only MCP server on stdio\n"
-          "\n"
-          "Options:\n"
-          "  --json                            print JSON instead of a table\n"
-          "  -h, --help                        this help";
+    return CommandTable::usage(CommandTable::cli(platform));
 }
 
 std::string prettyJSON(const json& report)

@@ -82,7 +82,7 @@ void MCPServer::runStdio(std::FILE* input, std::FILE* output)
     for (LineRead read = readLine(input, line); read != LineRead::end; read = readLine(input, line)) {
         const auto answer = read == LineRead::tooLong ? std::optional(tooLong()) : handle(line);
         if (answer)
-            Output::writeAll(::fileno(output), *answer + "\n");
+            (void)Output::writeAll(::fileno(output), *answer + "\n"); // a client gone ends with its input
     }
 }
 

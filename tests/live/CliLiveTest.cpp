@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <ctime>
+#include <fcntl.h>
 #include <fstream>
 #include <grp.h>
 #include <sched.h>
@@ -146,6 +147,11 @@ TEST(CliLive, ABrokenHistoryIsAnErrorNotAQuietDay)
     const auto mcp = vexelIn(corrupt.path(), {"mcp"},
         R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":"history"}})"
         "\n");
+    // The same folder named by --data-dir, anywhere on the line, over VEXEL_DATA_DIR's.
+    const auto named = runTool(
+        {vexelBinary, "history", "--data-dir", corrupt.path().string()}, {{{"VEXEL_DATA_DIR", "/nonexistent"}}, ""});
+    EXPECT_EQ(named.status, 1);
+    EXPECT_EQ(named.err, notADatabase);
     const json answer = jsonOf(mcp);
     EXPECT_EQ(answer["result"]["isError"], true);
     EXPECT_EQ(answer["result"]["content"][0]["text"], "Couldn't open the history: file is not a database");
@@ -256,7 +262,7 @@ TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
 }
 
 // The headless recorder for real: it says where it records, a second one
-// refuses to write beside it, a history removed under it is said and started
+// waits for it instead of writing beside it, a history removed under it is said and started
 // anew with what waited, and on SIGHUP (its terminal closing; SIGTERM and
 // SIGINT are the same signals to it) it writes what was waiting and saves
 // when it last ran, so that `vexel history` reads the recording back.
@@ -272,11 +278,14 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     const auto history = data.path() / "history.sqlite";
     EXPECT_EQ(recorder.readLine(), "Recording to " + history.string() + " every 1 s.");
 
-    const auto second = runTool({app, "--headless"}, {{{"VEXEL_DATA_DIR", data.path().string()}}, ""});
-    EXPECT_EQ(second.status, 1);
-    EXPECT_EQ(second.err,
+    // A second recorder (vexel-app --headless hands over to vexel-recorder)
+    // waits for the first, saying so once, and records once it stops.
+    ::setenv("VEXEL_DATA_DIR", data.path().c_str(), 1);
+    ChildProcess second({app, "--headless"}, {{}, true, true});
+    ::unsetenv("VEXEL_DATA_DIR");
+    EXPECT_EQ(second.readLine(),
         "Vexel is already recording on this computer (process " + std::to_string(recorder.pid())
-            + "); this one stops instead of writing beside it.\n");
+            + "); this one waits and takes over once it stops.");
 
     // Ticks a second apart: the first frame has no interval, the next ones are kept.
     const auto started = std::chrono::steady_clock::now();
@@ -294,6 +303,9 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     ASSERT_TRUE(WIFEXITED(status)) << status;
     EXPECT_EQ(WEXITSTATUS(status), 0);
     EXPECT_EQ(recorder.readLine(), "Stopped recording.");
+    EXPECT_EQ(second.readLine(), "Recording to " + history.string() + " every 1 s.");
+    EXPECT_EQ(second.stop(SIGTERM), 0);
+    EXPECT_EQ(second.readLine(), "Stopped recording.");
     const HistoryStore stored(history, HistoryAccess::readOnly);
     EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 3) << "the minute that waited is in the new file";
     const json today = jsonOf(vexelIn(data.path(), {"history", "today", "--json"}));
@@ -333,4 +345,22 @@ TEST(CliLive, SnapshotModeWritesTheSamePicturesEveryTime)
         written.push_back(entry.path().filename().string());
     std::sort(written.begin(), written.end());
     EXPECT_EQ(written, (std::vector<std::string>{"confirm-forcequit-dark.png", "confirm-forcequit-light.png"}));
+
+    // A folder no picture can be written in (not even by root) fails at once, saying why.
+    const auto refused = runTool({app}, {{{"VEXEL_SNAPSHOT_DIR", "/proc"}}, ""});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("Couldn't write pictures in /proc: "), std::string::npos) << refused.err;
+}
+
+// A report that never reached its file (the disk full) fails, and says so.
+TEST(CliLive, AReportWrittenToAFullDiskIsAFailure)
+{
+    const auto run = runForked([] {
+        ::dup2(STDOUT_FILENO, STDERR_FILENO); // what it says comes to the test
+        ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO);
+        ::execl(vexelBinary.c_str(), "vexel", "status", nullptr);
+        ::_exit(127);
+    });
+    EXPECT_TRUE(WIFEXITED(run.status) && WEXITSTATUS(run.status) == 1) << run.status;
+    EXPECT_EQ(run.output, "vexel: couldn't write the output: No space left on device\n");
 }

@@ -46,8 +46,8 @@ TEST(Entry, DispatchOrder)
 // The desktop program is only ever the one beside this program's own file.
 TEST(Entry, TheDesktopProgramIsTheOneBesideThisOne)
 {
-    EXPECT_EQ(desktopProgram("/usr/local/bin/vexel"), "/usr/local/bin/vexel-app");
-    EXPECT_EQ(desktopProgram("/opt/vexel/vexel (deleted)"), "/opt/vexel/vexel-app");
-    EXPECT_FALSE(desktopProgram(std::nullopt)) << "never ./vexel-app when /proc/self/exe can't be read";
-    EXPECT_FALSE(desktopProgram("vexel"));
+    EXPECT_EQ(siblingProgram("/usr/local/bin/vexel", "vexel-app"), "/usr/local/bin/vexel-app");
+    EXPECT_EQ(siblingProgram("/opt/vexel/vexel (deleted)", "vexel-app"), "/opt/vexel/vexel-app");
+    EXPECT_FALSE(siblingProgram(std::nullopt, "vexel-app")) << "never ./vexel-app when /proc/self/exe can't be read";
+    EXPECT_FALSE(siblingProgram("vexel", "vexel-app"));
 }

@@ -1,11 +1,10 @@
-// The model's parts that decide what a tick does: the cadence of readings,
-// the ring of recent readings and the batching of history writes.
+// The engine's parts that decide what a tick does and keep what it read: the
+// cadence of readings, the batching of history writes and the sampler.
 
 #include "io/Files.h"
-#include "model/Cadence.h"
-#include "model/HistoryBatch.h"
-#include "model/RecentRing.h"
-#include "model/Sampler.h"
+#include "sampling/Cadence.h"
+#include "sampling/HistoryBatch.h"
+#include "sampling/Sampler.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
 
@@ -60,10 +59,10 @@ TEST(Cadence, ReadsWhatTheViewNeedsAndNothingItDoesNot)
     settings.sampleSeconds = 0; // set in code out of range: never a spinning timer
     EXPECT_EQ(Cadence::tickSeconds(false, settings), VexelSettings::shortestSample);
 
-    const Cadence::View hidden{false, Route::developers};
-    const Cadence::View developers{true, Route::developers};
-    const Cadence::View overview{true, Route::overview};
-    const Cadence::View cpu{true, Route::cpu};
+    const Cadence::View hidden{false, false, true};
+    const Cadence::View developers{true, false, true};
+    const Cadence::View overview{true, true, false};
+    const Cadence::View cpu{true, false, false};
     const auto count = [](Cadence::View view, bool TickPlan::*reading) {
         Cadence cadence;
         (void)cadence.plan(1000, true, view, {});
@@ -88,22 +87,6 @@ TEST(Cadence, ReadsWhatTheViewNeedsAndNothingItDoesNot)
     // Leaving Developers stops the containers.
     EXPECT_GT(planned(cadence, 1016, 60, 2, developers, &TickPlan::docker), 0);
     EXPECT_EQ(planned(cadence, 1076, 60, 2, overview, &TickPlan::docker), 0);
-}
-
-TEST(RecentRing, KeepsTheNewest150AndTheirPeaks)
-{
-    RecentRing ring;
-    EXPECT_FALSE(ring.peak(&RingSample::cpu));
-    for (int i = 0; i < 200; ++i) {
-        auto frame = frameAt(i, 2);
-        frame.system.cpu.user = i == 10 ? 0.99 : (i == 120 ? 0.5 : 0.1);
-        ring.append(RingSample::of(frame));
-    }
-    ASSERT_EQ(ring.samples().size(), 150u);
-    EXPECT_EQ(ring.samples().front().t, 50);
-    EXPECT_EQ(ring.samples().back().t, 199);
-    EXPECT_DOUBLE_EQ(*ring.peak(&RingSample::cpu), 50); // the 99 % reading has left the ring
-    EXPECT_FALSE(ring.peak(&RingSample::gpu)); // no GPU reading in any sample
 }
 
 // When and which frames are written is the sampler's test below; here, a

@@ -1,4 +1,4 @@
-#include "model/HistoryBatch.h"
+#include "sampling/HistoryBatch.h"
 
 namespace vexel {
 

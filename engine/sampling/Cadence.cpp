@@ -1,4 +1,4 @@
-#include "model/Cadence.h"
+#include "sampling/Cadence.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,11 +9,6 @@ namespace {
 
 // Never: an interval no clock reaches.
 constexpr double never = std::numeric_limits<double>::infinity();
-
-bool showsPerAppNetwork(Route route)
-{
-    return route == Route::overview || route == Route::apps || route == Route::network;
-}
 
 int64_t capBytes(int megabytes)
 {
@@ -49,10 +44,10 @@ bool Cadence::take(std::optional<double>& last, double now, double interval, boo
 TickPlan Cadence::plan(double now, bool full, View view, const VexelSettings& settings)
 {
     const bool visible = view.windowVisible;
-    const bool developers = visible && view.route == Route::developers;
+    const bool developers = visible && view.showsServers;
     TickPlan plan;
     plan.everyone = take(m_lastEveryone, now, visible ? 6 : 60, full);
-    plan.network = take(m_lastNetwork, now, !visible ? 60 : (showsPerAppNetwork(view.route) ? 4 : 15), full);
+    plan.network = take(m_lastNetwork, now, !visible ? 60 : (view.showsAppNetwork ? 4 : 15), full);
     plan.ports = take(m_lastPorts, now, developers ? 8 : 300, full);
     plan.docker = take(m_lastDocker, now, developers ? 15 : never, full);
     plan.record = true;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "Route.h"
-#include "model/TickPlan.h"
+#include "sampling/TickPlan.h"
 #include "settings/VexelSettings.h"
 
 #include <optional>
@@ -14,10 +13,13 @@ namespace vexel {
 // to keep the app light.
 class Cadence {
 public:
-    // Where the user is looking when a tick is planned.
+    // What the user is looking at when a tick is planned: whether a window
+    // shows at all, and what its page needs. A recorder with no window plans
+    // with the defaults.
     struct View {
         bool windowVisible = false;
-        Route route = Route::overview;
+        bool showsAppNetwork = false; // each app's network (the overview, Apps, Network)
+        bool showsServers = false; // ports, dev servers and containers (the Developers page)
     };
 
     // Seconds between ticks: 2 while the window is visible, else the settings'

@@ -1,15 +1,18 @@
-#include "recorder/HeadlessRecorder.h"
+#include "recording/Recorder.h"
 
-#include "StopSignals.h"
-#include "model/Cadence.h"
-#include "model/Sampler.h"
-#include "recorder/RecorderLock.h"
+#include "recording/RecorderLock.h"
+#include "recording/StopSignals.h"
+#include "sampling/Cadence.h"
+#include "sampling/Sampler.h"
 
 #include <cerrno>
 #include <cmath>
 #include <csignal>
 #include <ctime>
-#include <iostream>
+#include <memory>
+#include <ostream>
+#include <pthread.h>
+#include <thread>
 
 namespace vexel {
 
@@ -29,26 +32,60 @@ bool stopRequested(const sigset_t& signals, double seconds)
     }
 }
 
+// Told to the waiting recorder by the thread that took the lock for it.
+constexpr int lockTaken = SIGUSR1;
+
+// Blocks on the lock on a thread of its own while this one waits for either
+// the lock or a stop signal; whether the lock was taken. The thread is left
+// blocked in flock when a stop comes first, and ends with the process.
+bool waitForTheLock(const std::shared_ptr<RecorderLock>& lock, sigset_t signals)
+{
+    sigaddset(&signals, lockTaken);
+    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    std::thread([lock, waiter = ::pthread_self()] {
+        if (lock->wait())
+            ::pthread_kill(waiter, lockTaken);
+    }).detach();
+    for (;;) {
+        const int taken = ::sigwaitinfo(&signals, nullptr);
+        if (taken == lockTaken && lock->held())
+            return true;
+        if (taken >= 0 && taken != lockTaken)
+            return false;
+    }
+}
+
 } // namespace
 
-HeadlessRecorder::HeadlessRecorder(Options options)
+Recorder::Recorder(Options options)
     : m_options(std::move(options))
 {
 }
 
-int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
+int Recorder::run(std::ostream& out, std::ostream& err)
 {
     const sigset_t signals = blockStopSignals();
-    const auto& paths = m_options.paths;
-    const RecorderLock lock(paths.dir);
-    if (!lock.held()) {
-        if (lock.holder())
-            err << "Vexel is already recording on this computer (process " << *lock.holder()
-                << "); this one stops instead of writing beside it.\n";
-        else
-            err << lock.error().value_or("Couldn't take the recorder's lock.") << "\n";
+    const auto lock = std::make_shared<RecorderLock>(m_options.paths.dir);
+    if (lock->error() && !lock->held()) {
+        err << *lock->error() << "\n";
         return 1;
     }
+    if (!lock->held()) {
+        err << "Vexel is already recording on this computer";
+        if (lock->holder())
+            err << " (process " << *lock->holder() << ")";
+        err << "; this one waits and takes over once it stops.\n" << std::flush;
+        if (!waitForTheLock(lock, signals)) {
+            out << "Stopped waiting.\n";
+            return 0;
+        }
+    }
+    return record(out, err, signals);
+}
+
+int Recorder::record(std::ostream& out, std::ostream& err, const sigset_t& signals)
+{
+    const auto& paths = m_options.paths;
     std::optional<Sentence> openError;
     auto store = Sampler::openStore(paths, openError);
     if (!store) {
@@ -66,7 +103,7 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
     std::optional<Sentence> lastError;
     bool first = true;
     do {
-        const auto plan = cadence.plan(m_options.clock(), first, {false, Route::overview}, settings);
+        const auto plan = cadence.plan(m_options.clock(), first, Cadence::View{}, settings);
         first = false;
         const auto result = sampler.tick(m_options.clock(), plan);
         // Say a failure once, and again only when it changes; a notice
@@ -76,6 +113,8 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
         lastError = result.error;
         if (result.notice)
             err << result.notice->english() << "\n" << std::flush;
+        for (auto* listener : m_options.listeners)
+            listener->tookTick(result, settings);
     } while (!stopRequested(signals, Cadence::tickSeconds(false, settings)));
 
     int status = 0;
@@ -90,12 +129,6 @@ int HeadlessRecorder::run(std::ostream& out, std::ostream& err)
     }
     out << "Stopped recording.\n";
     return status;
-}
-
-int runHeadlessRecorder()
-{
-    HeadlessRecorder recorder({VexelPaths::standard(), [] { return Monitor::live(); }, currentTime});
-    return recorder.run(std::cout, std::cerr);
 }
 
 } // namespace vexel

@@ -1,6 +1,5 @@
-#include "model/Sampler.h"
+#include "sampling/Sampler.h"
 
-#include "Logging.h"
 #include "history/Downsample.h"
 #include "history/HistoryError.h"
 #include "io/Files.h"
@@ -121,7 +120,6 @@ void Sampler::followTheFile(TickResult& result)
         openForReading(); // the recorder goes on in a file of its own at the path
         return;
     }
-    qCInfo(historyLog) << m_paths.history().c_str() << "was removed or replaced";
     m_store->emptyLog();
     m_store.reset();
     std::optional<Sentence> error;

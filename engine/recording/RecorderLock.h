@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -22,8 +23,12 @@ public:
     // Tries again, without waiting (the recorder beside the window may have
     // stopped); whether the lock is held now.
     bool take();
+    // Blocks until the lock is free and takes it; false when it cannot be
+    // waited for at all. May be called from another thread than the one
+    // that asks `held()`.
+    bool wait();
 
-    [[nodiscard]] bool held() const { return m_held; }
+    [[nodiscard]] bool held() const { return m_held.load(); }
     // The pid written by the holder, when another process holds the lock.
     [[nodiscard]] const std::optional<int64_t>& holder() const { return m_holder; }
     // Why the lock could not even be tried (the folder cannot be made, …).
@@ -32,7 +37,10 @@ public:
 private:
     std::filesystem::path m_file;
     int m_fd = -1;
-    bool m_held = false;
+    // The holder's pid written into the file once the lock is ours.
+    void markHeld();
+
+    std::atomic<bool> m_held = false;
     std::optional<int64_t> m_holder;
     std::optional<std::string> m_error;
 };

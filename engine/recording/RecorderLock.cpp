@@ -1,4 +1,4 @@
-#include "recorder/RecorderLock.h"
+#include "recording/RecorderLock.h"
 
 #include "io/Files.h"
 #include "text/TextScan.h"
@@ -44,13 +44,33 @@ bool RecorderLock::take()
         m_holder = TextScan::toI64(TextScan::trim(Files::read(m_file.string(), 64).value_or("")));
         return false;
     }
-    m_held = true;
     m_holder.reset();
     m_error.reset();
-    const std::string pid = std::to_string(::getpid()) + "\n";
-    if (::ftruncate(m_fd, 0) != 0 || ::pwrite(m_fd, pid.data(), pid.size(), 0) != static_cast<ssize_t>(pid.size()))
-        m_error = "Couldn't write " + m_file.string() + ": " + std::strerror(errno);
+    markHeld();
     return true;
+}
+
+bool RecorderLock::wait()
+{
+    if (m_held || m_fd < 0)
+        return m_held;
+    int locked = 0;
+    do
+        locked = ::flock(m_fd, LOCK_EX);
+    while (locked != 0 && errno == EINTR);
+    if (locked != 0)
+        return false;
+    markHeld();
+    return true;
+}
+
+void RecorderLock::markHeld()
+{
+    // A failed write leaves only the pid unsaid: the lock itself holds.
+    const std::string pid = std::to_string(::getpid()) + "\n";
+    if (::ftruncate(m_fd, 0) == 0)
+        (void)!::pwrite(m_fd, pid.data(), pid.size(), 0);
+    m_held = true;
 }
 
 } // namespace vexel

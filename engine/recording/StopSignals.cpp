@@ -1,4 +1,4 @@
-#include "StopSignals.h"
+#include "recording/StopSignals.h"
 
 #include <pthread.h>
 
