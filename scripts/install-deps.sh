@@ -11,6 +11,8 @@ run_packages=(
   cmake ninja-build g++ pkg-config
   # libraries
   nlohmann-json3-dev libsqlite3-dev qt6-base-dev
+  # the recorder serves its metrics to Prometheus with it
+  libmicrohttpd-dev
   # lrelease compiles the app's English (its plural forms) into it; lupdate
   # checks that the translation source holds every sentence
   qt6-l10n-tools

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The translation source of the window, the panel and the settings: lupdate
-# collects every Vexel::tr sentence of app/, and the texts the core marks with
+# collects every Vexel::tr sentence of app/, and the texts the core and the engine mark with
 # VEXEL_WORDS, into translations/vexel_en.ts, which translators start from. Its English plural forms ("%n process has",
 # "%n processes have") are written in by hand and kept by lupdate; the build
 # compiles it into the app.
@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 lupdate=/usr/lib/qt6/bin/lupdate
 
 collect() {
-  "$lupdate" -silent -locations none -tr-function-alias QT_TRANSLATE_NOOP+=VEXEL_WORDS,QT_TRANSLATE_N_NOOP+=VEXEL_COUNTED -no-obsolete -source-language en -target-language en app core -ts "$1"
+  "$lupdate" -silent -locations none -tr-function-alias QT_TRANSLATE_NOOP+=VEXEL_WORDS,QT_TRANSLATE_N_NOOP+=VEXEL_COUNTED -no-obsolete -source-language en -target-language en app core engine -ts "$1"
 }
 
 case "${1:-}" in
@@ -31,7 +31,7 @@ case "${1:-}" in
       echo "translations: write English's singular and plural forms of these in translations/vexel_en.ts" >&2
       exit 1
     fi
-    echo "translations: translations/vexel_en.ts holds the $(grep -c '<message' "$fresh") sentences of app/ and core/"
+    echo "translations: translations/vexel_en.ts holds the $(grep -c '<message' "$fresh") sentences of app/, core/ and engine/"
     ;;
   update) collect translations/vexel_en.ts ;;
   *)

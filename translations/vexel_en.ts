@@ -1881,5 +1881,9 @@ Or paste this into your assistant&apos;s MCP settings:
         <source>%1 min ago</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 must be a whole number of apps, %2 to %3; using %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -163,7 +163,7 @@ const std::array<Field<SpikeRules>, 8> spikeFields{{
 }};
 
 // The settings' plain numbers and flags; the rest is written out below.
-const std::array<Field<VexelSettings>, 6> plainFields{{
+const std::array<Field<VexelSettings>, 7> plainFields{{
     {"sampleSeconds", &VexelSettings::sampleSeconds,
         {VexelSettings::shortestSample, VexelSettings::longestSample, seconds}},
     {"networkBits", &VexelSettings::networkBits},
@@ -171,6 +171,8 @@ const std::array<Field<VexelSettings>, 6> plainFields{{
         {1, 3650, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of days, %2 to %3; using %4.")}},
     {"maxHistoryMB", &VexelSettings::maxHistoryMB,
         {1, 100000, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of megabytes, %2 to %3; using %4.")}},
+    {"metricsApps", &VexelSettings::metricsApps,
+        {1, 1000, VEXEL_WORDS("vexel::Vexel", "%1 must be a whole number of apps, %2 to %3; using %4.")}},
     {"idleDays", &VexelSettings::idleDays,
         {0.1, 365, VEXEL_WORDS("vexel::Vexel", "%1 must be a number of days, %2 to %3; using %4.")}},
     {"onboarded", &VexelSettings::onboarded},

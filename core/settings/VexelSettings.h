@@ -29,6 +29,7 @@ struct VexelSettings {
     bool networkBits = false;
     int retentionDays = 365;
     int maxHistoryMB = 64;
+    int metricsApps = 20; // apps named in the recorder's metrics; the rest are "other"
     std::vector<MenuItemConfig> menuItems = defaultMenuItems();
     StrainRules strain;
     SpikeRules spikes;
