@@ -28,6 +28,8 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev clang-14 libclang-rt-14-dev clang-format
   # tests run ps and python3 servers, and watch a whole session under strace
   procps python3 strace
+  # the metrics are scraped by a real Prometheus, checked by its promtool
+  prometheus
   # the desktop app runs for real on a virtual display
   xvfb xauth
   # its panel items in a real status area: a message bus of their own, the

@@ -6,53 +6,25 @@
 #include "metrics/MetricsText.h"
 #include "sampling/Sampler.h"
 #include "support/Golden.h"
+#include "support/HttpGet.h"
 #include "support/TempFolder.h"
 #include "synth/DemoWorld.h"
 
 #include <gtest/gtest.h>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <map>
 
 using namespace vexel;
+using vexel::testing::statusLine;
 
 namespace {
 
-// What a scraper sent and got, over a real connection to the server.
-std::string sendAndRead(uint16_t port, const std::string& request)
-{
-    const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-        ::close(fd);
-        return "";
-    }
-    (void)!::write(fd, request.data(), request.size());
-    std::string answer;
-    char buffer[4096];
-    for (ssize_t got = 0; (got = ::read(fd, buffer, sizeof buffer)) > 0;)
-        answer.append(buffer, static_cast<size_t>(got));
-    ::close(fd);
-    return answer;
-}
-
 std::string get(uint16_t port, const std::string& method, const std::string& path, const std::string& headers = "")
 {
-    return sendAndRead(
-        port, method + " " + path + " HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n" + headers + "\r\n");
-}
-
-std::string statusLine(const std::string& answer)
-{
-    return answer.substr(0, answer.find("\r\n"));
+    return vexel::testing::httpRequest(port, method, path, headers);
 }
 
 AppGroup app(const std::string& name, double cpu)
@@ -187,12 +159,8 @@ TEST(MetricsServer, HalfOpenClientsHoldUpNeitherTicksNorScrapes)
     ASSERT_TRUE(server) << error;
     std::vector<int> stalled;
     for (int i = 0; i < 4; ++i) {
-        const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(server->port());
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        ASSERT_EQ(::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+        const int fd = vexel::testing::connectTo(server->port());
+        ASSERT_GE(fd, 0);
         (void)!::write(fd, "GET /metr", 9);
         stalled.push_back(fd);
     }
