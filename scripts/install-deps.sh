@@ -30,6 +30,8 @@ test_packages=(
   procps python3 strace
   # the metrics are scraped by a real Prometheus, checked by its promtool
   prometheus
+  # the manual pages and completions are read by the real man and shells
+  man-db zsh fish
   # the desktop app runs for real on a virtual display
   xvfb xauth
   # its panel items in a real status area: a message bus of their own, the
