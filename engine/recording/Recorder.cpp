@@ -1,8 +1,8 @@
 #include "recording/Recorder.h"
 
-#include "recording/RecorderLock.h"
 #include "recording/StopSignals.h"
 #include "sampling/Cadence.h"
+#include "sampling/RecorderLock.h"
 #include "sampling/Sampler.h"
 
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "recording/RecorderLock.h"
+#include "sampling/RecorderLock.h"
 
 #include "io/Files.h"
 #include "text/TextScan.h"
