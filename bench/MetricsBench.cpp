@@ -8,10 +8,7 @@
 #include "metrics/MetricsServer.h"
 #include "metrics/MetricsText.h"
 #include "monitor/Monitor.h"
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
+#include "support/HttpGet.h"
 
 #include <benchmark/benchmark.h>
 
@@ -42,25 +39,6 @@ void BM_Metrics_TickToTexts(benchmark::State& state)
 }
 BENCHMARK(BM_Metrics_TickToTexts)->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
 
-std::string scrape(uint16_t port)
-{
-    const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    std::string answer;
-    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
-        const std::string request = "GET /metrics HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n\r\n";
-        (void)!::write(fd, request.data(), request.size());
-        char buffer[65536];
-        for (ssize_t got = 0; (got = ::read(fd, buffer, sizeof buffer)) > 0;)
-            answer.append(buffer, static_cast<size_t>(got));
-    }
-    ::close(fd);
-    return answer;
-}
-
 void BM_Metrics_OneScrape(benchmark::State& state)
 {
     const auto tick = liveTick();
@@ -73,7 +51,7 @@ void BM_Metrics_OneScrape(benchmark::State& state)
         vexel::metricsText(book, vexel::MetricsFormat::openMetrics));
     size_t bytes = 0;
     for (auto _ : state)
-        bytes = scrape(server->port()).size();
+        bytes = vexel::testing::httpRequest(server->port(), "GET", "/metrics").size();
     state.counters["bytes"] = static_cast<double>(bytes);
     state.counters["processes"] = static_cast<double>(tick.frame.records.size());
 }

@@ -63,15 +63,15 @@ Program makeCli(Platform platform)
         "app or vexel-recorder writes. With no command it prints the status.",
     };
     vexel.commands = {
-        {"status", "", "CPU, memory, disk, network, GPU, battery, thermal", {}, {}},
-        {"top", "[-n N] [--sort KEY]", "busiest apps (KEY: " + listed(sortKeys()) + ")", {}, {"-n", "--sort"}},
-        {"app", "NAME", "one app's processes", {}, {}},
-        {"ports", "", "listening TCP ports", {}, {}},
-        {"servers", "", "dev servers by project, idle ones flagged", {}, {}},
-        {"docker", "", "Docker containers", {}, {}},
-        {"history", "[RANGE]", listed(historyRanges(), " or"), historyRanges(), {}},
-        {"spikes", "[--hours N]", "what happened (default: last 24 hours)", {}, {"--hours"}},
-        {"mcp", "", "run the read-only MCP server on stdio", {}, {}},
+        {"status", "", "CPU, memory, disk, network, GPU, battery, thermal", {}},
+        {"top", "[-n N] [--sort KEY]", "busiest apps (KEY: " + listed(sortKeys()) + ")", {}},
+        {"app", "NAME", "one app's processes", {}},
+        {"ports", "", "listening TCP ports", {}},
+        {"servers", "", "dev servers by project, idle ones flagged", {}},
+        {"docker", "", "Docker containers", {}},
+        {"history", "[RANGE]", listed(historyRanges(), " or"), historyRanges()},
+        {"spikes", "[--hours N]", "what happened (default: last 24 hours)", {}},
+        {"mcp", "", "run the read-only MCP server on stdio", {}},
     };
     vexel.options = {
         {{"--json"}, "", "print JSON instead of a table", {}, true},
@@ -143,7 +143,7 @@ Program makeRecorder()
         "vexel-recorder) or, for a machine with no login, the system unit vexel-recorder-system.service, which "
         "keeps its history in /var/lib/vexel.",
     };
-    recorder.commands = {{"", "[OPTIONS]", "record until SIGTERM, SIGINT or SIGHUP", {}, {}}};
+    recorder.commands = {{"", "[OPTIONS]", "record until SIGTERM, SIGINT or SIGHUP", {}}};
     Option data = dataDir();
     data.summary = "record into DIR instead of VEXEL_DATA_DIR or ~/.local/share/vexel";
     data.inHelp = true;
@@ -184,15 +184,6 @@ const Program& recorder()
 {
     static const Program program = makeRecorder();
     return program;
-}
-
-const Option* option(const Program& program, const std::string& spelling)
-{
-    for (const auto& candidate : program.options)
-        for (const auto& spelled : candidate.spellings)
-            if (spelled == spelling)
-                return &candidate;
-    return nullptr;
 }
 
 std::string usage(const Program& program)

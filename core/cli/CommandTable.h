@@ -24,7 +24,6 @@ struct Command {
     std::string arguments; // as the help shows them: "[-n N] [--sort KEY]"
     std::string summary;
     std::vector<std::string> choices; // values of its first argument ("today", …)
-    std::vector<std::string> options; // spellings of the options it takes, beyond the common ones
 };
 
 struct Variable {
@@ -47,7 +46,6 @@ struct Program {
 [[nodiscard]] const Program& cli(Platform platform);
 [[nodiscard]] const Program& app();
 [[nodiscard]] const Program& recorder();
-[[nodiscard]] const Option* option(const Program& program, const std::string& spelling);
 
 // The help: each command and option with its summary in a second column.
 [[nodiscard]] std::string usage(const Program& program);

@@ -1,5 +1,6 @@
 #include "metrics/MetricsBook.h"
 
+#include "sampling/HistoryBatch.h"
 #include "spikes/SpikeFinder.h"
 
 #include <algorithm>
@@ -30,21 +31,23 @@ void addTo(AppCounts& counts, const AppGroup& app, double seconds)
 
 void MetricsBook::add(const TickResult& result, const VexelSettings& settings)
 {
-    m_frame = result.frame;
-    m_settings = settings;
-    m_ticks += 1;
-    const double seconds = m_frame.interval;
-    const auto& system = m_frame.system;
+    const Frame& frame = result.frame;
+    m_system = frame.system;
+    m_processes = frame.records.size();
+    m_strain = settings.strain;
+    const double seconds = frame.interval;
+    const auto& system = frame.system;
     m_machine.diskRead += system.disk.readRate * seconds;
     m_machine.diskWritten += system.disk.writeRate * seconds;
     m_machine.netReceived += system.net.inRate * seconds;
     m_machine.netSent += system.net.outRate * seconds;
     m_machine.cpuSeconds += (system.cpu.user + system.cpu.system) * system.coreCount() * seconds;
-    countApps(m_frame, std::max(settings.metricsApps, 1));
+    countApps(frame, std::max(settings.metricsApps, 1));
     if (result.servers)
         m_servers = *result.servers;
-    if (seconds > 0)
-        findSpikes(historyPoints(m_frame), settings.spikes);
+    // Spikes are looked for in what history would keep of the ticks.
+    if (HistoryBatch::usable(frame))
+        findSpikes(historyPoints(frame), settings.spikes);
 }
 
 void MetricsBook::countApps(const Frame& frame, int top)

@@ -39,22 +39,25 @@ public:
     // the recorder took anyway is used; nothing is read for the metrics.
     void add(const TickResult& result, const VexelSettings& settings);
 
-    [[nodiscard]] const Frame& frame() const { return m_frame; }
-    [[nodiscard]] const VexelSettings& settings() const { return m_settings; }
+    // The last tick's readings of the machine, its process count and time.
+    [[nodiscard]] const SystemSnapshot& system() const { return m_system; }
+    [[nodiscard]] size_t processes() const { return m_processes; }
+    [[nodiscard]] double time() const { return m_system.time; }
+    [[nodiscard]] const StrainRules& strain() const { return m_strain; }
     [[nodiscard]] const AppCounts& machine() const { return m_machine; }
     // The top apps of the last tick, busiest first, then "other".
     [[nodiscard]] const std::vector<MetricsApp>& apps() const { return m_apps; }
     [[nodiscard]] const std::vector<ProjectGroup>& servers() const { return m_servers; }
     // Spikes seen since the recorder started, by kind ("cpu", "memory", …).
     [[nodiscard]] const std::map<std::string, double>& spikes() const { return m_spikes; }
-    [[nodiscard]] double ticks() const { return m_ticks; }
 
 private:
     void countApps(const Frame& frame, int top);
     void findSpikes(const FramePoints& points, const SpikeRules& rules);
 
-    Frame m_frame;
-    VexelSettings m_settings;
+    SystemSnapshot m_system;
+    size_t m_processes = 0;
+    StrainRules m_strain;
     AppCounts m_machine;
     std::map<std::string, AppCounts> m_named; // every app named so far, by name
     std::map<std::string, double> m_lastNamed; // when each was last among the top
@@ -65,7 +68,6 @@ private:
     std::map<std::string, double> m_seenSpikes; // their starts by id, for the last hours
     std::deque<FramePoints> m_recent; // the last hour's points, for finding spikes
     double m_lastSpikeSearch = 0;
-    double m_ticks = 0;
 };
 
 } // namespace vexel

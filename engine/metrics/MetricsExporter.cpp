@@ -1,5 +1,6 @@
 #include "metrics/MetricsExporter.h"
 
+#include "io/Output.h"
 #include "metrics/MetricsText.h"
 
 #include <cerrno>
@@ -21,14 +22,9 @@ std::optional<std::string> replaceFile(const std::filesystem::path& file, const 
     const int fd = ::mkstemp(temporary.data());
     if (fd < 0)
         return std::strerror(errno);
-    size_t done = 0;
     int error = ::fchmod(fd, 0644) == 0 ? 0 : errno;
-    while (error == 0 && done < text.size()) {
-        const ssize_t written = ::write(fd, text.data() + done, text.size() - done);
-        if (written < 0 && errno != EINTR)
-            error = errno;
-        done += written > 0 ? static_cast<size_t>(written) : 0;
-    }
+    if (error == 0)
+        error = Output::writeAll(fd, text);
     if (::close(fd) != 0 && error == 0)
         error = errno;
     if (error == 0 && ::rename(temporary.c_str(), file.c_str()) != 0)

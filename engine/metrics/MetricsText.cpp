@@ -128,7 +128,7 @@ private:
 
 void writeSystem(Writer& w, const MetricsBook& book)
 {
-    const auto& system = book.frame().system;
+    const auto& system = book.system();
     w.single("vexel_cpu_usage_ratio", "gauge", "ratio", "Share of all cores busy, 0 to 1.",
         system.cpu.user + system.cpu.system);
     w.family("vexel_cpu_core_usage_ratio", "gauge", "ratio", "Share of each logical core busy, 0 to 1.");
@@ -178,7 +178,7 @@ void writeSystem(Writer& w, const MetricsBook& book)
         for (const auto& sensor : system.sensors.temperatures)
             w.sample(sensor.celsius, {{"chip", sensor.chip}, {"sensor", sensor.label}});
     }
-    w.single("vexel_processes", "gauge", "", "Processes counted.", static_cast<double>(book.frame().records.size()));
+    w.single("vexel_processes", "gauge", "", "Processes counted.", static_cast<double>(book.processes()));
 }
 
 void writeApps(Writer& w, const MetricsBook& book)
@@ -228,8 +228,8 @@ void writeServers(Writer& w, const MetricsBook& book)
 
 void writeStrain(Writer& w, const MetricsBook& book)
 {
-    const auto& rules = book.settings().strain;
-    const auto& system = book.frame().system;
+    const auto& rules = book.strain();
+    const auto& system = book.system();
     w.family("vexel_strain_level", "gauge", "", "How a reading is judged: 0 calm, 1 elevated, 2 strained.");
     const std::pair<const char*, Strain> levels[] = {
         {"cpu", rules.cpu(system.cpu.user + system.cpu.system)},
@@ -271,8 +271,7 @@ std::string metricsText(const MetricsBook& book, MetricsFormat format)
     writeApps(w, book);
     writeServers(w, book);
     writeStrain(w, book);
-    w.single(
-        "vexel_last_tick_timestamp_seconds", "gauge", "seconds", "When the readings were taken.", book.frame().time);
+    w.single("vexel_last_tick_timestamp_seconds", "gauge", "seconds", "When the readings were taken.", book.time());
     return w.finish();
 }
 

@@ -9,9 +9,14 @@ constexpr double longestInterval = 120;
 
 } // namespace
 
+bool HistoryBatch::usable(const Frame& frame)
+{
+    return frame.interval > 0 && frame.interval < longestInterval;
+}
+
 bool HistoryBatch::add(const Frame& frame)
 {
-    if (!(frame.interval > 0 && frame.interval < longestInterval))
+    if (!usable(frame))
         return false;
     if (m_pending.empty())
         m_oldest = frame.time;

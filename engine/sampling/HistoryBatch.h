@@ -19,10 +19,12 @@ public:
     // Seconds the points may wait before they must be written.
     static constexpr double maxWait = 60;
 
-    // Keeps a frame's points when its interval is usable: the first frame
-    // (interval 0) and the first after a gap of 120 s or more (sleep, a
-    // stalled process) would put rates averaged over the gap into history.
-    // Whether it was kept.
+    // Whether a frame's interval is usable: the first frame (interval 0) and
+    // the first after a gap of 120 s or more (sleep, a stalled process) would
+    // put rates averaged over the gap into history.
+    [[nodiscard]] static bool usable(const Frame& frame);
+
+    // Keeps a frame's points when its interval is usable; whether it was kept.
     bool add(const Frame& frame);
 
     // Whether the oldest waiting points have waited `maxWait` seconds by `now`.
