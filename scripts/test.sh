@@ -4,9 +4,10 @@
 # (the MCP client tests among them), then each fuzz target over its seeds and
 # a short run of new inputs.
 #   --sanitize   build and test in build-asan with ASan + UBSan instead
-#   --thread     build the app's tests in build-tsan with ThreadSanitizer and
-#                run them (the model, the sampler's thread, the app), then a
-#                planted race that it must report
+#   --thread     build the app's and the engine's tests in build-tsan with
+#                ThreadSanitizer and run them (the model, the sampler's thread,
+#                the app, the recorder's metrics server), then a planted race
+#                that it must report
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -14,10 +15,11 @@ if [[ "${1:-}" == "--thread" ]]; then
   scripts/install-deps.sh test
   cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVEXEL_WERROR=ON -DVEXEL_SANITIZE_THREAD=ON \
     -DVEXEL_BUILD_TESTS=ON -DVEXEL_BUILD_BENCH=OFF >/dev/null
-  cmake --build build-tsan --target test_app planted_race
+  cmake --build build-tsan --target test_app test_engine planted_race
   export TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1 suppressions=$PWD/tests/tsan.supp"
   started=$SECONDS
   build-tsan/tests/test_app
+  build-tsan/tests/test_engine
   if build-tsan/tests/planted_race >/dev/null 2>&1; then
     echo "test: ThreadSanitizer missed the planted race: its suppressions hide Vexel's own races" >&2
     exit 1

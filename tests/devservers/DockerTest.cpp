@@ -145,10 +145,3 @@ TEST(LiveDockerSource, EngineDownNotInstalledAndHanging)
         EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
     }
 }
-
-TEST(LiveDockerSource, EngineFoldersComeFirst)
-{
-    EXPECT_EQ(LiveDockerSource::engineFolders("/home/a"),
-        (std::vector<std::string>{"/Applications/Docker.app/Contents/Resources/bin", "/home/a/.orbstack/bin",
-            "/home/a/.docker/bin", "/home/a/.rd/bin"}));
-}

@@ -3,7 +3,6 @@
 #include "history/HistoryStore.h"
 #include "io/Files.h"
 #include "support/ChildProcess.h"
-#include "support/Listener.h"
 #include "support/RunTool.h"
 #include "support/TempFolder.h"
 #include "support/TraceLog.h"
@@ -27,7 +26,6 @@
 using namespace vexel;
 using namespace vexel::testing;
 using nlohmann::json;
-using vexel::testing::Listener;
 
 namespace {
 
@@ -89,48 +87,6 @@ void writeHistoryFile(const std::filesystem::path& file, double now)
 
 } // namespace
 
-TEST(CliLive, PortsListAListenerTheTestOpened)
-{
-    TempFolder data("vexel-live");
-    const Listener listener(AF_INET, "127.0.0.1");
-    ASSERT_GT(listener.port(), 0);
-    const json ports = jsonOf(vexelIn(data.path(), {"ports", "--json"}));
-    const auto& listening = ports["listening"];
-    const auto mine = std::find_if(listening.begin(), listening.end(),
-        [&](const json& entry) { return entry["port"] == listener.port() && entry["pid"] == ::getpid(); });
-    ASSERT_NE(mine, listening.end()) << ports.dump(1);
-    EXPECT_EQ((*mine)["address"], "127.0.0.1");
-    EXPECT_EQ((*mine)["family"], "IPv4");
-    EXPECT_EQ((*mine)["reachable_from_network"], false);
-    EXPECT_EQ((*mine)["process"], "test_live");
-    EXPECT_EQ(ports["note"],
-        "Your own processes only; Linux doesn't say which process holds another user's socket without admin rights.");
-    const auto table = vexelIn(data.path(), {"ports"});
-    EXPECT_NE(table.out.find(std::to_string(listener.port()) + " "), std::string::npos) << table.out;
-}
-
-TEST(CliLive, EveryCommandLeavesTheDataFolderUntouched)
-{
-    TempFolder data("vexel-live");
-    std::filesystem::create_directories(data.path() / "sub");
-    writeHistoryFile(data.path() / "history.sqlite", static_cast<double>(std::time(nullptr)));
-    const auto before = folderState(data.path());
-    const std::vector<std::vector<std::string>> commands{{"status"}, {"top", "--json"}, {"apps"}, {"app", "Kernel"},
-        {"ports"}, {"servers", "--json"}, {"docker"}, {"history", "year"}, {"spikes", "--hours", "840"}, {"help"},
-        {"stop", "node"}, {"nonsense"}};
-    for (const auto& command : commands)
-        (void)vexelIn(data.path(), command);
-    (void)vexelIn(data.path(), {"mcp"},
-        R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":"history","arguments":{"range":"week"}}})"
-        "\n");
-    EXPECT_EQ(folderState(data.path()), before);
-
-    const auto missing = data.path() / "never-made";
-    EXPECT_EQ(vexelIn(missing, {"history"}).status, 1);
-    EXPECT_EQ(vexelIn(missing, {"status"}).status, 0);
-    EXPECT_FALSE(std::filesystem::exists(missing));
-}
-
 // A history that is there but cannot be read is an error with exit status 1,
 // over the command line and the MCP server alike; never a quiet day.
 TEST(CliLive, ABrokenHistoryIsAnErrorNotAQuietDay)
@@ -167,6 +123,12 @@ TEST(CliLive, ABrokenHistoryIsAnErrorNotAQuietDay)
     EXPECT_EQ(unreadable.status, 1);
     EXPECT_EQ(unreadable.err, "Couldn't open the history: unable to open database file (Permission denied)\n");
     EXPECT_TRUE(unreadable.out.empty());
+
+    // None at all: an error too, and the folder is not made for it.
+    const auto missing = corrupt.path() / "never-made";
+    EXPECT_EQ(vexelIn(missing, {"history"}).status, 1);
+    EXPECT_EQ(vexelIn(missing, {"status"}).status, 0);
+    EXPECT_FALSE(std::filesystem::exists(missing));
 }
 
 // Read-only by construction, watched from outside: a whole command-line and
@@ -262,10 +224,10 @@ TEST(CliLive, HiddenProcessesAreSaidToBeHidden)
 }
 
 // The headless recorder for real: it says where it records, a second one
-// waits for it instead of writing beside it, a history removed under it is said and started
-// anew with what waited, and on SIGHUP (its terminal closing; SIGTERM and
-// SIGINT are the same signals to it) it writes what was waiting and saves
-// when it last ran, so that `vexel history` reads the recording back.
+// waits for it instead of writing beside it, and on SIGHUP (its terminal
+// closing; SIGTERM and SIGINT are the same signals to it) it writes what was
+// waiting and saves when it last ran, so that `vexel history` reads the
+// recording back; then the second takes over.
 TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
 {
     TempFolder data("vexel-live");
@@ -290,15 +252,7 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     // Ticks a second apart: the first frame has no interval, the next ones are kept.
     const auto started = std::chrono::steady_clock::now();
     ASSERT_EQ(::waitpid(recorder.pid(), nullptr, WNOHANG), 0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(2500));
-    // The history pulled from under it: it says so at its next tick and goes on in a new file.
-    for (const char* companion : {"", "-wal", "-shm"})
-        std::filesystem::remove(history.string() + companion);
-    EXPECT_EQ(recorder.readLine(),
-        history.string()
-            + " was removed or replaced while Vexel was recording, and what it held is gone. Vexel goes on recording "
-              "in the file now at that path, starting with the minute it hadn't written yet.");
-    std::this_thread::sleep_for(std::chrono::milliseconds(1000));
+    std::this_thread::sleep_for(std::chrono::milliseconds(3500));
     const int status = recorder.stop(SIGHUP);
     ASSERT_TRUE(WIFEXITED(status)) << status;
     EXPECT_EQ(WEXITSTATUS(status), 0);
@@ -307,7 +261,7 @@ TEST(CliLive, TheHeadlessRecorderRecordsUntilItIsStopped)
     EXPECT_EQ(second.stop(SIGTERM), 0);
     EXPECT_EQ(second.readLine(), "Stopped recording.");
     const HistoryStore stored(history, HistoryAccess::readOnly);
-    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 3) << "the minute that waited is in the new file";
+    EXPECT_GE(stored.rowCount(HistoryTier::raw, HistoryTable::sys), 3) << "the minute that waited is written";
     const json today = jsonOf(vexelIn(data.path(), {"history", "today", "--json"}));
     EXPECT_FALSE(today["busiest_apps"].empty()) << today.dump(1);
     const json settings = json::parse(Files::read((data.path() / "settings.json").string()).value_or("{}"));
