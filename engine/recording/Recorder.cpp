@@ -13,6 +13,7 @@
 #include <ostream>
 #include <pthread.h>
 #include <thread>
+#include <unistd.h>
 
 namespace vexel {
 
@@ -35,23 +36,28 @@ bool stopRequested(const sigset_t& signals, double seconds)
 // Told to the waiting recorder by the thread that took the lock for it.
 constexpr int lockTaken = SIGUSR1;
 
-// Blocks on the lock on a thread of its own while this one waits for either
-// the lock or a stop signal; whether the lock was taken. The thread is left
-// blocked in flock when a stop comes first, and ends with the process.
-bool waitForTheLock(const std::shared_ptr<RecorderLock>& lock, sigset_t signals)
+enum class Waited { taken, stopped, failed };
+
+// Blocks on the lock on a thread of its own while this one waits for the
+// lock, a stop signal, or the news that the lock can't be waited for. The
+// thread is left blocked in flock when a stop comes first, and ends with
+// the process.
+Waited waitForTheLock(const std::shared_ptr<RecorderLock>& lock, sigset_t signals)
 {
     sigaddset(&signals, lockTaken);
     ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     std::thread([lock, waiter = ::pthread_self()] {
-        if (lock->wait())
-            ::pthread_kill(waiter, lockTaken);
+        (void)lock->wait();
+        ::pthread_kill(waiter, lockTaken);
     }).detach();
     for (;;) {
-        const int taken = ::sigwaitinfo(&signals, nullptr);
-        if (taken == lockTaken && lock->held())
-            return true;
+        siginfo_t info{};
+        const int taken = ::sigwaitinfo(&signals, &info);
+        // Only the waiting thread's word counts, not a SIGUSR1 from outside.
+        if (taken == lockTaken && info.si_pid == ::getpid())
+            return lock->held() ? Waited::taken : Waited::failed;
         if (taken >= 0 && taken != lockTaken)
-            return false;
+            return Waited::stopped;
     }
 }
 
@@ -75,7 +81,12 @@ int Recorder::run(std::ostream& out, std::ostream& err)
         if (lock->holder())
             err << " (process " << *lock->holder() << ")";
         err << "; this one waits and takes over once it stops.\n" << std::flush;
-        if (!waitForTheLock(lock, signals)) {
+        const Waited waited = waitForTheLock(lock, signals);
+        if (waited == Waited::failed) {
+            err << "Couldn't wait for the recorder's lock in " << m_options.paths.dir.string() << ".\n";
+            return 1;
+        }
+        if (waited == Waited::stopped) {
             out << "Stopped waiting.\n";
             return 0;
         }
