@@ -31,6 +31,21 @@ done
 grep -Fxq "ExecStart=\"$prefix/bin/vexel-recorder\"" "$prefix/share/systemd/user/vexel-recorder.service" ||
   fail "the recorder's unit doesn't start $prefix/bin/vexel-recorder"
 
+# Every installed file belongs to one of the two packages' components, and
+# the one without Qt holds no part of the app.
+components=()
+for component in vexel vexel-desktop; do
+  cmake --install "$build" --prefix "$work/$component" --component "$component" >/dev/null
+  components+=("$work/$component")
+done
+unpacked=$(for tree in "${components[@]}"; do (cd "$tree" && find . -type f); done | sort)
+whole=$(cd "$prefix" && find . -type f | sort)
+[[ "$unpacked" == "$whole" ]] || fail "files in no package's component: $(comm -13 <(echo "$unpacked") <(echo "$whole"))"
+if (cd "$work/vexel" && find . -type f) | grep -Eq "vexel-app|applications/|icons/|metainfo/"; then
+  fail "the vexel component holds part of the app: $(cd "$work/vexel" && find . -type f)"
+fi
+echo "check-install: each file is in the vexel or the vexel-desktop component, and the app only in the latter"
+
 entry="$prefix/share/applications/dev.vexel.Vexel.desktop"
 metainfo="$prefix/share/metainfo/dev.vexel.Vexel.metainfo.xml"
 verdict=$(desktop-file-validate "$entry" 2>&1) || fail "desktop-file-validate: $verdict"

@@ -4,6 +4,8 @@
 #   install-deps.sh run    what building and running Vexel needs
 #   install-deps.sh test   that, and what the tests, benchmarks, fuzzers and
 #                          the format check need (the default)
+#   install-deps.sh package  what building the run's programs, packing them
+#                          and installing them in a clean root needs
 set -euo pipefail
 
 run_packages=(
@@ -46,12 +48,18 @@ test_packages=(
   # a real icon theme, for the sidebar's symbols
   adwaita-icon-theme
 )
+package_packages=(
+  # dpkg-shlibdeps finds the packages' library dependencies; lintian judges
+  # them; debootstrap makes the clean Debian 12 they are installed into
+  dpkg-dev lintian debootstrap
+)
 
 case "${1:-test}" in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  package) packages=("${run_packages[@]}" "${package_packages[@]}") ;;
   *)
-    echo "usage: $0 [run|test]" >&2
+    echo "usage: $0 [run|test|package]" >&2
     exit 2
     ;;
 esac
