@@ -5,7 +5,8 @@
 #   vexel-desktop  the app, its desktop entry, icons and AppStream metadata
 # lintian judges the packages; debootstrap makes a fresh root, where apt
 # installs them with what they require and nothing they only recommend. In
-# that root `vexel status` and `vexel ports` run, the app draws its pages
+# that root `vexel status` and `vexel ports` run, the recorder records a
+# few ticks that `vexel history` reads back, the app draws its pages
 # offscreen, systemd-analyze verifies both units and scores their sandboxing,
 # and the desktop entry and the metadata pass their validators.
 #   debian-packages.sh [OUT]   OUT is the build folder, build-deb by default;
@@ -73,9 +74,11 @@ done
 
 log="$out/clean-root.log"
 : >"$log"
-# Runs a command in the root with a clean environment, logging it and its output.
+# Runs a command in the root with a clean environment, logging it and its
+# output; the command line is also said on standard error, its output on
+# standard output.
 in_root() {
-  echo "# $*" | tee -a "$log"
+  echo "# $*" | tee -a "$log" >&2
   "${sudo[@]}" chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 TERM=dumb \
     DEBIAN_FRONTEND=noninteractive "$@" 2>&1 | tee -a "$log"
 }
@@ -88,6 +91,11 @@ in_root dpkg-query -W -f='${Package} ${Version}: ${Installed-Size} KiB installed
 if dpkg-deb -f "${debs[0]}" Depends | grep -qi qt; then fail "the vexel package depends on Qt"; fi
 in_root vexel status || fail "vexel status failed in the clean root"
 in_root vexel ports || fail "vexel ports failed in the clean root"
+# The recorder, as its units run it: a few ticks of history and metrics.
+in_root timeout --preserve-status -s TERM 12 vexel-recorder --data-dir /tmp/history --metrics-file /tmp/metrics.prom ||
+  fail "vexel-recorder failed in the clean root"
+in_root grep -m 3 "^vexel_app_cpu_seconds_total" /tmp/metrics.prom || fail "the recorder wrote no app metrics"
+in_root vexel history today --data-dir /tmp/history || fail "vexel history read nothing the recorder wrote"
 in_root env QT_QPA_PLATFORM=offscreen VEXEL_SNAPSHOT_DIR=/tmp/pictures VEXEL_DATA_DIR=/tmp/data vexel-app >/dev/null ||
   fail "vexel-app couldn't draw its pages in the clean root"
 pictures=$("${sudo[@]}" find "$root/tmp/pictures" -name '*.png' -size +1k | wc -l)
@@ -99,15 +107,21 @@ echo "# vexel-app drew $pictures pages" | tee -a "$log"
 in_root apt-get install -y -q --no-install-recommends systemd desktop-file-utils appstream >/dev/null
 system_unit=/usr/lib/systemd/system/vexel-recorder-system.service
 user_unit=/usr/lib/systemd/user/vexel-recorder.service
-in_root systemd-analyze verify --man=no "$system_unit" || fail "systemd-analyze verify: $system_unit"
-in_root env XDG_RUNTIME_DIR=/tmp systemd-analyze --user verify --man=no "$user_unit" ||
-  fail "systemd-analyze --user verify: $user_unit"
+# verify only warns of an unknown or misspelt key: any word from it fails.
+said=$(in_root systemd-analyze verify --man=no "$system_unit") || fail "systemd-analyze verify: $said"
+[[ -z "$said" ]] || fail "systemd-analyze verify: $said"
+said=$(in_root env XDG_RUNTIME_DIR=/tmp systemd-analyze --user verify --man=no "$user_unit") ||
+  fail "systemd-analyze --user verify: $said"
+[[ -z "$said" ]] || fail "systemd-analyze --user verify: $said"
 in_root systemd-analyze security --offline=yes --no-pager "$system_unit" | tail -1
 in_root env XDG_RUNTIME_DIR=/tmp systemd-analyze --user security --offline=yes --no-pager "$user_unit" | tail -1
-in_root desktop-file-validate /usr/share/applications/dev.vexel.Vexel.desktop ||
-  fail "desktop-file-validate found errors"
-in_root appstreamcli validate --no-net /usr/share/metainfo/dev.vexel.Vexel.metainfo.xml ||
-  fail "appstreamcli validate found errors"
+said=$(in_root desktop-file-validate /usr/share/applications/dev.vexel.Vexel.desktop) ||
+  fail "desktop-file-validate: $said"
+[[ -z "$said" ]] || fail "desktop-file-validate: $said"
+said=$(in_root appstreamcli validate --no-net /usr/share/metainfo/dev.vexel.Vexel.metainfo.xml) ||
+  fail "appstreamcli validate: $said"
+if grep -Eq "^[EW]:|warnings?: [1-9]" <<<"$said"; then fail "appstreamcli validate: $said"; fi
+echo "$said"
 
 echo "debian-packages: installed and checked in a clean Debian 12 root; the log is $log"
 for deb in "${debs[@]}"; do
