@@ -34,7 +34,7 @@ TEST(CommandDocs, ShellsCompleteCommandsSortKeysAndRanges)
         const auto zsh = runTool({"zsh", "-n", docs + "completions/_" + program});
         EXPECT_EQ(zsh.status, 0) << program << ": " << zsh.err;
         const auto man
-            = runTool({"man", "--warnings", "-l", docs + "man/" + program + ".1"}, {{{"MANWIDTH", "80"}}, ""});
+            = runTool({"man", "--warnings", "-l", docs + "man/" + program + ".1.gz"}, {{{"MANWIDTH", "80"}}, ""});
         EXPECT_EQ(man.status, 0) << program;
         EXPECT_EQ(man.err, "") << program;
         EXPECT_NE(man.out.find("EXIT STATUS"), std::string::npos) << program;
