@@ -8,7 +8,8 @@
 # that root `vexel status` and `vexel ports` run, the recorder records a
 # few ticks that `vexel history` reads back, the app draws its pages
 # offscreen, systemd-analyze verifies both units and scores their sandboxing,
-# and the desktop entry and the metadata pass their validators.
+# the desktop entry and the metadata pass their validators, and the system
+# unit records under systemd booted in the root.
 #   debian-packages.sh [OUT]   OUT is the build folder, build-deb by default;
 #                              the packages and clean-root.log are left there
 # VEXEL_DEBIAN_MIRROR names a mirror other than deb.debian.org. Needs root,
@@ -49,6 +50,7 @@ echo "debian-packages: lintian: no errors or warnings"
 work=$(mktemp -d)
 root="$work/root"
 cleanup() {
+  if [[ -n "${booted:-}" ]]; then "${sudo[@]}" kill -KILL "$booted" 2>/dev/null || true; fi
   for mount in proc sys dev; do
     if mountpoint -q "$root/$mount"; then "${sudo[@]}" umount -R "$root/$mount"; fi
   done
@@ -122,6 +124,35 @@ said=$(in_root appstreamcli validate --no-net /usr/share/metainfo/dev.vexel.Vexe
   fail "appstreamcli validate: $said"
 if grep -Eq "^[EW]:|warnings?: [1-9]" <<<"$said"; then fail "appstreamcli validate: $said"; fi
 echo "$said"
+
+# The system unit for real: systemd boots as the first process of a PID
+# namespace of its own, with the root as its /, and starts the enabled unit
+# with all its sandboxing and a user of its own; its history appears in
+# /var/lib/vexel, which the command reads as root.
+in_root systemctl enable vexel-recorder-system.service
+"${sudo[@]}" unshare --pid --fork --mount --uts sh -c "
+  mount --make-rprivate / && mount --rbind '$root' '$root' && mount -t proc proc '$root/proc' &&
+  mount -t tmpfs tmpfs '$root/run' && exec chroot '$root' /lib/systemd/systemd --system --unit=multi-user.target
+" >"$work/boot.log" 2>&1 &
+booted=
+for _ in $(seq 120); do
+  booted=$(pgrep -n -f "^/lib/systemd/systemd --system --unit=multi-user.target" || true)
+  if [[ -n "$booted" ]] && "${sudo[@]}" test -s "$root/var/lib/private/vexel/history.sqlite"; then break; fi
+  sleep 0.5
+done
+[[ -n "$booted" ]] || fail "systemd didn't boot in the root: $(cat "$work/boot.log")"
+in_booted() {
+  echo "# (booted) $*" | tee -a "$log" >&2
+  "${sudo[@]}" nsenter -t "$booted" -m -p -r -w/ env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
+    TERM=dumb "$@" 2>&1 | tee -a "$log"
+}
+sleep 65 # the recorder writes its points once a minute
+in_booted systemctl status --no-pager vexel-recorder-system.service | head -8
+running=$(in_booted systemctl is-active vexel-recorder-system.service) || true
+in_booted journalctl --no-pager -u vexel-recorder-system.service
+in_booted vexel --data-dir /var/lib/vexel history today || fail "the system unit's history can't be read"
+"${sudo[@]}" kill -KILL "$booted"
+[[ "$running" == active ]] || fail "the system unit is not running under systemd"
 
 echo "debian-packages: installed and checked in a clean Debian 12 root; the log is $log"
 for deb in "${debs[@]}"; do
