@@ -1,7 +1,9 @@
-// The house look: the dial's arc filled to the reading in its strain's
-// colour with the peak marked, the trace scaled to its top with gaps where a
-// reading is missing, the bank of bars each in its own strain; nonsense
-// readings drawn empty.
+// The house look, in pictures a reviewer has looked at: dials filled to their
+// reading in their strain's colour with the peak marked (one off the scale,
+// clamped full; one nonsense, drawn empty), a trace scaled to its top with a
+// gap where a reading is missing, a bank of bars each in its own strain, and
+// a chart whose line breaks where the readings stop. A change to how any of
+// them is drawn changes its picture.
 
 #include "SystemLook.h"
 #include "look/BarBank.h"
@@ -10,6 +12,7 @@
 #include "look/PaintedView.h"
 #include "look/Sparkline.h"
 #include "look/StrainColours.h"
+#include "support/GoldenImage.h"
 
 #include <QDBusVariant>
 #include <QImage>
@@ -18,150 +21,76 @@
 
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 using namespace vexel;
 
 namespace {
 
-constexpr int side = 200;
+const double nonsense = std::numeric_limits<double>::quiet_NaN();
 
-QImage draw(const Dial& dial, Appearance appearance = Appearance::light)
+BarBank bars()
 {
-    QImage image(side, side, QImage::Format_ARGB32);
-    image.fill(Look::palette(appearance).color(QPalette::Window));
+    BarBank bank;
+    bank.fractions = {0.25, 0.95, nonsense, 3.0};
+    bank.strainOf = [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; };
+    return bank;
+}
+
+QImage drawPieces(Appearance appearance)
+{
+    const QPalette palette = Look::palette(appearance);
+    QImage image(520, 470, QImage::Format_ARGB32);
+    image.fill(palette.color(QPalette::Window));
     QPainter painter(&image);
-    dial.paint(painter, QRectF(0, 0, side, side), Look::palette(appearance));
-    return image;
-}
+    const std::vector<Dial> dials{{0.5, std::nullopt, Strain::calm, "50%", "CPU"},
+        {0.3, 0.8, Strain::elevated, "30%", "Peak"}, {1.7, std::nullopt, Strain::strained, "170%", "Over"},
+        {nonsense, std::nullopt, Strain::calm, "", "Nonsense"}};
+    for (size_t i = 0; i < dials.size(); ++i)
+        dials[i].paint(painter, QRectF(10 + 125.0 * static_cast<double>(i), 10, 120, 120), palette);
 
-// The colour in the middle of the ring's stroke where `fraction` lies.
-QColor onRing(const QImage& image, double fraction)
-{
-    const double thickness = side * 0.08;
-    const double radius = (side - thickness) / 2;
-    const double radians = Dial::angleOf(fraction) * std::numbers::pi / 180;
-    const int x = static_cast<int>(std::lround(side / 2.0 + radius * std::cos(radians)));
-    const int y = static_cast<int>(std::lround(side / 2.0 - radius * std::sin(radians)));
-    return image.pixelColor(x, y);
-}
-
-} // namespace
-
-TEST(Dial, FilledToTheReadingInItsStrainsColour)
-{
-    const auto light = Appearance::light;
-    const QImage half = draw({0.5, std::nullopt, Strain::calm, "50%", "CPU"});
-    EXPECT_EQ(onRing(half, 0.25), Look::strainColour(light, Strain::calm));
-    EXPECT_EQ(onRing(half, 0.75), Look::track(light));
-
-    const QImage hot = draw({0.9, std::nullopt, Strain::strained, "90%", "CPU"});
-    EXPECT_EQ(onRing(hot, 0.85), Look::strainColour(light, Strain::strained));
-
-    // The peak is marked on the ring where the reading was highest, past
-    // the value, in the strain's colour.
-    const QImage peaked = draw({0.3, 0.8, Strain::elevated, "30%", "CPU"});
-    EXPECT_EQ(onRing(peaked, 0.8), Look::strainColour(light, Strain::elevated));
-    EXPECT_EQ(onRing(peaked, 0.6), Look::track(light));
-
-    // Readings off the scale: clamped, and a nonsense one drawn empty.
-    EXPECT_EQ(
-        onRing(draw({1.7, std::nullopt, Strain::strained, "", ""}), 0.99), Look::strainColour(light, Strain::strained));
-    const QImage nonsense = draw({std::numeric_limits<double>::quiet_NaN(), std::nullopt, Strain::calm, "", ""});
-    EXPECT_EQ(onRing(nonsense, 0.02), Look::track(light));
-}
-
-TEST(Sparkline, ScaledToItsTopWithGapsWhereReadingsAreMissing)
-{
-    const auto light = Appearance::light;
-    const QColor page = Look::palette(light).color(QPalette::Window);
     Sparkline trace;
-    trace.values = {0.5, 0.5, 0.5, std::nan(""), 2.0, 2.0, 2.0};
+    trace.values = {0.5, 0.5, 0.5, nonsense, 2.0, 2.0, 2.0};
     trace.top = 2.0;
     trace.strain = Strain::elevated;
-    QImage image(120, 40, QImage::Format_ARGB32);
-    image.fill(page);
-    QPainter painter(&image);
-    trace.paint(painter, QRectF(0, 0, 120, 40), Look::palette(light));
-    painter.end();
-    const QColor amber = Look::strainColour(light, Strain::elevated);
-    EXPECT_EQ(image.pixelColor(10, 30), amber); // a quarter of the top: 10 of 40 pixels up
-    EXPECT_EQ(image.pixelColor(10, 5), page); // nothing drawn above the line
-    EXPECT_EQ(image.pixelColor(110, 0), amber); // the top value reaches the top
-    EXPECT_EQ(image.pixelColor(60, 39), page); // the missing reading leaves a gap, line and fill
-    EXPECT_NE(image.pixelColor(10, 38), page); // the fill under the line
-}
+    trace.paint(painter, QRectF(10, 160, 240, 60), palette);
+    bars().paint(painter, QRectF(270, 140, 240, 100), palette);
 
-TEST(BarBank, EachBarToItsValueInItsOwnStrain)
-{
-    const auto dark = Appearance::dark;
-    BarBank bank;
-    bank.fractions = {0.25, 0.95, std::nan(""), 3.0};
-    bank.strainOf = [](double f) { return f > 0.9 ? Strain::strained : Strain::calm; };
-    QImage image(200, 100, QImage::Format_ARGB32);
-    image.fill(Look::palette(dark).color(QPalette::Window));
-    QPainter painter(&image);
-    const QRectF area(0, 0, 200, 100);
-    bank.paint(painter, area, Look::palette(dark));
-    painter.end();
-    const auto at = [&](size_t bar, int height) {
-        const QRectF rect = bank.barRect(bar, area);
-        return image.pixelColor(static_cast<int>(rect.center().x()), 100 - height);
-    };
-    EXPECT_EQ(at(0, 15), Look::strainColour(dark, Strain::calm));
-    EXPECT_EQ(at(0, 40), Look::track(dark));
-    EXPECT_EQ(at(1, 90), Look::strainColour(dark, Strain::strained));
-    EXPECT_EQ(at(2, 5), Look::track(dark)); // a nonsense reading: empty
-    EXPECT_EQ(at(3, 97), Look::strainColour(dark, Strain::strained)); // clamped to full
-    EXPECT_LE(bank.barRect(3, area).right(), 200.5); // within the bank
-    EXPECT_LE(bank.barRect(0, area).width(), 28.0); // four cores are four bars, not four slabs
-
-    // Shown in a view, the bar under the pointer says its value.
-    PaintedView view(QStringLiteral("Cores"), QSize(200, 100), nullptr);
-    view.resize(200, 100);
-    view.draw(bank);
-    EXPECT_EQ(view.valueAt(bank.barRect(1, area).center()), QStringLiteral("2: 95%"));
-    EXPECT_EQ(view.value(), QStringLiteral("1: 25 percent, 2: 95 percent, 3: 0 percent, 4: 100 percent"));
-}
-
-// A chart draws each series in its colour where its points are, and breaks
-// the line where the readings stop for longer than the gap allows.
-TEST(Chart, LinesWhereThePointsAreAndBreaksWhereTheyStop)
-{
-    const auto appearance = Appearance::light;
+    // A level line at 5, from 0 to 40 and again from 70 to 100: nothing between.
     Chart chart;
     chart.from = 0;
     chart.to = 100;
     chart.top = 10;
     chart.gapAfter = 15;
-    // A level line at 5, from 0 to 40 and again from 70 to 100: nothing between.
     Chart::Series level{"Level", {}};
-    for (int t = 0; t <= 40; t += 10)
-        level.points.emplace_back(t, 5);
-    for (int t = 70; t <= 100; t += 10)
+    for (const int t : {0, 10, 20, 30, 40, 70, 80, 90, 100})
         level.points.emplace_back(t, 5);
     chart.series = {level};
-    QImage image(400, 200, QImage::Format_ARGB32);
-    const QColor page = Look::palette(appearance).color(QPalette::Window);
-    image.fill(page);
-    QPainter painter(&image);
-    const QRectF area(0, 0, 400, 200);
-    chart.paint(painter, area, Look::palette(appearance));
-    painter.end();
-    const QRectF plot = Chart::plotOf(area);
-    const auto at = [&](double t, double value) {
-        const QPointF point = chart.place({t, value}, plot);
-        return image.pixelColor(static_cast<int>(point.x()), static_cast<int>(std::lround(point.y())));
-    };
-    // The line is antialiased: nearer the series' colour than the page.
-    const auto distance = [](const QColor& a, const QColor& b) {
-        return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
-    };
-    const QColor line = Look::seriesColour(appearance, 0);
-    EXPECT_LT(distance(at(20, 5), line), distance(at(20, 5), page));
-    EXPECT_LT(distance(at(85, 5), line), distance(at(85, 5), page));
-    EXPECT_EQ(at(55, 5), page); // the gap: no line and no fill
-    EXPECT_NE(at(20, 2), page); // under the line: its soft fill
+    chart.paint(painter, QRectF(10, 260, 500, 200), palette);
+    return image;
+}
+
+} // namespace
+
+TEST(Look, EachPieceAsItsGoldenPicture)
+{
+    const auto golden = std::filesystem::path(VEXEL_SOURCE_DIR) / "tests/golden/look";
+    vexel::testing::expectGoldenImage(drawPieces(Appearance::light), golden / "pieces-light.png");
+    vexel::testing::expectGoldenImage(drawPieces(Appearance::dark), golden / "pieces-dark.png");
+}
+
+// Four cores are four bars within the bank, not four slabs; shown in a view,
+// the bar under the pointer says its value, and the view all of them.
+TEST(BarBank, EachBarWithinTheBankAndSaidInWords)
+{
+    const BarBank bank = bars();
+    const QRectF area(0, 0, 200, 100);
+    EXPECT_LE(bank.barRect(3, area).right(), 200.5);
+    EXPECT_LE(bank.barRect(0, area).width(), 28.0);
+    PaintedView view(QStringLiteral("Cores"), QSize(200, 100), nullptr);
+    view.resize(200, 100);
+    view.draw(bank);
+    EXPECT_EQ(view.valueAt(bank.barRect(1, area).center()), QStringLiteral("2: 95%"));
+    EXPECT_EQ(view.value(), QStringLiteral("1: 25 percent, 2: 95 percent, 3: 0 percent, 4: 100 percent"));
 }
 
 // More readings than pixels: each column holds the lowest, highest and
