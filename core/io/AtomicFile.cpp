@@ -1,6 +1,7 @@
 #include "io/AtomicFile.h"
 
 #include "io/Files.h"
+#include "io/Output.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -19,19 +20,6 @@ constexpr int mostLinks = 40;
 [[noreturn]] void fail(const std::string& what, const std::filesystem::path& file, int error)
 {
     throw std::filesystem::filesystem_error(what, file, std::error_code(error, std::generic_category()));
-}
-
-void writeAll(int fd, const std::string& bytes, const std::filesystem::path& file)
-{
-    size_t written = 0;
-    while (written < bytes.size()) {
-        const ssize_t n = ::write(fd, bytes.data() + written, bytes.size() - written);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            fail("Couldn't write the file", file, errno);
-        written += static_cast<size_t>(n);
-    }
 }
 
 // The rename is on disk once the folder that holds the name is.
@@ -59,7 +47,7 @@ std::filesystem::path target(const std::filesystem::path& file)
     fail("Couldn't follow the links to the file", file, ELOOP);
 }
 
-void write(const std::filesystem::path& file, const std::string& bytes)
+void write(const std::filesystem::path& file, const std::string& bytes, Keeping keeping)
 {
     const auto destination = target(file);
     if (destination.has_parent_path())
@@ -67,14 +55,16 @@ void write(const std::filesystem::path& file, const std::string& bytes)
     struct stat existing { };
     const bool exists = ::stat(destination.c_str(), &existing) == 0;
     std::string temporary = destination.string() + ".XXXXXX";
-    const int fd = ::mkstemp(temporary.data()); // 0600: the user's alone
+    const int fd = ::mkstemp(temporary.data()); // 0600 until told otherwise
     if (fd < 0)
         fail("Couldn't create the file", file, errno);
     try {
-        if (exists && ::fchmod(fd, existing.st_mode & 07777) != 0)
+        const mode_t mode = exists ? existing.st_mode & 07777 : keeping.newFileMode;
+        if (mode != 0600 && ::fchmod(fd, mode) != 0)
             fail("Couldn't keep the file's permissions", file, errno);
-        writeAll(fd, bytes, file);
-        if (::fsync(fd) != 0)
+        if (const int error = Output::writeAll(fd, bytes); error != 0)
+            fail("Couldn't write the file", file, error);
+        if (keeping.flushed && ::fsync(fd) != 0)
             fail("Couldn't write the file", file, errno);
     } catch (...) {
         ::close(fd);
@@ -87,7 +77,8 @@ void write(const std::filesystem::path& file, const std::string& bytes)
         ::unlink(temporary.c_str());
         fail("Couldn't replace the file", file, error);
     }
-    syncFolder(destination.parent_path());
+    if (keeping.flushed)
+        syncFolder(destination.parent_path());
 }
 
 } // namespace vexel::AtomicFile

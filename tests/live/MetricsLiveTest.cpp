@@ -96,8 +96,13 @@ TEST(MetricsLive, PrometheusScrapesTheRecorderAndItsMemoryStaysFlat)
     const auto checked = runTool({"promtool", "check", "metrics"}, {{}, text});
     EXPECT_EQ(checked.status, 0) << checked.out << checked.err;
     EXPECT_EQ(checked.out + checked.err, "");
-    const auto file = Files::read((recorder.data.path() / "vexel.prom").string(), 1 << 20);
+    const auto textfile = recorder.data.path() / "vexel.prom";
+    const auto file = Files::read(textfile.string(), 1 << 20);
     ASSERT_TRUE(file);
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(textfile).permissions() & perms::all,
+        perms::owner_read | perms::owner_write | perms::group_read | perms::others_read)
+        << "node_exporter's collector reads it as another user";
     EXPECT_NE(file->find("# TYPE vexel_app_cpu_seconds_total counter"), std::string::npos);
 
     TempFolder prometheus("vexel-prometheus");
