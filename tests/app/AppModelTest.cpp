@@ -331,22 +331,3 @@ TEST(AppModel, AFailingHistoryIsShownNeverACrash)
     EXPECT_FALSE(model.storeError());
     EXPECT_TRUE(window.banner()->isHidden());
 }
-
-TEST(RecentRing, KeepsTheNewest150AndTheirPeaks)
-{
-    RecentRing ring;
-    EXPECT_FALSE(ring.peak(&RingSample::cpu));
-    for (int i = 0; i < 200; ++i) {
-        Frame frame;
-        frame.time = i;
-        frame.interval = 2;
-        frame.system = SystemSnapshot::empty(i);
-        frame.system.cpu.user = i == 10 ? 0.99 : (i == 120 ? 0.5 : 0.1);
-        ring.append(RingSample::of(frame));
-    }
-    ASSERT_EQ(ring.samples().size(), 150u);
-    EXPECT_EQ(ring.samples().front().t, 50);
-    EXPECT_EQ(ring.samples().back().t, 199);
-    EXPECT_DOUBLE_EQ(*ring.peak(&RingSample::cpu), 50); // the 99 % reading has left the ring
-    EXPECT_FALSE(ring.peak(&RingSample::gpu)); // no GPU reading in any sample
-}

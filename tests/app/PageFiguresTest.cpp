@@ -70,14 +70,6 @@ TEST(PageTexts, LinuxSentencesAreTrueOnLinux)
     EXPECT_NE(PageTexts::fullerReportCommand(Platform::linux, 386).find("-p 386 "), std::string::npos);
 }
 
-TEST(HomePath, PathsUnderHomeShowATilde)
-{
-    EXPECT_EQ(shownPath("/home/ann/code/site", "/home/ann"), "~/code/site");
-    EXPECT_EQ(shownPath("/home/ann", "/home/ann"), "~");
-    EXPECT_EQ(shownPath("/home/anna/code", "/home/ann"), "/home/anna/code");
-    EXPECT_EQ(shownPath("/srv/site", "/"), "/srv/site");
-}
-
 // The live traces mark each minute back from the newest reading where the
 // reading of that moment is drawn, even when readings were not evenly spaced.
 TEST(Traces, MinutesMarkedWhereTheirReadingsAreDrawn)

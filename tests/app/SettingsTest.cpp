@@ -164,36 +164,6 @@ TEST(CommandLineSetup, AddsToClaudeOrSaysWhatToPaste)
     EXPECT_NE(refused.text.english().find("already exists"), std::string::npos);
 }
 
-TEST(VexelCommands, EveryRouteOnItsShortcutAndTheSettingsOnCtrlComma)
-{
-    DemoModel demo;
-    auto& model = *demo.model;
-    demo.ticks(1, true);
-    MainWindow window;
-    window.bind(model);
-    int opened = 0;
-    const VexelCommands commands(window, model, [&opened] { ++opened; });
-    const auto actions = commands.goActions();
-    ASSERT_EQ(actions.size(), static_cast<int>(allRoutes.size()) + 3);
-    for (const auto route : allRoutes)
-        EXPECT_EQ(
-            actions.at(static_cast<int>(route))->shortcut(), QKeySequence(QString::fromStdString(shortcut(route))));
-    actions.at(static_cast<int>(Route::memory))->trigger();
-    EXPECT_EQ(window.currentRoute(), Route::memory);
-    EXPECT_EQ(model.route(), Route::memory);
-    // The settings on Ctrl+, on any desktop (Qt knows no key for them outside macOS and KDE), and quitting.
-    const auto vexel = commands.vexelActions();
-    ASSERT_EQ(vexel.size(), 2);
-    EXPECT_TRUE(vexel.at(0)->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl+,"))));
-    vexel.at(0)->trigger();
-    EXPECT_EQ(opened, 1);
-    EXPECT_EQ(vexel.at(1)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
-    // Quit Selected App asks about the app selected.
-    model.selectApp(model.frame()->app("iTerm2")->id);
-    actions.at(11)->trigger();
-    ASSERT_TRUE(model.confirm());
-}
-
 // A settings file the user broke is said in the window and left as it is
 // through a whole run, a change made in the window included, which is said
 // to hold until Vexel quits.

@@ -124,18 +124,6 @@ TEST(MacGrouping, ZombiesReusedPidsCyclesAndDeepChains)
     EXPECT_EQ(ids.at(1034).key, "app:/Applications/Deep.app");
 }
 
-TEST(MacGrouping, CacheIsEmptiedAtItsLimit)
-{
-    IdentityCache cache;
-    std::vector<ProcRecord> records;
-    for (int i = 0; i < 5001; ++i)
-        records.push_back(proc(10 + i, 1, "tool" + std::to_string(i), "/Users/a/t" + std::to_string(i)));
-    (void)AppIdentity::resolve(records, rules, &cache);
-    EXPECT_EQ(cache.size(), 5001u);
-    (void)AppIdentity::resolve({proc(9, 1, "one-more", "/Users/a/one-more")}, rules, &cache);
-    EXPECT_EQ(cache.size(), 1u);
-}
-
 TEST(MacGrouping, SumsEstimatesAndSorts)
 {
     auto a = proc(10, 1, "a", "/Users/a/a");

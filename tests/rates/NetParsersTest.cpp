@@ -26,18 +26,6 @@ std::string ssLine(uint64_t inode, int pid, uint64_t in, uint64_t out, const cha
 
 } // namespace
 
-TEST(NettopParser, PidsAfterTheLastDotAndRepeatedPidsAddUp)
-{
-    const auto counters = NettopParser::parse(fixture("nettop-macos.txt"));
-    EXPECT_EQ(counters.size(), 5u);
-    EXPECT_EQ(counters.at(455), (NetCounter{98311544 + 1024, 4211002 + 2048}));
-    EXPECT_EQ(counters.at(1234), (NetCounter{100, 200}));
-    EXPECT_EQ(counters.at(8812), (NetCounter{5500120, 120443}));
-    EXPECT_FALSE(counters.contains(99));
-    EXPECT_TRUE(NettopParser::parse("").empty());
-    EXPECT_EQ(NettopParser::parse("web-helper.1234,100,200\nweb-helper.1234,1,2").at(1234), (NetCounter{101, 202}));
-}
-
 TEST(SsParser, CapturedSocketsOfThisMachine)
 {
     const auto sockets = SsParser::parse(fixture("ss-tinpHeO-debian12.txt"));

@@ -23,35 +23,6 @@ protected:
 
 } // namespace
 
-TEST(ReportValues, RoundingTimesAndWholeNumbers)
-{
-    using namespace ReportValues;
-    EXPECT_EQ(percent(0.0625), 6.3); // 6.25 exactly: half away from zero, not to even
-    EXPECT_EQ(machinePercent(1.7), 100.0);
-    EXPECT_EQ(wholeRate(1234.99), 1234);
-    for (const double odd : {-5.0, std::nan(""), 1e30})
-        EXPECT_EQ(wholeRate(odd), 0) << odd;
-    EXPECT_EQ(iso8601(1795000006.9), "2026-11-18T11:06:46Z");
-    EXPECT_EQ(parseISO8601("2026-11-18T12:06:46+01:00"), 1795000006.0);
-    for (const char* bad : {"", "2026-11-18T11:06:46", "2026-13-18T11:06:46Z", "2026-11-18T11:06:46+1"})
-        EXPECT_FALSE(parseISO8601(bad)) << bad;
-}
-
-TEST(ReportServiceSleeping, RealUseSleepsASecondBetweenItsTwoSamples)
-{
-    TempFolder folder("vexel-reports");
-    auto world = warmDemoWorld();
-    VexelService service(
-        VexelPaths(folder.path()), TimeZone::fixed(0), currentTime, [&] { return world->monitor(); },
-        VexelService::Settle::sleeping, Platform::macOS);
-    const double before = currentTime();
-    const Frame& frame = service.frame();
-    EXPECT_GE(frame.interval, 0.99);
-    EXPECT_GE(frame.time - before, 0.99);
-    (void)service.status();
-    EXPECT_EQ(world->processSource->served, 2);
-}
-
 TEST_F(ReportService, AbsentReadingsLeaveTheirKeysOut)
 {
     DemoService plain(folder.path(), DemoService::World::still);

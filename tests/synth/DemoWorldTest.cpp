@@ -1,20 +1,8 @@
 #include "synth/DemoWorld.h"
-#include "history/FramePoints.h"
 
 #include <gtest/gtest.h>
 
 using namespace vexel;
-
-namespace {
-
-Frame settled(DemoWorld& world, Monitor& monitor)
-{
-    (void)monitor.sample(world.now(), {.everyone = true, .network = true});
-    world.advance(2);
-    return monitor.sample(world.now(), {.everyone = true, .network = true});
-}
-
-} // namespace
 
 // Which processes make up which app in the demo world, and that two worlds
 // advanced alike are identical, is pinned by the golden app lists and app
@@ -84,23 +72,4 @@ TEST(Frame, AppsByNameEqualBeforeContaining)
     frame.apps = {helper, notes};
     EXPECT_EQ(frame.app("notes")->id, "app:b");
     EXPECT_EQ(frame.app("HELP")->id, "app:a");
-}
-
-TEST(Frame, HistoryPointsTurnRatesIntoAmountsOverTheInterval)
-{
-    DemoWorld world;
-    auto monitor = world.monitor();
-    const Frame frame = settled(world, *monitor);
-    const auto [sys, apps] = historyPoints(frame);
-    EXPECT_EQ(sys.t, frame.time - 2);
-    EXPECT_EQ(sys.dur, 2);
-    EXPECT_DOUBLE_EQ(sys.cpu, frame.system.cpu.user + frame.system.cpu.system);
-    EXPECT_DOUBLE_EQ(sys.diskW, frame.system.disk.writeRate * 2);
-    EXPECT_EQ(sys.power, frame.system.battery->powerW);
-    ASSERT_EQ(apps.size(), frame.apps.size());
-    const auto& chrome = apps.front();
-    EXPECT_EQ(chrome.app, "app:/Applications/Google Chrome.app");
-    EXPECT_DOUBLE_EQ(chrome.cpu, frame.apps.front().cpu);
-    EXPECT_DOUBLE_EQ(chrome.net, (frame.apps.front().netIn + frame.apps.front().netOut) * 2);
-    EXPECT_DOUBLE_EQ(chrome.energy, *frame.apps.front().energyW * 2);
 }

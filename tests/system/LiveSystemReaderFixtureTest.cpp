@@ -305,30 +305,3 @@ TEST(LiveSystemReaderOnFixtures, ArmBigLittleLevelsAndAnEmptyTree)
     auto expected = SystemSnapshot::empty(7);
     EXPECT_EQ(empty, expected);
 }
-
-TEST(LiveSystemReaderOnFixtures, VolumesAndDeviceListsAreCachedForTheirIntervals)
-{
-    FixtureTree tree("vm");
-    auto roots = tree.roots();
-    auto calls = std::make_shared<int>(0);
-    roots.capacity = [calls](const std::string&) -> std::optional<FsCapacity> {
-        ++*calls;
-        return FsCapacity{1000, 100 * static_cast<uint64_t>(*calls)};
-    };
-    tree.write("proc/diskstats", " 254 0 vda 0 0 0 0 0 0 0 0 0 0 0\n 8 0 sdb 0 0 0 0 0 0 0 0 0 0 0\n");
-    LiveSystemReader reader(roots);
-    EXPECT_EQ(reader.read(0).disk.volumes.at(0).available, 100u);
-    EXPECT_EQ(reader.read(29.9).disk.volumes.at(0).available, 100u);
-    EXPECT_EQ(reader.read(30).disk.volumes.at(0).available, 200u);
-    EXPECT_EQ(*calls, 2);
-
-    // A disk plugged in at 31 s is counted once the device list is taken again, at 60 s.
-    tree.write("sys/block/sdb/device/.keep", "");
-    tree.write("proc/diskstats", " 254 0 vda 0 0 0 0 0 0 0 0 0 0 0\n 8 0 sdb 0 0 0 0 0 0 2048 0 0 0 0\n");
-    EXPECT_EQ(reader.read(31).disk.writeRate, 0);
-    tree.write("proc/diskstats", " 254 0 vda 0 0 0 0 0 0 0 0 0 0 0\n 8 0 sdb 0 0 0 0 0 0 4096 0 0 0 0\n");
-    EXPECT_EQ(reader.read(59).disk.writeRate, 0);
-    EXPECT_EQ(reader.read(61).disk.writeRate, 0); // first sight of sdb: nothing to compare with
-    tree.write("proc/diskstats", " 254 0 vda 0 0 0 0 0 0 0 0 0 0 0\n 8 0 sdb 0 0 0 0 0 0 6144 0 0 0 0\n");
-    EXPECT_DOUBLE_EQ(reader.read(62).disk.writeRate, 2048.0 * 512);
-}

@@ -14,12 +14,3 @@ TEST(TextScan, NumbersAreWholeOrNothing)
         EXPECT_FALSE(TextScan::toU64(bad)) << bad;
     EXPECT_FALSE(TextScan::toDouble("1.5.2"));
 }
-
-TEST(TextScan, HexEscapes)
-{
-    EXPECT_EQ(TextScan::unescapeHex("USB\\x20STICK"), "USB STICK");
-    // Cut short or not hexadecimal: left as it stands.
-    EXPECT_EQ(TextScan::unescapeHex("\\x2"), "\\x2");
-    EXPECT_EQ(TextScan::unescapeHex("\\x+1z"), "\\x+1z");
-    EXPECT_EQ(TextScan::unescapeHex("\\xzz"), "\\xzz");
-}
