@@ -20,25 +20,9 @@ constexpr unsigned perAddressLimit = 8;
 constexpr size_t connectionMemory = 16 * 1024;
 constexpr unsigned idleSeconds = 10;
 
-MHD_Result answerWith(MHD_Connection* connection, unsigned status, const std::string& text,
-    const char* type = "text/plain; charset=utf-8")
-{
-    MHD_Response* response
-        = MHD_create_response_from_buffer(text.size(), const_cast<char*>(text.data()), MHD_RESPMEM_MUST_COPY);
-    if (response == nullptr)
-        return MHD_NO;
-    MHD_add_response_header(response, MHD_HTTP_HEADER_CONTENT_TYPE, type);
-    if (status == MHD_HTTP_METHOD_NOT_ALLOWED)
-        MHD_add_response_header(response, MHD_HTTP_HEADER_ALLOW, "GET, HEAD");
-    if (status == MHD_HTTP_UNAUTHORIZED)
-        MHD_add_response_header(response, MHD_HTTP_HEADER_WWW_AUTHENTICATE, "Bearer");
-    const MHD_Result queued = MHD_queue_response(connection, status, response);
-    MHD_destroy_response(response);
-    return queued;
-}
-
-// The text itself, kept alive by the answer that sends it: no copy.
-MHD_Result answerWithText(MHD_Connection* connection, std::shared_ptr<const std::string> text, MetricsFormat format)
+// Queues `text` as the answer, kept alive by the answer that sends it: no copy.
+MHD_Result answerWith(
+    MHD_Connection* connection, unsigned status, std::shared_ptr<const std::string> text, const std::string& type)
 {
     auto* holder = new std::shared_ptr<const std::string>(std::move(text));
     MHD_Response* response = MHD_create_response_from_buffer_with_free_callback_cls((*holder)->size(),
@@ -48,10 +32,20 @@ MHD_Result answerWithText(MHD_Connection* connection, std::shared_ptr<const std:
         delete holder;
         return MHD_NO;
     }
-    MHD_add_response_header(response, MHD_HTTP_HEADER_CONTENT_TYPE, std::string(contentType(format)).c_str());
-    const MHD_Result queued = MHD_queue_response(connection, MHD_HTTP_OK, response);
+    MHD_add_response_header(response, MHD_HTTP_HEADER_CONTENT_TYPE, type.c_str());
+    if (status == MHD_HTTP_METHOD_NOT_ALLOWED)
+        MHD_add_response_header(response, MHD_HTTP_HEADER_ALLOW, "GET, HEAD");
+    if (status == MHD_HTTP_UNAUTHORIZED)
+        MHD_add_response_header(response, MHD_HTTP_HEADER_WWW_AUTHENTICATE, "Bearer");
+    const MHD_Result queued = MHD_queue_response(connection, status, response);
     MHD_destroy_response(response);
     return queued;
+}
+
+// Anything but the metrics: a line saying why.
+MHD_Result refuse(MHD_Connection* connection, unsigned status, const char* why)
+{
+    return answerWith(connection, status, std::make_shared<const std::string>(why), "text/plain; charset=utf-8");
 }
 
 // Compares without stopping at the first difference, so that the time taken
@@ -69,23 +63,23 @@ MHD_Result answer(void* self, MHD_Connection* connection, const char* url, const
 {
     const auto& server = *static_cast<const MetricsServer*>(self);
     if (std::strcmp(url, "/metrics") != 0)
-        return answerWith(connection, MHD_HTTP_NOT_FOUND, "Vexel serves its metrics at /metrics.\n");
+        return refuse(connection, MHD_HTTP_NOT_FOUND, "Vexel serves its metrics at /metrics.\n");
     if (std::strcmp(method, MHD_HTTP_METHOD_GET) != 0 && std::strcmp(method, MHD_HTTP_METHOD_HEAD) != 0)
-        return answerWith(connection, MHD_HTTP_METHOD_NOT_ALLOWED, "Only GET and HEAD.\n");
+        return refuse(connection, MHD_HTTP_METHOD_NOT_ALLOWED, "Only GET and HEAD.\n");
     if (const auto& token = server.token()) {
         const char* given = MHD_lookup_connection_value(connection, MHD_HEADER_KIND, MHD_HTTP_HEADER_AUTHORIZATION);
         const std::string_view credentials = given == nullptr ? "" : given;
         if (!credentials.starts_with("Bearer ") || !sameSecret(TextScan::trim(credentials.substr(7)), *token))
-            return answerWith(connection, MHD_HTTP_UNAUTHORIZED, "A bearer token is needed.\n");
+            return refuse(connection, MHD_HTTP_UNAUTHORIZED, "A bearer token is needed.\n");
     }
     const auto texts = server.texts();
     if (!texts.prometheus)
-        return answerWith(connection, MHD_HTTP_SERVICE_UNAVAILABLE,
+        return refuse(connection, MHD_HTTP_SERVICE_UNAVAILABLE,
             "Vexel hasn't taken its first reading yet, or another process records this machine.\n");
     const char* accept = MHD_lookup_connection_value(connection, MHD_HEADER_KIND, MHD_HTTP_HEADER_ACCEPT);
     const MetricsFormat format = formatFor(accept == nullptr ? "" : accept);
-    return answerWithText(
-        connection, format == MetricsFormat::openMetrics ? texts.openMetrics : texts.prometheus, format);
+    return answerWith(connection, MHD_HTTP_OK,
+        format == MetricsFormat::openMetrics ? texts.openMetrics : texts.prometheus, std::string(contentType(format)));
 }
 
 } // namespace
